@@ -1,0 +1,240 @@
+#pragma once
+
+#include "app/EventGate.h"
+#include "device/AttachedDrives.h"
+#include "device/DeviceStatus.h"
+#include "device/PasswordRecords.h"
+#include "device/TimeStatus.h"
+#include "platform/Alerts.h"
+#include "platform/Platform.h"
+#include "settings/AreaSettings.h"
+#include "settings/SettingsModel.h"
+#include "ui/Forms.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QModelIndex;
+
+namespace zelto {
+
+/// The one controller: it owns the windows and all state, and every button, tick and device event
+/// ends up here. Each section below is one source file, in the folder of its topic; a section's
+/// fields come first, then what the windows call, what the world calls, and what it does itself.
+///
+/// Everything runs on the main thread. Operations that send commands to the drive block until the
+/// drive has answered (5 s at the most for each command); those that say so show an alert, run the
+/// disk tool or pause, and block for as long as that takes, with the gate closed to other events.
+class AppDelegate {
+public:
+    enum class TerminateReply { TerminateCancel, TerminateNow };
+
+    explicit AppDelegate(const Platform& platform);
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
+    ~AppDelegate();
+
+    // --- Start-up, relocation, shutdown: app/AppDelegate_Startup.cpp --------------------------
+
+    /// Does nothing.
+    void applicationWillFinishLaunching();
+    /// Relocates the program when it runs from a mounted volume; otherwise resets all fields,
+    /// starts the timer and discovery, and opens the first window.
+    void applicationDidFinishLaunching();
+    /// Refuses while first-time set-up is under way.
+    [[nodiscard]] TerminateReply applicationShouldTerminate() const;
+    /// Always true: closing the last window is a request to quit.
+    [[nodiscard]] bool applicationShouldTerminateAfterLastWindowClosed() const;
+    /// Asks the application to quit, twice; the second request is harmless.
+    void TerminateApplication();
+
+    [[nodiscard]] bool isAlreadyBooted(const std::filesystem::path& path) const;
+    /// Brings the copy at `destination` up to date with `source`. Reports nothing.
+    void CopyApplicationFile(const std::filesystem::path& source,
+                             const std::filesystem::path& destination);
+    /// Starts the bundle at `path` and waits until the opener has exited.
+    void ExecuteTempApp(const std::filesystem::path& path);
+    /// Clears the user-immutable flag of `path` and waits until the flag tool has exited.
+    void ReleaseLock(const std::filesystem::path& path);
+
+    // --- Tool area: app/AppDelegate_ToolArea.cpp ----------------------------------------------
+
+    /// Erases the disk and gives it one FAT volume for the tool. True on a clean exit of the tool.
+    [[nodiscard]] bool FormatDrive(const std::string& bsdName);
+    /// Copies the running bundle onto the disk's first partition. Reports a failed copy itself; a
+    /// volume that is not mounted is false without a message.
+    [[nodiscard]] bool CopyToolFile(const std::string& bsdName);
+    /// The 1-based number of the drive's first secure area; left as it is when there is none.
+    /// False, after an alert, when the area table cannot be read.
+    [[nodiscard]] bool GetSecureAreaDiskNumber(std::uint32_t& diskNumber);
+
+    // --- Volumes: device/AppDelegate_Volumes.cpp ----------------------------------------------
+
+    /// Fills g_BsdNameList with the volumes of the chosen drive's disk `diskNumber`, or with those
+    /// of all its disks (0). Empty when the drive is not found.
+    void GetBsdNameList(std::uint8_t diskNumber);
+    /// Unmounts (`eject` 0) or ejects every mounted volume of the list; all are tried. True when
+    /// every run of the disk tool succeeded.
+    [[nodiscard]] bool UnmountVolume(const std::vector<std::string>& bsdNames, std::uint8_t eject);
+    /// Waits until the drive is ready: ten status reads, a second apart. Reports failure itself and
+    /// ends the application when the drive never gets ready.
+    [[nodiscard]] bool SpinUpDrive();
+
+    // --- Dispatch and selection: session/AppDelegate_Dispatch.cpp -----------------------------
+
+    /// Opens the window that the chosen drive's security state calls for.
+    void ProcessBySecurityState();
+    /// Fills the selection window from the list of drives; does not bring it forward.
+    void DisplaySelectZeltoWindow();
+    void SelectZeltoUpdateAction();
+    void SelectZeltoOKAction();
+    void SelectZeltoCancelAction();
+
+    // --- Log-in: session/AppDelegate_Authentication.cpp ---------------------------------------
+
+    /// Whether the timer fills in the remaining time on the log-in window.
+    bool DisplayRemainingTimeAuthenticateWindow = false;
+
+    void DisplayAuthenticateWindow(bool firstStep, const QString& message);
+    /// Enables the submit button for an acceptable password only.
+    void AuthenticateTextDidChange();
+    void AuthenticateSubmitAction();
+    void AuthenticateCancelAction();
+    /// Writes the digest of a password of at most 32 characters; more is a programming error and
+    /// ends the process.
+    void SetPasswordData(const QString& password, PasswordDigest& digest) const;
+
+    // --- Unlocked drive: session/AppDelegate_Unlocked.cpp -------------------------------------
+
+    void DisplayUnlockedWindow();
+    void UnlockedOKAction();
+    void UnlockedLogOffAction();
+    void UnlockedSetupAction();
+    void DisplayUnlockingWindow();
+    void UnlockingLogOffAction();
+    void UnlockingCancelAction();
+    void UnlockingSetupAction();
+    /// Unmounts the secure area's volumes, then locks the drive. A busy volume is reported and
+    /// leaves the drive unlocked.
+    void Logout();
+
+    // --- Timer and clocks: session/AppDelegate_Timer.cpp --------------------------------------
+
+    /// The drive has said during this run that its clock is not valid.
+    bool TimeStatusInvalid = false;
+
+    /// The tick, once a second.
+    void TimerHandler();
+    /// Writes the computer's time, UTC, into the drive's clock.
+    [[nodiscard]] IOReturn SetCurrentTime();
+    void MainSettingsSetTimeAction();
+    void UpdateCheckBoxShowRemainingTime();
+    /// Despite its name it writes to the drive, not to the computer.
+    void UpdateUserDefaultsShowRemainingTime();
+
+    // --- Messages: session/AppDelegate_Messages.cpp -------------------------------------------
+
+    /// Reports a failed command, by its result code and the drive's sense data. Shows an alert.
+    void ErrorMessageBox(IOReturn result);
+    /// The one text-change handler of all windows, routed by TextInputMode.
+    void controlTextDidChange();
+
+    // --- First-time set-up: settings/AppDelegate_Setup.cpp ------------------------------------
+
+    /// Sends everything that a new drive needs. Reports failure itself; nothing is undone.
+    [[nodiscard]] bool ZeltoInitializeSettings();
+    void ZeltoSettingOKAction();
+
+    // --- Commit: settings/AppDelegate_Commit.cpp ----------------------------------------------
+
+    void MainSettingsOKAction();
+    void MainSettingsCancelAction();
+    void MainSettingsEncryptionKeyAuto();
+    void MainSettingsEncryptionKeyManual();
+    void MainSettingsAutoClearEnabledAction();
+    void MainSettingsAutoClearDaysAction();
+    void MainSettingsAutoClearMinutesAction();
+    void MainSettingsAutoLogOffEnabledAction();
+    void MainSettingsShowRemainingTimeEnabledAction();
+    /// Sends changed passwords and, always, both periods. Reports failure itself.
+    [[nodiscard]] bool ZeltoChangeSettings();
+
+    // --- Main settings window: settings/AppDelegate_MainSettings.cpp --------------------------
+
+    /// With `refresh` false reads the drive and opens the window; with true only recomputes what
+    /// follows from the area table as it stands.
+    void DisplayMainSettingsWindow(bool refresh);
+    void UpdateMainSettingsOKButton();
+    void UpdateMainSettingsOKButtonAtInitialization();
+    void UpdateMainSettingsOKButtonAtChanging();
+    void MainSettingsTextDidChenge();
+
+    // --- Areas: settings/AppDelegate_Areas.cpp ------------------------------------------------
+
+    [[nodiscard]] int numberOfRowsInTableView() const;
+    /// The text of a cell; `column` is the column's identifier, "ColumnIDDisk" say.
+    [[nodiscard]] QString tableViewObjectValue(const QString& column, int row) const;
+    void MainSettingsAreaSettingsAction();
+    void AreaSettingsTextDidChange();
+    void UpdateAreaSettingsWindow();
+    void AreaSettingsDisk1SecureCheckBoxAction();
+    void AreaSettingsDisk2SecureCheckBoxAction();
+    void AreaSettingsDisk3SecureCheckBoxAction();
+    void AreaSettingsOKAction();
+    void AreaSettingsCancelAction();
+
+    // --- Passwords: settings/AppDelegate_Passwords.cpp ----------------------------------------
+
+    void MainSettingsPasswordSettingsAction();
+    void DisplayPasswordSettingsWindow();
+    void DisplayPasswordChangeWindow();
+    void UpdatePasswordSettingsWindow();
+    void UpdatePasswordChangeWindow();
+    void PasswordSettingsUse1stAction();
+    void PasswordSettingsUse1stAnd2ndAction();
+    void PasswordSettingsOKAction();
+    void PasswordSettingsCancelAction();
+    void PasswordChangeOKAction();
+    void PasswordChangeCancelAction();
+
+    // --- Encryption key and clearing: settings/AppDelegate_Key.cpp ----------------------------
+
+    void MainSettingsEncryptionKeyAction();
+    void UpdateEncryptionKeyWindow();
+    void EncryptionKeyOKAction();
+    void EncryptionKeyCancelAction();
+    void MainSettingsAutoClearEraseAction();
+    void MainSettingsClearAllAction();
+
+    // --- State shared by several topics -------------------------------------------------------
+
+    AttachedDrives Drives;
+    SettingsModel Settings;
+    ChangedFlags Changed;
+    SetupProgress Setup;
+    /// Which window the text-change handler serves; see TextInputMode in ui/Forms.h.
+    std::uint8_t TextInputMode = 0;
+
+    // The windows. Their controls are their own members, under the controls' given names.
+    Form<Ui::SelectZeltoWindow> SelectZeltoWindow;
+    Form<Ui::AuthenticateWindow> AuthenticateWindow;
+    Form<Ui::UnlockedWindow> UnlockedWindow;
+    Form<Ui::UnlockingWindow> UnlockingWindow;
+    Form<Ui::ZeltoSettingWindow> ZeltoSettingWindow;
+    Form<Ui::MainSettingsWindow> MainSettingsWindow;
+    Form<Ui::AreaSettingsWindow> AreaSettingsWindow;
+    Form<Ui::PasswordSettingsWindow> PasswordSettingsWindow;
+    Form<Ui::PasswordChangeWindow> PasswordChangeWindow;
+    Form<Ui::EncryptionKeyWindow> EncryptionKeyWindow;
+
+private:
+    Platform m_platform;
+    EventGate m_gate;
+};
+
+} // namespace zelto

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace zelto {
+
+/// One mounted file system. Both texts are UTF-8.
+struct MountedFileSystem {
+    /// Where it is mounted.
+    std::string f_mntonname;
+    /// What it is mounted from: a device path such as "/dev/sdb1".
+    std::string f_mntfromname;
+};
+
+class MountTable {
+public:
+    MountTable() = default;
+    MountTable(const MountTable&) = delete;
+    MountTable& operator=(const MountTable&) = delete;
+    virtual ~MountTable() = default;
+
+    /// The mounted file systems in the system's order, without waiting for any of them. Empty when
+    /// the table cannot be read.
+    [[nodiscard]] virtual std::vector<MountedFileSystem> getmntinfo() = 0;
+};
+
+/// The system's disk tool, as a program would run it: arguments in, exit status out.
+class DiskTool {
+public:
+    DiskTool() = default;
+    DiskTool(const DiskTool&) = delete;
+    DiskTool& operator=(const DiskTool&) = delete;
+    virtual ~DiskTool() = default;
+
+    /// Runs the tool and waits until it has ended, however long that takes: a slow flush and the
+    /// formatting of a large volume may take minutes. Windows go on repainting meanwhile, but take
+    /// no input. The result is the exit status, 0 for success.
+    ///
+    ///   "umount" NAME   unmounts that one volume; never forced, never lazy
+    ///   "eject" NAME    unmounts every volume of the disk that NAME is on, then ejects the medium;
+    ///                   the USB device itself keeps its power and stays reachable
+    ///   "eraseDisk" "MS-DOS" LABEL "MBR" NAME
+    ///                   wipes the disk, writes a master boot record with one FAT partition of that
+    ///                   label, and leaves the volume mounted
+    [[nodiscard]] virtual int run(const std::vector<std::string>& arguments) = 0;
+
+    /// The BSD name of a disk's partition, counted from 1: "disk2" and 1 give "disk2s1" where the
+    /// system names partitions so, "sdb" and 1 give "sdb1" on Linux.
+    [[nodiscard]] virtual std::string partitionName(const std::string& disk,
+                                                    unsigned number) const = 0;
+
+    /// The names of the programs of this user that keep one of these disks or partitions busy,
+    /// sorted, without repetition; empty when none is known. Asked after a failed run.
+    [[nodiscard]] virtual std::vector<std::string>
+    holders(const std::vector<std::string>& bsdNames) const = 0;
+};
+
+} // namespace zelto

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "device/AreaInfo.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+
+namespace zelto {
+
+/// The password choices as the dialogs edit them. The strings hold passwords in clear until the
+/// commit has digested them; `wipe` them when they are done with.
+struct _tagPasswordSettingsParameters {
+    /// 0: only the first password; 1: first and second.
+    bool Use1stAnd2ndPassword = false;
+    /// In force now; only a password change asks for them.
+    QString strCurrent1stPassword = QStringLiteral("");
+    QString strCurrent2ndPassword = QStringLiteral("");
+    QString strNew1stPassword = QStringLiteral("");
+    QString strNew2ndPassword = QStringLiteral("");
+    /// Tries allowed for the second password, 1 to 99; 0 when not given yet. Sent as its low byte.
+    std::int32_t NumberOfTrials = 0;
+};
+
+struct _tagAreaInfoViewData {
+    /// The area's type byte as the drive reports it.
+    std::uint8_t type = 0;
+    /// MiB, rounded down; all ones for an area that spans the whole drive.
+    std::uint64_t capacity = 0;
+};
+
+/// The area table as the main settings window shows it: three areas of the user and the tool area.
+struct _tagAreaInfosViewData {
+    static constexpr std::uint16_t Capacity = 4;
+
+    std::uint16_t areaCount = 0;
+    std::array<_tagAreaInfoViewData, Capacity> areaData{};
+};
+
+/// The settings being edited that live outside the windows' controls.
+struct SettingsModel {
+    _tagAreaInfosViewData AreaInfosViewData;
+    /// The drive's area table, rebuilt by the area settings.
+    AreaInfoTable AreaInfos;
+    /// Sectors; in first-time set-up less those of the tool area.
+    std::uint64_t TotalSectorCount = 0;
+    /// Sizes chosen for Disk1 to Disk3 in MiB; 0: no such area.
+    std::array<std::uint64_t, 3> AreaSettingsDiskCapacity{};
+    _tagPasswordSettingsParameters PasswordSettingsParameters;
+    /// The key entered by hand, hexadecimal digits; empty when none.
+    QString StrEncryptionKey = QStringLiteral("");
+    /// The drive was never set up: the main settings window is in first-time set-up.
+    bool InitialSetting = false;
+    /// The drive had a secure area when the window opened.
+    bool SecureAreaAlreadyExist = false;
+    /// The area table as it stands has a secure area.
+    bool SecureAreaExist = false;
+};
+
+/// What the user has touched in the main settings window. Nothing is ever cleared during a run.
+struct ChangedFlags {
+    bool ChangePassword = false;
+    bool AreaSettingsPerformed = false;
+    bool AutoClearSettingsChanged = false;
+    bool AutoLogOffSettingsChanged = false;
+    bool ChangeRemainingTimeSetting = false;
+};
+
+/// First-time set-up after its commit, advanced by the timer.
+struct SetupProgress {
+    enum State : std::uint8_t {
+        NoSetup = 0,
+        WaitingForReconnect = 1,
+        WaitingForToolVolume = 2,
+        FormatAndCopyDue = 3,
+        /// Successfully or not.
+        Finished = 4,
+    };
+    /// Ticks that each of the two waits allows.
+    static constexpr std::int32_t WaitTicks = 60;
+
+    std::uint8_t InitialSettingState = NoSetup;
+    /// Ticks left to wait; its parity drives the blinking.
+    std::int32_t WaitCount = 0;
+    /// 1-based number of the tool area in the table that was sent.
+    std::uint8_t ReservedAreaDiskNumber = 0;
+
+    [[nodiscard]] bool isUnderWay() const {
+        return InitialSettingState != NoSetup && InitialSettingState != Finished;
+    }
+};
+
+} // namespace zelto

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDialog>
+
+namespace zelto {
+
+/// A window of the utility. The controller shows and hides it; the user's own ways of closing it
+/// (Escape, the title bar) do what its cancel button does.
+class Window : public QDialog {
+    Q_OBJECT
+
+public:
+    /// How a modal run ended. Only OK keeps what the dialog holds.
+    enum ModalCode { ModalOK = 0, ModalCancel = 1 };
+
+    Window();
+
+    /// Centres the window on its screen, shows it, brings it to the front and gives it the focus.
+    void centreAndMakeKeyAndOrderFront();
+    /// Takes the window off the screen without asking anybody.
+    void orderOut();
+
+    /// Runs the window as an application-modal dialog over `parent` and returns its code, a
+    /// ModalCode. Blocks until the dialog has ended; the window is off the screen then.
+    [[nodiscard]] int runModal(QWidget* parent);
+    /// Ends a modal run.
+    void stopModal(ModalCode code) { done(code); }
+
+    /// Escape and the title bar.
+    void reject() override;
+
+Q_SIGNALS:
+    /// The user wants the window closed without using one of its buttons.
+    void closeRequested();
+
+private:
+    bool m_modalRun = false;
+};
+
+/// A Designer form as a window: its controls are reached under the names they have in the form.
+template <typename Layout>
+class Form : public Window, public Layout {
+public:
+    Form() { this->setupUi(this); }
+};
+
+} // namespace zelto
