@@ -3,6 +3,7 @@
 #include "app/EventGate.h"
 #include "device/AttachedDrives.h"
 #include "device/DeviceStatus.h"
+#include "device/Discovery.h"
 #include "device/PasswordRecords.h"
 #include "device/TimeStatus.h"
 #include "platform/Alerts.h"
@@ -13,13 +14,11 @@
 
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
-
-class QModelIndex;
 
 namespace zelto {
 
@@ -62,6 +61,10 @@ public:
     /// Clears the user-immutable flag of `path` and waits until the flag tool has exited.
     void ReleaseLock(const std::filesystem::path& path);
 
+    /// The outlet of the main window; nothing else uses it.
+    [[nodiscard]] QWidget* window() const { return m_window; }
+    void setWindow(QWidget* window) { m_window = window; }
+
     // --- Tool area: app/AppDelegate_ToolArea.cpp ----------------------------------------------
 
     /// Erases the disk and gives it one FAT volume for the tool. True on a clean exit of the tool.
@@ -101,6 +104,8 @@ public:
     bool DisplayRemainingTimeAuthenticateWindow = false;
 
     void DisplayAuthenticateWindow(bool firstStep, const QString& message);
+    /// The one text-change handler of all windows, routed by TextInputMode.
+    void controlTextDidChange();
     /// Enables the submit button for an acceptable password only.
     void AuthenticateTextDidChange();
     void AuthenticateSubmitAction();
@@ -141,8 +146,6 @@ public:
 
     /// Reports a failed command, by its result code and the drive's sense data. Shows an alert.
     void ErrorMessageBox(IOReturn result);
-    /// The one text-change handler of all windows, routed by TextInputMode.
-    void controlTextDidChange();
 
     // --- First-time set-up: settings/AppDelegate_Setup.cpp ------------------------------------
 
@@ -233,8 +236,49 @@ public:
     Form<Ui::EncryptionKeyWindow> EncryptionKeyWindow;
 
 private:
+    // app/AppDelegate_Outlets.cpp: which control calls which operation.
+    void connectSessionWindows();
+    void connectSettingsWindows();
+
+    // app/AppDelegate_Startup.cpp
+    void relocate(const std::filesystem::path& bundle);
+    void startSession();
+    void resetFields();
+    /// One request to quit: granted or refused by applicationShouldTerminate.
+    void terminate();
+
+    // session/AppDelegate_Messages.cpp: every message and every wait goes through these, so that
+    // the gate is closed while the message is up or the wait lasts.
+    /// An alert with the application's title and the one button "OK".
+    void ShowMessage(const QString& message, const QString& detail = {});
+    /// A confirmation that Return and Escape cancel; true when the user pressed OK.
+    [[nodiscard]] bool Confirm(const char* messageKey);
+    /// IDS_ERR_UNMOUNT, with the programs that keep the volumes of g_BsdNameList busy.
+    void ReportUnmountFailure();
+    AlertButton RunAlertPanel(const AlertPanel& panel);
+    [[nodiscard]] int RunDiskTool(const std::vector<std::string>& arguments);
+    void Pause(std::chrono::seconds duration);
+
+    // session/AppDelegate_Dispatch.cpp
+    void processFullLock();
+    void offerToSetClock();
+
+    // session/AppDelegate_Authentication.cpp
+    void reportRefusedPassword();
+
+    // session/AppDelegate_Timer.cpp
+    void blinkSetupText();
+    void advanceSetup();
+    void giveUpWaiting();
+    void formatAndCopy();
+    void showDriveTime(const TimeStatus& status);
+
+    [[nodiscard]] UsbDeviceInterface& Device() const { return *Drives.CurrentUsbIntf; }
+
     Platform m_platform;
     EventGate m_gate;
+    DiscoveryContext m_discovery;
+    QWidget* m_window = nullptr;
 };
 
 } // namespace zelto

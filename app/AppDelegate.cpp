@@ -1,0 +1,23 @@
+#include "app/AppDelegate.h"
+
+#include "device/IORegistry.h"
+
+namespace zelto {
+
+AppDelegate::AppDelegate(const Platform& platform)
+    : m_platform(platform),
+      m_gate(platform.application),
+      m_discovery{platform.usb, Drives, [this](UsbEvent event, const std::function<void()>& run) {
+                      m_gate.deliver(event == UsbEvent::FirstMatch ? EventGate::Event::Arrival
+                                                                   : EventGate::Event::Removal,
+                                     run);
+                  }} {
+    connectSessionWindows();
+    connectSettingsWindows();
+}
+
+AppDelegate::~AppDelegate() {
+    g_BsdNameList.clear();
+}
+
+} // namespace zelto

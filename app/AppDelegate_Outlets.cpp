@@ -1,0 +1,50 @@
+#include "app/AppDelegate.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace zelto {
+namespace {
+
+template <typename Button, typename Action>
+void onClick(Button* button, AppDelegate* delegate, Action action) {
+    QObject::connect(button, &QAbstractButton::clicked, button,
+                     [delegate, action] { (delegate->*action)(); });
+}
+
+template <typename Action>
+void onClose(Window& window, AppDelegate* delegate, Action action) {
+    QObject::connect(&window, &Window::closeRequested, &window,
+                     [delegate, action] { (delegate->*action)(); });
+}
+
+} // namespace
+
+void AppDelegate::connectSessionWindows() {
+    onClick(SelectZeltoWindow.SelectZeltoOK, this, &AppDelegate::SelectZeltoOKAction);
+    onClick(SelectZeltoWindow.SelectZeltoUpdate, this, &AppDelegate::SelectZeltoUpdateAction);
+    onClick(SelectZeltoWindow.SelectZeltoCancel, this, &AppDelegate::SelectZeltoCancelAction);
+    onClose(SelectZeltoWindow, this, &AppDelegate::SelectZeltoCancelAction);
+
+    onClick(AuthenticateWindow.AuthenticateSubmit, this, &AppDelegate::AuthenticateSubmitAction);
+    onClick(AuthenticateWindow.AuthenticateCancel, this, &AppDelegate::AuthenticateCancelAction);
+    onClose(AuthenticateWindow, this, &AppDelegate::AuthenticateCancelAction);
+    QObject::connect(AuthenticateWindow.AuthenticateTextField, &QLineEdit::textEdited,
+                     &AuthenticateWindow, [this] { controlTextDidChange(); });
+
+    onClick(UnlockedWindow.UnlockedOK, this, &AppDelegate::UnlockedOKAction);
+    onClick(UnlockedWindow.UnlockedLogOff, this, &AppDelegate::UnlockedLogOffAction);
+    onClick(UnlockedWindow.UnlockedSetup, this, &AppDelegate::UnlockedSetupAction);
+    onClose(UnlockedWindow, this, &AppDelegate::UnlockedOKAction);
+
+    onClick(UnlockingWindow.UnlockingLogOff, this, &AppDelegate::UnlockingLogOffAction);
+    onClick(UnlockingWindow.UnlockingCancel, this, &AppDelegate::UnlockingCancelAction);
+    onClick(UnlockingWindow.UnlockingSetup, this, &AppDelegate::UnlockingSetupAction);
+    onClose(UnlockingWindow, this, &AppDelegate::UnlockingCancelAction);
+
+    onClick(ZeltoSettingWindow.ZeltoSettingOKButton, this, &AppDelegate::ZeltoSettingOKAction);
+    // The last window: closing it is a request to quit, refused while set-up is under way.
+    onClose(ZeltoSettingWindow, this, &AppDelegate::TerminateApplication);
+}
+
+} // namespace zelto

@@ -1,0 +1,56 @@
+#include "app/AppDelegate.h"
+#include "device/DeviceReads.h"
+#include "platform/Computer.h"
+#include "platform/Disks.h"
+#include "ui/Strings.h"
+
+#include <algorithm>
+
+namespace zelto {
+namespace {
+
+constexpr const char* ToolVolumeLabel = "ZELTO TOOL";
+constexpr const char* BundleName = "ZeltoAppMac.app";
+
+} // namespace
+
+bool AppDelegate::FormatDrive(const std::string& bsdName) {
+    return RunDiskTool({"eraseDisk", "MS-DOS", ToolVolumeLabel, "MBR", bsdName}) == 0;
+}
+
+bool AppDelegate::CopyToolFile(const std::string& bsdName) {
+    const std::string device = "/dev/" + m_platform.disks.partitionName(bsdName, 1);
+    const auto mounted = m_platform.mounts.getmntinfo();
+    const auto volume = std::ranges::find(mounted, device, &MountedFileSystem::f_mntfromname);
+    if (volume == mounted.end()) {
+        return false;
+    }
+
+    const std::filesystem::path source = m_platform.computer.bundlePath();
+    const std::filesystem::path destination =
+        std::filesystem::path(volume->f_mntonname) / BundleName;
+    const bool copied = [&] {
+        const EventGate::Closing closing(m_gate);
+        return m_platform.computer.copyItemAtPath(source, destination);
+    }();
+    if (!copied) {
+        ShowMessage(localized("IDS_ERR_FILE_COPY", QString::fromStdString(source.string()),
+                              QString::fromStdString(destination.string())));
+    }
+    return copied;
+}
+
+bool AppDelegate::GetSecureAreaDiskNumber(std::uint32_t& diskNumber) {
+    const auto areas = readAreaInfos(Device());
+    Settings.AreaInfos = areas.record;
+    if (areas.failed()) {
+        ErrorMessageBox(areas.result);
+        return false;
+    }
+    if (const std::uint32_t secure = Settings.AreaInfos.firstSecureDiskNumber(); secure != 0) {
+        diskNumber = secure;
+    }
+    return true;
+}
+
+} // namespace zelto

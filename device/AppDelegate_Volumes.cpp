@@ -1,0 +1,60 @@
+#include "app/AppDelegate.h"
+#include "device/DeviceReads.h"
+#include "device/IORegistry.h"
+#include "device/ZELTOctrl.h"
+#include "platform/Disks.h"
+#include "ui/Strings.h"
+
+#include <algorithm>
+
+namespace zelto {
+
+using namespace std::chrono_literals;
+
+void AppDelegate::GetBsdNameList(std::uint8_t diskNumber) {
+    g_BsdNameList.clear();
+    const ScanTarget target{.vendor = UsbIdentity::Vendor,
+                            .product = Drives.FoundPid[Drives.SelectedZeltoIndex],
+                            .serial = Drives.UsbSerial[Drives.SelectedZeltoIndex],
+                            .diskNumber = diskNumber};
+    // A drive that is not found has no volumes.
+    (void)IORegistry::Scan_ZELTOusb(m_platform.registry, target, g_BsdNameList);
+}
+
+bool AppDelegate::UnmountVolume(const std::vector<std::string>& bsdNames, std::uint8_t eject) {
+    bool allSucceeded = true;
+    for (const std::string& name : bsdNames) {
+        // Read afresh for each name: ejecting a disk has unmounted its partitions too.
+        const auto mounted = m_platform.mounts.getmntinfo();
+        if (std::ranges::find(mounted, "/dev/" + name, &MountedFileSystem::f_mntfromname) ==
+            mounted.end()) {
+            continue;
+        }
+        if (RunDiskTool({eject == 0 ? "umount" : "eject", name}) != 0) {
+            allSucceeded = false;
+        }
+    }
+    return allSucceeded;
+}
+
+bool AppDelegate::SpinUpDrive() {
+    constexpr int Tries = 10;
+    for (int triesLeft = Tries;;) {
+        const auto status = readDeviceStatus(Device(), StatusRequest::WithReadiness);
+        if (status.failed()) {
+            ErrorMessageBox(status.result);
+            return false;
+        }
+        if (status.record.isReady()) {
+            return true;
+        }
+        if (--triesLeft == 0) {
+            ShowMessage(localized("IDS_ERR_SPINUP"));
+            TerminateApplication();
+            return false;
+        }
+        Pause(1s);
+    }
+}
+
+} // namespace zelto

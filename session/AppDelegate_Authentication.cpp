@@ -1,0 +1,137 @@
+#include "app/AppDelegate.h"
+#include "device/Assertion.h"
+#include "device/DeviceReads.h"
+#include "device/ZELTOctrl.h"
+#include "digest/SHA256.h"
+#include "digest/Wipe.h"
+#include "settings/PasswordRules.h"
+#include "ui/Strings.h"
+
+#include <algorithm>
+
+namespace zelto {
+
+using namespace std::chrono_literals;
+
+void AppDelegate::DisplayAuthenticateWindow(bool firstStep, const QString& message) {
+    auto& form = AuthenticateWindow;
+    TextInputMode =
+        firstStep ? TextInput::AuthenticateFirstStep : TextInput::AuthenticateFurtherStep;
+    form.AuthenticateSubmit->setEnabled(false);
+    form.AuthenticateMessage->setText(message);
+    form.AuthenticateTextField->wipe();
+    form.AuthenticateDeviceTimeText->clear();
+    form.AuthenticateRemainingTimeText->clear();
+
+    DisplayRemainingTimeAuthenticateWindow = false;
+    if (readShowRemainingTime(Device())) {
+        const auto time = readTimeStatus(Device());
+        DisplayRemainingTimeAuthenticateWindow = !time.failed() && time.record.autoClearPeriod != 0;
+    }
+    if (!DisplayRemainingTimeAuthenticateWindow) {
+        form.AuthenticateRemainingTimeTitleText->clear();
+    }
+    form.AuthenticateTextField->setFocus();
+    form.centreAndMakeKeyAndOrderFront();
+}
+
+void AppDelegate::controlTextDidChange() {
+    switch (TextInputMode) {
+    case TextInput::MainSettings:
+        MainSettingsTextDidChenge();
+        break;
+    case TextInput::AuthenticateFurtherStep:
+    case TextInput::AuthenticateFirstStep:
+        AuthenticateTextDidChange();
+        break;
+    case TextInput::AreaSettings:
+        AreaSettingsTextDidChange();
+        break;
+    case TextInput::PasswordSettings:
+        UpdatePasswordSettingsWindow();
+        break;
+    case TextInput::PasswordChange:
+        UpdatePasswordChangeWindow();
+        break;
+    case TextInput::EncryptionKey:
+        UpdateEncryptionKeyWindow();
+        break;
+    default:
+        break;
+    }
+}
+
+void AppDelegate::AuthenticateTextDidChange() {
+    auto& form = AuthenticateWindow;
+    form.AuthenticateSubmit->setEnabled(isValidPassword(form.AuthenticateTextField->text()));
+}
+
+void AppDelegate::AuthenticateSubmitAction() {
+    auto& form = AuthenticateWindow;
+    AuthPayload payload{.firstStep = TextInputMode == TextInput::AuthenticateFirstStep};
+    SetPasswordData(form.AuthenticateTextField->text(), payload.digest);
+    AuthPayload::Bytes bytes = encodeAuthPayload(payload);
+    const IOReturn result = TKVR21_Authenticate(Device(), bytes.data(), 0);
+    wipe(payload.digest);
+    wipe(bytes);
+
+    if (result == kIOReturnNoDevice) {
+        ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
+        TerminateApplication();
+        return;
+    }
+    if (result != kIOReturnSuccess) {
+        reportRefusedPassword();
+        return;
+    }
+    form.orderOut();
+    form.AuthenticateTextField->wipe();
+    if (TextInputMode == TextInput::AuthenticateFurtherStep) {
+        DisplayUnlockedWindow();
+    } else {
+        ProcessBySecurityState();
+    }
+}
+
+/// The pauses pace repeated wrong tries.
+void AppDelegate::reportRefusedPassword() {
+    Pause(1s);
+    const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
+    if (status.failed()) {
+        ErrorMessageBox(status.result);
+        return;
+    }
+    if (saysAuthenticationFailed(status.record.sense)) {
+        ShowMessage(localized("IDS_ERR_AUTHENTICATE_FAILED"));
+        Pause(1s);
+        return;
+    }
+    if (status.record.state() == SecurityState::StateFullLock) {
+        ShowMessage(localized("IDS_ERR_ZELTO_DRIVE_LOST"));
+        AuthenticateWindow.orderOut();
+        TerminateApplication();
+    }
+}
+
+void AppDelegate::AuthenticateCancelAction() {
+    TerminateApplication();
+}
+
+void AppDelegate::SetPasswordData(const QString& password, PasswordDigest& digest) const {
+    const auto length = static_cast<std::size_t>(password.size());
+    std::array<std::uint8_t, MaximumPasswordLength> characters{};
+    assertThat(length <= characters.size(), "[passwordString length]<=32");
+
+    QByteArray encoded = password.toUtf8();
+    std::copy_n(encoded.cbegin(), std::min(length, static_cast<std::size_t>(encoded.size())),
+                characters.begin());
+    // The digest is of the characters alone, not of the padded buffer.
+    SHA256 sha;
+    sha.Init();
+    sha.Input(characters.data(), static_cast<std::uint32_t>(length));
+    sha.Get(digest.data());
+    wipe(characters);
+    wipe(encoded);
+}
+
+} // namespace zelto

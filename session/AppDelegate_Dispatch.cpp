@@ -1,0 +1,123 @@
+#include "app/AppDelegate.h"
+#include "device/DeviceReads.h"
+#include "platform/Clock.h"
+#include "session/DeviceClock.h"
+#include "ui/Strings.h"
+
+namespace zelto {
+namespace {
+
+/// What a person can do about a drive that is attached but may not be opened.
+QString accessHint(AttachedDrives::Access access) {
+    switch (access) {
+    case AttachedDrives::Access::Granted:
+        return {};
+    case AttachedDrives::Access::RuleMissing:
+        return localized("IDS_HINT_RULE_MISSING");
+    case AttachedDrives::Access::OtherSession:
+        return localized("IDS_HINT_OTHER_SESSION");
+    }
+    return {};
+}
+
+} // namespace
+
+void AppDelegate::ProcessBySecurityState() {
+    // A status that could not be read is all zero: the settings open, and what they fail to read
+    // there is reported, which beats a program that shows nothing at all.
+    const DeviceStatus status = readDeviceStatus(Device(), StatusRequest::Plain).record;
+    switch (status.state()) {
+    case SecurityState::StateNoPassword:
+        DisplayMainSettingsWindow(false);
+        break;
+    case SecurityState::StateLocked:
+        DisplayAuthenticateWindow(true, localized("IDS_ENTER_1ST_PASSWORD"));
+        break;
+    case SecurityState::StatePasswordPending:
+        DisplayAuthenticateWindow(false, localized(status.usesSecondPassword()
+                                                       ? "IDS_ENTER_2ND_PASSWORD"
+                                                       : "IDS_ENTER_1ST_PASSWORD"));
+        break;
+    case SecurityState::StateUnlocking:
+        DisplayUnlockingWindow();
+        break;
+    case SecurityState::StateFullLock:
+        processFullLock();
+        break;
+    case SecurityState::StateIdle:
+        break;
+    }
+}
+
+void AppDelegate::processFullLock() {
+    const auto time = readTimeStatus(Device());
+    if (time.failed()) {
+        return;
+    }
+    if (time.record.clockNotValid) {
+        offerToSetClock();
+        TerminateApplication();
+        return;
+    }
+    ShowMessage(localized("IDS_ERR_ZELTO_DRIVE_LOST"));
+    DisplayMainSettingsWindow(false);
+}
+
+void AppDelegate::offerToSetClock() {
+    const auto now = m_platform.clock.now();
+    const QString localTime = dateMinuteText(clockAt(now + m_platform.clock.utcOffset(now)));
+    const AlertButton answer =
+        RunAlertPanel({.title = localized("IDS_APP_TITLE"),
+                       .message = localized("IDS_FULLLOCK_TIME_STATUS_INVALID", localTime),
+                       .defaultButton = localized("OK"),
+                       .alternateButton = localized("IDS_CANCEL_BUTTON"),
+                       .onEscape = AlertButton::Alternate});
+    if (answer != AlertButton::Default) {
+        return;
+    }
+    if (const IOReturn result = SetCurrentTime(); result != kIOReturnSuccess) {
+        ErrorMessageBox(result);
+        return;
+    }
+    ShowMessage(localized("IDS_SET_CURRENT_YIME"));
+}
+
+void AppDelegate::DisplaySelectZeltoWindow() {
+    auto& form = SelectZeltoWindow;
+    const bool anyDrive = Drives.DevCnt != 0;
+    form.SelectZeltoComboBox->clear();
+    for (int index = 0; index < Drives.DevCnt; ++index) {
+        form.SelectZeltoComboBox->addItem(QString::asprintf("Device %d", index));
+    }
+    if (anyDrive) {
+        // Nothing enables it again: a list that has shown drives is not refreshed by hand.
+        form.SelectZeltoUpdate->setEnabled(false);
+    } else {
+        form.SelectZeltoComboBox->addItem(localized("IDS_ERR_NOT_FOUND_ZELTO"));
+    }
+    form.SelectZeltoComboBox->setEnabled(anyDrive);
+    form.SelectZeltoOK->setEnabled(anyDrive);
+    form.SelectZeltoComboBox->setCurrentIndex(0);
+
+    form.SelectZeltoAccessHint->setText(accessHint(Drives.RefusedAccess));
+    form.SelectZeltoAccessHint->setVisible(Drives.RefusedAccess != AttachedDrives::Access::Granted);
+}
+
+void AppDelegate::SelectZeltoUpdateAction() {
+    DisplaySelectZeltoWindow();
+}
+
+void AppDelegate::SelectZeltoOKAction() {
+    SelectZeltoWindow.orderOut();
+    const auto index =
+        static_cast<std::uint8_t>(SelectZeltoWindow.SelectZeltoComboBox->currentIndex());
+    Drives.CurrentUsbIntf = Drives.UsbIntf.at(index);
+    Drives.SelectedZeltoIndex = index;
+    ProcessBySecurityState();
+}
+
+void AppDelegate::SelectZeltoCancelAction() {
+    TerminateApplication();
+}
+
+} // namespace zelto

@@ -1,0 +1,68 @@
+#include "app/AppDelegate.h"
+#include "device/DeviceReads.h"
+#include "device/IORegistry.h"
+#include "platform/Clock.h"
+#include "platform/Disks.h"
+#include "ui/Strings.h"
+
+#include <QStringList>
+
+namespace zelto {
+
+void AppDelegate::ErrorMessageBox(IOReturn result) {
+    if (result == kIOReturnNoDevice) {
+        ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
+        return;
+    }
+    const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
+    if (status.failed()) {
+        ShowMessage(localized("IDS_COMMAND_FAIL"));
+        return;
+    }
+    const Sense& sense = status.record.sense;
+    ShowMessage(localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", QString::number(sense.key),
+                          QString::number(sense.additionalCode), QString::number(sense.qualifier)));
+}
+
+void AppDelegate::ShowMessage(const QString& message, const QString& detail) {
+    RunAlertPanel({.title = localized("IDS_APP_TITLE"),
+                   .message = message,
+                   .detail = detail,
+                   .defaultButton = localized("OK")});
+}
+
+bool AppDelegate::Confirm(const char* messageKey) {
+    return RunAlertPanel({.title = localized("IDS_APP_TITLE"),
+                          .message = localized(messageKey),
+                          .defaultButton = localized("IDS_CANCEL_BUTTON"),
+                          .alternateButton = localized("OK"),
+                          .onEscape = AlertButton::Default}) == AlertButton::Alternate;
+}
+
+void AppDelegate::ReportUnmountFailure() {
+    QStringList programs;
+    for (const std::string& program : m_platform.disks.holders(g_BsdNameList)) {
+        programs += QString::fromStdString(program);
+    }
+    ShowMessage(localized("IDS_ERR_UNMOUNT"),
+                programs.isEmpty()
+                    ? QString()
+                    : localized("IDS_HINT_BUSY_PROGRAMS", programs.join(QStringLiteral(", "))));
+}
+
+AlertButton AppDelegate::RunAlertPanel(const AlertPanel& panel) {
+    const EventGate::Closing closing(m_gate);
+    return m_platform.alerts.NSRunAlertPanel(panel);
+}
+
+int AppDelegate::RunDiskTool(const std::vector<std::string>& arguments) {
+    const EventGate::Closing closing(m_gate);
+    return m_platform.disks.run(arguments);
+}
+
+void AppDelegate::Pause(std::chrono::seconds duration) {
+    const EventGate::Closing closing(m_gate);
+    m_platform.clock.sleep(duration);
+}
+
+} // namespace zelto

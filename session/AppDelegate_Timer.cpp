@@ -1,0 +1,133 @@
+#include "app/AppDelegate.h"
+#include "device/DeviceReads.h"
+#include "device/IORegistry.h"
+#include "device/ZELTOctrl.h"
+#include "platform/Clock.h"
+#include "session/DeviceClock.h"
+#include "session/RemainingTime.h"
+#include "ui/Strings.h"
+
+namespace zelto {
+
+void AppDelegate::TimerHandler() {
+    blinkSetupText();
+    advanceSetup();
+
+    const auto now = m_platform.clock.now();
+    MainSettingsWindow.PCTimeText->setText(
+        dateTimeText(clockAt(now + m_platform.clock.utcOffset(now))));
+
+    if (Drives.CurrentUsbIntf == nullptr) {
+        return;
+    }
+    const auto time = readTimeStatus(Device());
+    if (time.failed()) {
+        return;
+    }
+    showDriveTime(time.record);
+    if (DisplayRemainingTimeAuthenticateWindow) {
+        AuthenticateWindow.AuthenticateRemainingTimeText->setText(
+            remainingTimeText(time.record, {.expired = localized("IDS_EXPIRED"),
+                                            .days = localized("IDS_DAYS"),
+                                            .hours = localized("IDS_HOURS"),
+                                            .minutes = localized("IDS_MIN")}));
+    }
+}
+
+void AppDelegate::blinkSetupText() {
+    if (Setup.isUnderWay()) {
+        ZeltoSettingWindow.ZeltoSettingText->setText(
+            Setup.WaitCount % 2 != 0 ? localized("IDS_NOW_SETTING") : QString());
+    }
+}
+
+void AppDelegate::advanceSetup() {
+    switch (Setup.InitialSettingState) {
+    case SetupProgress::WaitingForReconnect:
+        if (!Drives.WaitReconnectZelto) {
+            Setup.InitialSettingState = SetupProgress::WaitingForToolVolume;
+            Setup.WaitCount = SetupProgress::WaitTicks;
+        } else if (--Setup.WaitCount == 0) {
+            giveUpWaiting();
+        }
+        break;
+    case SetupProgress::WaitingForToolVolume:
+        GetBsdNameList(Setup.ReservedAreaDiskNumber);
+        if (!g_BsdNameList.empty()) {
+            Setup.InitialSettingState = SetupProgress::FormatAndCopyDue;
+        } else if (--Setup.WaitCount == 0) {
+            giveUpWaiting();
+        }
+        break;
+    case SetupProgress::FormatAndCopyDue:
+        formatAndCopy();
+        break;
+    default:
+        break;
+    }
+}
+
+void AppDelegate::giveUpWaiting() {
+    ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
+    Setup.InitialSettingState = SetupProgress::Finished;
+    TerminateApplication();
+}
+
+void AppDelegate::formatAndCopy() {
+    // Finished first: whatever goes wrong below, the program may quit.
+    Setup.InitialSettingState = SetupProgress::Finished;
+    const std::string disk = g_BsdNameList.front();
+    if (!FormatDrive(disk)) {
+        ShowMessage(localized("IDS_ERR_FORMAT"));
+        TerminateApplication();
+        return;
+    }
+    if (!CopyToolFile(disk)) {
+        TerminateApplication();
+        return;
+    }
+    ZeltoSettingWindow.ZeltoSettingText->setText(localized("IDS_SETTING_COMPLETE"));
+    ZeltoSettingWindow.ZeltoSettingOKButton->setEnabled(true);
+}
+
+void AppDelegate::showDriveTime(const TimeStatus& status) {
+    QString text = localized("IDS_ERR_TIME_STATUS_INVALID");
+    if (status.clockNotValid) {
+        TimeStatusInvalid = true;
+    } else if (const auto moment = momentOf(status.clock)) {
+        text = dateTimeText(clockAt(*moment + m_platform.clock.utcOffset(*moment)));
+    }
+    MainSettingsWindow.DeviceTimeText->setText(text);
+    AuthenticateWindow.AuthenticateDeviceTimeText->setText(text);
+}
+
+IOReturn AppDelegate::SetCurrentTime() {
+    const CurrentTime::Bytes bytes = encodeCurrentTime(clockAt(m_platform.clock.now()));
+    return TKVR21_ZELTO_SetCurrentTime(Device(), bytes.data(), bytes.size());
+}
+
+void AppDelegate::MainSettingsSetTimeAction() {
+    if (const IOReturn result = SetCurrentTime(); result != kIOReturnSuccess) {
+        ErrorMessageBox(result);
+        return;
+    }
+    // A clock that was valid before is set without a word.
+    if (TimeStatusInvalid) {
+        ShowMessage(localized("IDS_TIME_SYNC_COMPLETE"));
+        TerminateApplication();
+    }
+}
+
+void AppDelegate::UpdateCheckBoxShowRemainingTime() {
+    auto& box = *MainSettingsWindow.ShowRemainingTimeCheckBox;
+    box.setChecked(readShowRemainingTime(Device()));
+    box.setEnabled(true);
+}
+
+void AppDelegate::UpdateUserDefaultsShowRemainingTime() {
+    // Everything else has been accepted by now; a choice that was not is no reason to stay.
+    (void)writeShowRemainingTime(Device(),
+                                 MainSettingsWindow.ShowRemainingTimeCheckBox->isChecked());
+}
+
+} // namespace zelto
