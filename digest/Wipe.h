@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <ranges>
+#include <type_traits>
+
+namespace zelto {
+
+namespace detail {
+/// Through a volatile pointer: memory that is about to be freed is exactly where a compiler drops
+/// an ordinary fill.
+inline void zeroMemory(void* memory, std::size_t size) noexcept {
+    auto* const bytes = static_cast<volatile unsigned char*>(memory);
+    for (std::size_t index = 0; index < size; ++index) {
+        bytes[index] = 0;
+    }
+}
+} // namespace detail
+
+/// Overwrites the elements of a span, array, vector or string with zeros, for sure: passwords, keys
+/// and digests go this way after use. Only this memory is reached: copies that a text has shared
+/// out, or left behind when it grew, are not.
+template <std::ranges::contiguous_range Range>
+requires std::is_trivially_copyable_v<std::ranges::range_value_t<Range>> &&
+    (!std::is_const_v<std::remove_reference_t<std::ranges::range_reference_t<Range>>>)void wipe(
+        Range&& range) noexcept {
+    detail::zeroMemory(std::ranges::data(range),
+                       std::ranges::size(range) * sizeof(std::ranges::range_value_t<Range>));
+}
+
+/// The same for a record that owns no memory elsewhere.
+template <typename Record>
+requires std::is_trivially_copyable_v<Record> &&(!std::is_const_v<Record>)&&(
+    !std::is_pointer_v<Record>)void wipeObject(Record& record) noexcept {
+    detail::zeroMemory(std::addressof(record), sizeof record);
+}
+
+} // namespace zelto
