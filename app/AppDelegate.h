@@ -268,8 +268,7 @@ private:
 
     // session/AppDelegate_Timer.cpp
     void blinkSetupText();
-    void advanceSetup();
-    void giveUpWaiting();
+    void tickSetup();
     void formatAndCopy();
     void showDriveTime(const TimeStatus& status);
 

@@ -119,7 +119,7 @@ void AppDelegate::AuthenticateCancelAction() {
 
 void AppDelegate::SetPasswordData(const QString& password, PasswordDigest& digest) const {
     const auto length = static_cast<std::size_t>(password.size());
-    std::array<std::uint8_t, MaximumPasswordLength> characters{};
+    std::array<std::uint8_t, PasswordLimits::LongestPassword> characters{};
     assertThat(length <= characters.size(), "[passwordString length]<=32");
 
     QByteArray encoded = password.toUtf8();

@@ -5,13 +5,14 @@
 #include "platform/Clock.h"
 #include "session/DeviceClock.h"
 #include "session/RemainingTime.h"
+#include "settings/SetupSteps.h"
 #include "ui/Strings.h"
 
 namespace zelto {
 
 void AppDelegate::TimerHandler() {
     blinkSetupText();
-    advanceSetup();
+    tickSetup();
 
     const auto now = m_platform.clock.now();
     MainSettingsWindow.PCTimeText->setText(
@@ -37,45 +38,34 @@ void AppDelegate::TimerHandler() {
 void AppDelegate::blinkSetupText() {
     if (Setup.isUnderWay()) {
         ZeltoSettingWindow.ZeltoSettingText->setText(
-            Setup.WaitCount % 2 != 0 ? localized("IDS_NOW_SETTING") : QString());
+            showsProgressText(Setup) ? localized("IDS_NOW_SETTING") : QString());
     }
 }
 
-void AppDelegate::advanceSetup() {
-    switch (Setup.InitialSettingState) {
-    case SetupProgress::WaitingForReconnect:
-        if (!Drives.WaitReconnectZelto) {
-            Setup.InitialSettingState = SetupProgress::WaitingForToolVolume;
-            Setup.WaitCount = SetupProgress::WaitTicks;
-        } else if (--Setup.WaitCount == 0) {
-            giveUpWaiting();
-        }
-        break;
-    case SetupProgress::WaitingForToolVolume:
+void AppDelegate::tickSetup() {
+    SetupObservation observation{.driveStillAway = Drives.WaitReconnectZelto};
+    if (Setup.InitialSettingState == SetupProgress::WaitingForToolVolume) {
         GetBsdNameList(Setup.ReservedAreaDiskNumber);
-        if (!g_BsdNameList.empty()) {
-            Setup.InitialSettingState = SetupProgress::FormatAndCopyDue;
-        } else if (--Setup.WaitCount == 0) {
-            giveUpWaiting();
-        }
+        observation.toolVolumeSeen = !g_BsdNameList.empty();
+    }
+    const SetupStep step = advanceSetup(Setup, observation);
+    switch (step.event) {
+    case SetupEvent::None:
+        Setup = step.progress;
         break;
-    case SetupProgress::FormatAndCopyDue:
+    case SetupEvent::NotFound:
+        ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
+        Setup = step.progress;
+        TerminateApplication();
+        break;
+    case SetupEvent::FormatAndCopy:
+        Setup = step.progress;
         formatAndCopy();
         break;
-    default:
-        break;
     }
-}
-
-void AppDelegate::giveUpWaiting() {
-    ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
-    Setup.InitialSettingState = SetupProgress::Finished;
-    TerminateApplication();
 }
 
 void AppDelegate::formatAndCopy() {
-    // Finished first: whatever goes wrong below, the program may quit.
-    Setup.InitialSettingState = SetupProgress::Finished;
     const std::string disk = g_BsdNameList.front();
     if (!FormatDrive(disk)) {
         ShowMessage(localized("IDS_ERR_FORMAT"));
