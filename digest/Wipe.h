@@ -18,21 +18,29 @@ inline void zeroMemory(void* memory, std::size_t size) noexcept {
 }
 } // namespace detail
 
+/// A contiguous range whose elements can be overwritten byte by byte.
+template <typename Range>
+concept WipeableRange = std::ranges::contiguous_range<Range> &&
+    std::is_trivially_copyable_v<std::ranges::range_value_t<Range>> &&
+    !std::is_const_v<std::remove_reference_t<std::ranges::range_reference_t<Range>>>;
+
+/// A record that owns no memory elsewhere.
+template <typename Record>
+concept WipeableRecord = std::is_trivially_copyable_v<Record> && !std::is_const_v<Record> &&
+    !std::is_pointer_v<Record>;
+
 /// Overwrites the elements of a span, array, vector or string with zeros, for sure: passwords, keys
 /// and digests go this way after use. Only this memory is reached: copies that a text has shared
 /// out, or left behind when it grew, are not.
-template <std::ranges::contiguous_range Range>
-requires std::is_trivially_copyable_v<std::ranges::range_value_t<Range>> &&
-    (!std::is_const_v<std::remove_reference_t<std::ranges::range_reference_t<Range>>>)void wipe(
-        Range&& range) noexcept {
+template <WipeableRange Range>
+void wipe(Range&& range) noexcept {
     detail::zeroMemory(std::ranges::data(range),
                        std::ranges::size(range) * sizeof(std::ranges::range_value_t<Range>));
 }
 
-/// The same for a record that owns no memory elsewhere.
-template <typename Record>
-requires std::is_trivially_copyable_v<Record> &&(!std::is_const_v<Record>)&&(
-    !std::is_pointer_v<Record>)void wipeObject(Record& record) noexcept {
+/// The same for a record.
+template <WipeableRecord Record>
+void wipeObject(Record& record) noexcept {
     detail::zeroMemory(std::addressof(record), sizeof record);
 }
 
