@@ -1,0 +1,35 @@
+#include "ui/DigitCountHint.h"
+
+#include <QEvent>
+#include <QLineEdit>
+
+namespace zelto {
+
+DigitCountHint::DigitCountHint(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+bool DigitCountHint::event(QEvent* event) {
+    // By the time a form is polished all its fields exist.
+    if (event->type() == QEvent::Polish) {
+        findField();
+    }
+    return QLabel::event(event);
+}
+
+void DigitCountHint::findField() {
+    m_field = window()->findChild<QLineEdit*>(m_fieldName);
+    if (m_field != nullptr) {
+        connect(m_field, &QLineEdit::textChanged, this, &DigitCountHint::refresh,
+                Qt::UniqueConnection);
+        refresh();
+    }
+}
+
+void DigitCountHint::refresh() {
+    const qsizetype digits = m_field->text().size();
+    setText(digits % 2 == 0 ? tr("%1 of 128 digits").arg(digits)
+                            : tr("%1 of 128 digits, one is missing").arg(digits));
+}
+
+} // namespace zelto

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLabel>
+
+namespace zelto {
+
+/// What a window is about: the window's font, a little larger and heavier.
+class HeadingLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit HeadingLabel(QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void followApplicationFont();
+};
+
+} // namespace zelto

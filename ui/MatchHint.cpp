@@ -1,0 +1,54 @@
+#include "ui/MatchHint.h"
+
+#include <QEvent>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace zelto {
+
+MatchHint::MatchHint(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+// As large as its longest text, so that typing doesn't move the window.
+QSize MatchHint::sizeHint() const {
+    const QFontMetrics metrics = fontMetrics();
+    const int width = std::max(metrics.horizontalAdvance(tr("The two entries match.")),
+                               metrics.horizontalAdvance(tr("The two entries differ.")));
+    return {width + metrics.averageCharWidth(), metrics.height()};
+}
+
+bool MatchHint::event(QEvent* event) {
+    // By the time a form is polished all its fields exist.
+    if (event->type() == QEvent::Polish) {
+        findFields();
+    }
+    return QLabel::event(event);
+}
+
+void MatchHint::findFields() {
+    m_first = window()->findChild<QLineEdit*>(m_firstField);
+    m_second = window()->findChild<QLineEdit*>(m_secondField);
+    for (const QLineEdit* field : {m_first, m_second}) {
+        if (field != nullptr) {
+            connect(field, &QLineEdit::textChanged, this, &MatchHint::refresh,
+                    Qt::UniqueConnection);
+        }
+    }
+    refresh();
+}
+
+void MatchHint::refresh() {
+    setText(verdict());
+}
+
+QString MatchHint::verdict() const {
+    if (m_first == nullptr || m_second == nullptr || m_second->text().isEmpty()) {
+        return {};
+    }
+    return m_first->text() == m_second->text() ? tr("The two entries match.")
+                                               : tr("The two entries differ.");
+}
+
+} // namespace zelto

@@ -1,0 +1,36 @@
+#include "ui/ProductIcon.h"
+
+#include "ui/Resources.h"
+
+#include <QEvent>
+#include <QFontMetrics>
+#include <QIcon>
+
+namespace zelto {
+
+ProductIcon::ProductIcon(QWidget* parent) : QLabel(parent) {
+    render();
+}
+
+QIcon ProductIcon::icon() {
+    initResources();
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256, 512}) {
+        icon.addFile(QStringLiteral(":/zelto/icons/zelto-%1.png").arg(size), {size, size});
+    }
+    return icon;
+}
+
+void ProductIcon::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
+        render();
+    }
+    QLabel::changeEvent(event);
+}
+
+void ProductIcon::render() {
+    const int side = fontMetrics().height() * 3;
+    setPixmap(icon().pixmap({side, side}, devicePixelRatioF()));
+}
+
+} // namespace zelto

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QLabel>
+
+namespace zelto {
+
+/// The product's icon as a window shows it beside its heading. Decoration: it has no text, takes
+/// no focus, and grows with the font.
+class ProductIcon : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit ProductIcon(QWidget* parent = nullptr);
+
+    /// The icon in all its sizes, for the windows' frames and the task bar.
+    [[nodiscard]] static QIcon icon();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void render();
+};
+
+} // namespace zelto

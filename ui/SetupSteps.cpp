@@ -1,0 +1,130 @@
+#include "ui/SetupSteps.h"
+
+#include "ui/Glyph.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+
+namespace zelto {
+namespace {
+
+constexpr std::array<const char*, 5> Titles{
+    QT_TRANSLATE_NOOP("zelto::SetupSteps", "The settings are on the drive"),
+    QT_TRANSLATE_NOOP("zelto::SetupSteps", "The drive starts anew"),
+    QT_TRANSLATE_NOOP("zelto::SetupSteps", "The tool area appears"),
+    QT_TRANSLATE_NOOP("zelto::SetupSteps", "The tool area is formatted and this program copied"),
+    QT_TRANSLATE_NOOP("zelto::SetupSteps", "Finished"),
+};
+constexpr int StepCount = static_cast<int>(Titles.size());
+
+QString titleOf(int step) {
+    return SetupSteps::tr(Titles[static_cast<std::size_t>(step)]);
+}
+
+} // namespace
+
+SetupSteps::SetupSteps(QWidget* parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    describe();
+}
+
+void SetupSteps::setCurrentStep(int step) {
+    m_current = std::clamp(step, 0, StepCount - 1);
+    m_failed = false;
+    describe();
+}
+
+void SetupSteps::setFailed() {
+    m_failed = true;
+    describe();
+}
+
+SetupSteps::State SetupSteps::stateOf(int step) const {
+    if (step == m_current && m_failed) {
+        return State::Failed;
+    }
+    if (step < m_current || m_current == Finished) {
+        return State::Done;
+    }
+    return step == m_current ? State::UnderWay : State::ToCome;
+}
+
+void SetupSteps::describe() {
+    const QString words = m_failed ? tr("Step %1 of %2 failed: %3") : tr("Step %1 of %2: %3");
+    setAccessibleDescription(
+        words.arg(QString::number(m_current + 1), QString::number(StepCount), titleOf(m_current)));
+    update();
+}
+
+int SetupSteps::lineHeight() const {
+    return fontMetrics().height() * 7 / 4;
+}
+
+QSize SetupSteps::sizeHint() const {
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    int widest = 0;
+    for (int step = 0; step < StepCount; ++step) {
+        widest = std::max(widest, metrics.horizontalAdvance(titleOf(step)));
+    }
+    return {lineHeight() * 3 / 2 + widest, lineHeight() * StepCount};
+}
+
+void SetupSteps::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double mark = fontMetrics().height() * 1.15;
+    for (int step = 0; step < StepCount; ++step) {
+        const State state = stateOf(step);
+        const QRect line(0, step * lineHeight(), width(), lineHeight());
+        QRectF box(0, 0, mark, mark);
+        box.moveCenter({mark / 2 + 1, line.center().y() + 0.5});
+        QRect words = line.adjusted(lineHeight() * 5 / 4, 0, 0, 0);
+        if (layoutDirection() == Qt::RightToLeft) {
+            box.moveCenter({width() - box.center().x(), box.center().y()});
+            words.moveRight(width() - words.left());
+        }
+        paintMark(painter, state, box);
+        QFont font = this->font();
+        font.setBold(state == State::UnderWay || state == State::Failed);
+        painter.setFont(font);
+        painter.setPen(state == State::ToCome ? palette().color(QPalette::PlaceholderText)
+                                              : palette().color(QPalette::WindowText));
+        painter.drawText(words, static_cast<int>(Qt::AlignLeading | Qt::AlignVCenter),
+                         titleOf(step));
+    }
+}
+
+void SetupSteps::paintMark(QPainter& painter, State state, const QRectF& box) const {
+    const QColor accent = palette().color(QPalette::Highlight);
+    const QRectF inner = box.adjusted(1, 1, -1, -1);
+    painter.setBrush(Qt::NoBrush);
+    switch (state) {
+    case State::Done:
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(accent);
+        painter.drawEllipse(inner);
+        paintGlyph(painter, Glyph::CheckMark, box.adjusted(4, 4, -4, -4),
+                   palette().color(QPalette::HighlightedText));
+        break;
+    case State::UnderWay:
+        painter.setPen(QPen(accent, 2));
+        painter.drawEllipse(inner);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(accent);
+        painter.drawEllipse(inner.center(), inner.width() / 4, inner.height() / 4);
+        break;
+    case State::ToCome:
+        painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1.2));
+        painter.drawEllipse(inner);
+        break;
+    case State::Failed:
+        paintGlyph(painter, Glyph::Warning, box, warningColour(palette()));
+        break;
+    }
+}
+
+} // namespace zelto

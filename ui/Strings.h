@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <type_traits>
+
+namespace zelto {
+
+/// Loads the texts that are linked into the program into the running QCoreApplication, once. False
+/// when they are damaged; every text is then its own key.
+bool installStrings();
+
+/// The text of the key. A key without a text is shown as it is.
+[[nodiscard]] QString localized(const char* key);
+
+/// `format` with %1 to %9 replaced by the arguments, in one pass: an argument that holds "%2" is
+/// left as it is. A placeholder without an argument stays.
+[[nodiscard]] QString filled(const QString& format, const QStringList& arguments);
+
+namespace detail {
+
+inline QString argumentText(const QString& text) {
+    return text;
+}
+
+template <typename Integer>
+requires std::is_integral_v<Integer> QString argumentText(Integer number) {
+    return QString::number(number);
+}
+
+} // namespace detail
+
+/// The text of the key with its placeholders filled by QStrings and integers, see filled().
+template <typename First, typename... Others>
+[[nodiscard]] QString localized(const char* key, const First& first, const Others&... others) {
+    return filled(localized(key), {detail::argumentText(first), detail::argumentText(others)...});
+}
+
+} // namespace zelto
