@@ -8,9 +8,9 @@ namespace zelto {
 /// What the main settings window's OK button depends on.
 struct MainSettingsEntries {
     bool secureAreaExists = false;
-    ChangedFlags changed;
-    AutoClearEntry autoClear;
-    AutoLogOffEntry autoLogOff;
+    ChangedFlags changed = {};
+    AutoClearEntry autoClear = {};
+    AutoLogOffEntry autoLogOff = {};
 };
 
 /// First-time set-up: the areas were laid out, passwords were given when there is a secure area,

@@ -37,18 +37,18 @@ struct PasswordEntry {
 /// The rule of the password settings dialog.
 struct PasswordSettingsEntries {
     bool firstAndSecond = false;
-    PasswordEntry first;
-    PasswordEntry second;
-    QStringView trials;
+    PasswordEntry first = {};
+    PasswordEntry second = {};
+    QStringView trials = {};
 };
 [[nodiscard]] bool passwordSettingsAreComplete(const PasswordSettingsEntries& entries);
 
 /// The rule of the password change dialog: the same, and the passwords in force, which the drive
 /// will judge. New passwords may equal the current ones.
 struct PasswordChangeEntries {
-    QStringView currentFirst;
-    QStringView currentSecond;
-    PasswordSettingsEntries renewed;
+    QStringView currentFirst = {};
+    QStringView currentSecond = {};
+    PasswordSettingsEntries renewed = {};
 };
 [[nodiscard]] bool passwordChangeIsComplete(const PasswordChangeEntries& entries);
 

@@ -1,0 +1,80 @@
+#include "settings/SetupSteps.h"
+
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+SetupProgress progressOf(std::uint8_t state, std::int32_t waitCount = SetupProgress::WaitTicks) {
+    return {.InitialSettingState = state, .WaitCount = waitCount, .ReservedAreaDiskNumber = 3};
+}
+
+constexpr SetupObservation NothingYet{.driveStillAway = true, .toolVolumeSeen = false};
+
+TEST(SetupSteps, withoutASetupNothingHappens) {
+    for (const std::uint8_t state :
+         {std::uint8_t{0}, std::uint8_t{4}, std::uint8_t{5}, std::uint8_t{255}}) {
+        const SetupStep step = advanceSetup(progressOf(state), NothingYet);
+        EXPECT_EQ(step.event, SetupEvent::None);
+        EXPECT_EQ(step.progress.InitialSettingState, state);
+        EXPECT_EQ(step.progress.WaitCount, 60);
+    }
+}
+
+TEST(SetupSteps, theDriveThatIsBackOpensTheWaitForItsVolume) {
+    const SetupStep step = advanceSetup(progressOf(1, 17), {.driveStillAway = false});
+    EXPECT_EQ(step.event, SetupEvent::None);
+    EXPECT_EQ(step.progress.InitialSettingState, 2);
+    EXPECT_EQ(step.progress.WaitCount, 60);
+    EXPECT_EQ(step.progress.ReservedAreaDiskNumber, 3);
+}
+
+TEST(SetupSteps, theVolumeThatIsSeenMakesFormattingDueAtTheNextTick) {
+    const SetupStep step = advanceSetup(progressOf(2, 17), {.toolVolumeSeen = true});
+    EXPECT_EQ(step.event, SetupEvent::None);
+    EXPECT_EQ(step.progress.InitialSettingState, 3);
+    EXPECT_EQ(step.progress.WaitCount, 17);
+}
+
+TEST(SetupSteps, formattingIsDueOnce) {
+    const SetupStep step = advanceSetup(progressOf(3), NothingYet);
+    EXPECT_EQ(step.event, SetupEvent::FormatAndCopy);
+    EXPECT_EQ(step.progress.InitialSettingState, 4);
+    EXPECT_EQ(advanceSetup(step.progress, NothingYet).event, SetupEvent::None);
+}
+
+class SetupWaits : public testing::TestWithParam<std::uint8_t> {};
+
+TEST_P(SetupWaits, endsAfterSixtyTicks) {
+    SetupProgress progress = progressOf(GetParam());
+    for (int tick = 1; tick < 60; ++tick) {
+        const SetupStep step = advanceSetup(progress, NothingYet);
+        ASSERT_EQ(step.event, SetupEvent::None) << tick;
+        ASSERT_EQ(step.progress.WaitCount, 60 - tick);
+        ASSERT_TRUE(step.progress.isUnderWay());
+        progress = step.progress;
+    }
+    const SetupStep last = advanceSetup(progress, NothingYet);
+    EXPECT_EQ(last.event, SetupEvent::NotFound);
+    EXPECT_EQ(last.progress.InitialSettingState, 4);
+    EXPECT_FALSE(last.progress.isUnderWay());
+}
+
+TEST_P(SetupWaits, theLastTickStillFindsWhatItWaitsFor) {
+    const SetupStep step =
+        advanceSetup(progressOf(GetParam(), 1), {.driveStillAway = false, .toolVolumeSeen = true});
+    EXPECT_EQ(step.event, SetupEvent::None);
+    EXPECT_EQ(step.progress.InitialSettingState, GetParam() + 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(SetupSteps, SetupWaits, testing::Values(std::uint8_t{1}, std::uint8_t{2}));
+
+TEST(ProgressText, isShownOnOddCounts) {
+    EXPECT_FALSE(showsProgressText(progressOf(1, 60)));
+    EXPECT_TRUE(showsProgressText(progressOf(1, 59)));
+    EXPECT_FALSE(showsProgressText(progressOf(2, 0)));
+    EXPECT_TRUE(showsProgressText(progressOf(2, -1)));
+}
+
+} // namespace
+} // namespace zelto
