@@ -32,7 +32,7 @@ struct TimeStatus {
     bool clockNotValid = false;
     /// The auto-clear period has run out.
     bool autoClearExpired = false;
-    CurrentTime clock;
+    CurrentTime clock{};
     /// Seconds; a period of 0 means off.
     std::uint32_t autoClearElapsed = 0;
     std::uint32_t autoClearPeriod = 0;
