@@ -11,10 +11,14 @@ namespace zelto {
 /// decides nothing.
 class DigitCountHint : public QLabel {
     Q_OBJECT
-    Q_PROPERTY(QString field MEMBER m_fieldName)
+    Q_PROPERTY(QString field READ field WRITE setField)
 
 public:
     explicit DigitCountHint(QWidget* parent = nullptr);
+
+    /// The field's object name; it is looked up when the window is first shown.
+    [[nodiscard]] const QString& field() const { return m_fieldName; }
+    void setField(const QString& name) { m_fieldName = name; }
 
 protected:
     bool event(QEvent* event) override;
@@ -23,7 +27,6 @@ private:
     void findField();
     void refresh();
 
-    /// The field's object name.
     QString m_fieldName;
     QLineEdit* m_field = nullptr;
 };

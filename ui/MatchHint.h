@@ -11,11 +11,17 @@ namespace zelto {
 /// says nothing while the second field is empty or disabled.
 class MatchHint : public QLabel {
     Q_OBJECT
-    Q_PROPERTY(QString firstField MEMBER m_firstField)
-    Q_PROPERTY(QString secondField MEMBER m_secondField)
+    Q_PROPERTY(QString firstField READ firstField WRITE setFirstField)
+    Q_PROPERTY(QString secondField READ secondField WRITE setSecondField)
 
 public:
     explicit MatchHint(QWidget* parent = nullptr);
+
+    /// Object names of the two fields; they are looked up when the window is first shown.
+    [[nodiscard]] const QString& firstField() const { return m_firstField; }
+    void setFirstField(const QString& name) { m_firstField = name; }
+    [[nodiscard]] const QString& secondField() const { return m_secondField; }
+    void setSecondField(const QString& name) { m_secondField = name; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -28,7 +34,6 @@ private:
     void refresh();
     [[nodiscard]] QString verdict() const;
 
-    /// Object names of the two fields.
     QString m_firstField;
     QString m_secondField;
     QLineEdit* m_first = nullptr;

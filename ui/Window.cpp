@@ -1,6 +1,10 @@
 #include "ui/Window.h"
 
+#include "ui/Forms.h"
+
 #include <QScreen>
+
+// Every form is compiled here once, with the project's warnings, before anybody includes it.
 
 namespace zelto {
 
