@@ -44,7 +44,7 @@ struct DeviceStatus {
     /// Meaningful only when the status was asked for with value 1 (spin-up).
     std::uint8_t readiness = 0;
     /// Sense data of the drive's last command.
-    Sense sense;
+    Sense sense{};
     /// State in bits 0 to 2, two passwords in bit 6, automatic key in bit 7.
     std::uint8_t security = 0;
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <vector>
 
 namespace zelto::test {
@@ -24,7 +25,7 @@ public:
         /// Whether the caller had a data stage buffer.
         bool hasBuffer = false;
         /// The data stage towards the device.
-        std::vector<std::uint8_t> sent;
+        std::vector<std::uint8_t> sent{};
 
         /// The eight bytes on the wire (USB 2.0, 9.3).
         [[nodiscard]] std::vector<std::uint8_t> setupPacket() const {
@@ -38,7 +39,7 @@ public:
     struct Answer {
         IOReturn result = kIOReturnSuccess;
         /// The data stage towards the host; what does not fit is not sent.
-        std::vector<std::uint8_t> data;
+        std::vector<std::uint8_t> data{};
     };
 
     // The device's nature, set before it is used.
@@ -53,6 +54,8 @@ public:
     // What happened to it.
     int timesOpened = 0;
     std::vector<Transfer> transfers;
+    /// Goes with the device: a weak pointer to it tells whether the interface is still there.
+    std::shared_ptr<const bool> presence = std::make_shared<const bool>(true);
 
     [[nodiscard]] std::uint16_t GetDeviceVendor() const override { return vendor; }
     [[nodiscard]] std::uint16_t GetDeviceProduct() const override { return product; }
