@@ -1,8 +1,11 @@
 #include "ui/AlertPresenter.h"
 
+#include "ui/ProductIcon.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 
 namespace zelto {
 namespace {
@@ -19,7 +22,15 @@ QPushButton* addButton(QMessageBox& box, QString label, QMessageBox::ButtonRole 
 AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName(QStringLiteral("AlertPanel"));
-    box.setIcon(panel.alternateButton.isEmpty() ? QMessageBox::Information : QMessageBox::Question);
+    box.setWindowIcon(ProductIcon::icon());
+    // A question whose harmless answer is preset warns of what the other one does.
+    const bool warns = !panel.alternateButton.isEmpty() && panel.onEscape == AlertButton::Default;
+    if (warns) {
+        box.setIcon(QMessageBox::Warning);
+    } else {
+        const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+        box.setIconPixmap(ProductIcon::icon().pixmap({side, side}, box.devicePixelRatioF()));
+    }
     box.setWindowTitle(panel.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(panel.message);

@@ -20,15 +20,15 @@ PasswordField::PasswordField(QWidget* parent)
     m_reveal->setCursor(Qt::ArrowCursor);
     m_reveal->setToolTip(tr("Hold to see the password"));
     m_reveal->setAccessibleName(m_reveal->toolTip());
-    connect(m_reveal, &QToolButton::pressed, this, [this] { show(Shown::Text); });
-    connect(m_reveal, &QToolButton::released, this, [this] { show(Shown::Dots); });
+    connect(m_reveal, &QToolButton::pressed, this, [this] { reveal(Shown::Text); });
+    connect(m_reveal, &QToolButton::released, this, [this] { reveal(Shown::Dots); });
 
     m_capsLockSign->setToolTip(tr("Caps Lock seems to be on"));
     m_capsLockSign->setAccessibleName(m_capsLockSign->toolTip());
     m_capsLockSign->setCursor(Qt::ArrowCursor);
     m_capsLockSign->hide();
 
-    show(Shown::Dots);
+    reveal(Shown::Dots);
     renderIcons();
     connect(this, &QLineEdit::textEdited, this, &PasswordField::dropHistory);
 }
@@ -40,13 +40,21 @@ PasswordField::~PasswordField() {
 }
 
 void PasswordField::wipe() {
-    // The copy shares the control's own characters, and writing through it would make a second
-    // copy; so they are overwritten in place. Any other holder of these characters sees blanks.
-    const QString shared = text();
-    auto* characters = const_cast<QChar*>(shared.constData());
-    std::fill_n(characters, shared.size(), QChar(u' '));
+    overwriteOwnCharacters();
     setText(QString());
     setCapsLock(false);
+}
+
+// The characters are overwritten in place: writing through a QString would make a second copy
+// first. But they may be shared with whoever asked for the text, and would change in his hands;
+// then they are his to wipe. Nor can a text of the program's own constants be written.
+void PasswordField::overwriteOwnCharacters() {
+    constexpr int FieldAndThisFunction = 2;
+    QString characters = text();
+    auto* const storage = characters.data_ptr().d_ptr();
+    if (storage != nullptr && storage->ref_.loadRelaxed() == FieldAndThisFunction) {
+        std::fill_n(characters.data_ptr().data(), characters.size(), u' ');
+    }
 }
 
 void PasswordField::keyPressEvent(QKeyEvent* event) {
@@ -60,18 +68,18 @@ void PasswordField::keyPressEvent(QKeyEvent* event) {
 }
 
 void PasswordField::contextMenuEvent(QContextMenuEvent* event) {
-    show(Shown::Dots);
+    reveal(Shown::Dots);
     QLineEdit::contextMenuEvent(event);
 }
 
 void PasswordField::focusOutEvent(QFocusEvent* event) {
-    show(Shown::Dots);
+    reveal(Shown::Dots);
     setCapsLock(false);
     QLineEdit::focusOutEvent(event);
 }
 
 void PasswordField::hideEvent(QHideEvent* event) {
-    show(Shown::Dots);
+    reveal(Shown::Dots);
     QLineEdit::hideEvent(event);
 }
 
@@ -79,7 +87,7 @@ void PasswordField::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
     switch (event->type()) {
     case QEvent::EnabledChange:
-        show(Shown::Dots);
+        reveal(Shown::Dots);
         break;
     case QEvent::PaletteChange:
     case QEvent::FontChange:
@@ -96,7 +104,7 @@ void PasswordField::resizeEvent(QResizeEvent* event) {
     placeIcons();
 }
 
-void PasswordField::show(Shown shown) {
+void PasswordField::reveal(Shown shown) {
     if (shown == Shown::Dots) {
         deselect();
     }

@@ -17,8 +17,9 @@ public:
     explicit PasswordField(QWidget* parent = nullptr);
     ~PasswordField() override;
 
-    /// Overwrites the text in memory and empties the field. Copies that Qt made on the way here,
-    /// in events or the input method, are out of reach. Silent for textEdited.
+    /// Empties the field and overwrites its characters in memory, unless a QString got from text()
+    /// still shares them. Copies that Qt made on the way here, in events or the input method, are
+    /// out of reach. Silent for textEdited.
     void wipe();
 
     /// Letters arrive as if Caps Lock were on.
@@ -35,7 +36,8 @@ protected:
 private:
     enum class Shown { Dots, Text };
 
-    void show(Shown shown);
+    void reveal(Shown shown);
+    void overwriteOwnCharacters();
     void dropHistory();
     void followCapsLock(const QKeyEvent& event);
     void setCapsLock(bool on);

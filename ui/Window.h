@@ -33,7 +33,15 @@ Q_SIGNALS:
     /// The user wants the window closed without using one of its buttons.
     void closeRequested();
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    [[nodiscard]] QRect availableScreen() const;
+    void resizeToFit();
+    void growToFit();
+    void focusWhereTheUserStarts();
+
     bool m_modalRun = false;
 };
 

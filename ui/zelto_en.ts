@@ -17,7 +17,7 @@
     </message>
     <message id="IDS_ERR_NOT_FOUND_ZELTO">
         <source></source>
-        <translation>No ZELTO DISK was found. Check that the drive is plugged in firmly, then try again.</translation>
+        <translation>The ZELTO DISK was not found. Plug it in and try again.</translation>
     </message>
     <message id="IDS_ENTER_1ST_PASSWORD">
         <source></source>

@@ -1,13 +1,22 @@
 #!/bin/sh
-# Renders the committed PNG sizes of the product's icon from its SVG. Run it after every change of
-# zelto.svg. They are committed, not built: Qt's SVG plug-in is not installed everywhere, and
-# neither is a renderer (librsvg: rsvg-convert, or its gdk-pixbuf loader).
+# Renders the committed PNG sizes of the product's icon from its two SVGs; run it after every
+# change of them. The PNGs are committed, not built: Qt's SVG plug-in is not installed everywhere,
+# and neither is a renderer (librsvg: rsvg-convert, or its gdk-pixbuf loader).
 set -eu
 cd "$(dirname "$0")"
-for size in 16 24 32 48 64 128 256 512; do
+
+# render SIZE SVG
+render() {
     if command -v rsvg-convert >/dev/null; then
-        rsvg-convert --width "$size" --height "$size" --output "zelto-$size.png" zelto.svg
+        rsvg-convert --width "$1" --height "$1" --output "zelto-$1.png" "$2"
     else
-        gdk-pixbuf-thumbnailer -s "$size" zelto.svg "zelto-$size.png"
+        gdk-pixbuf-thumbnailer -s "$1" "$2" "zelto-$1.png"
     fi
+}
+
+for size in 16 24 32; do
+    render "$size" zelto-small.svg
+done
+for size in 48 64 128 256 512; do
+    render "$size" zelto.svg
 done
