@@ -26,8 +26,8 @@ concept WipeableRange = std::ranges::contiguous_range<Range> &&
 
 /// A record that owns no memory elsewhere.
 template <typename Record>
-concept WipeableRecord = std::is_trivially_copyable_v<Record> && !std::is_const_v<Record> &&
-    !std::is_pointer_v<Record>;
+concept WipeableRecord =
+    std::is_trivially_copyable_v<Record> && !std::is_const_v<Record> && !std::is_pointer_v<Record>;
 
 /// Overwrites the elements of a span, array, vector or string with zeros, for sure: passwords, keys
 /// and digests go this way after use. Only this memory is reached: copies that a text has shared
