@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 void AppDelegate::DisplayAuthenticateWindow(bool firstStep, const QString& message) {
     auto& form = AuthenticateWindow;
     TextInputMode =
-        firstStep ? TextInput::AuthenticateFirstStep : TextInput::AuthenticateFurtherStep;
+        firstStep ? TextInputModes::AuthenticateFirstStep : TextInputModes::AuthenticateFurtherStep;
     form.AuthenticateSubmit->setEnabled(false);
     form.AuthenticateMessage->setText(message);
     form.AuthenticateTextField->wipe();
@@ -37,23 +37,23 @@ void AppDelegate::DisplayAuthenticateWindow(bool firstStep, const QString& messa
 
 void AppDelegate::controlTextDidChange() {
     switch (TextInputMode) {
-    case TextInput::MainSettings:
+    case TextInputModes::MainSettings:
         MainSettingsTextDidChenge();
         break;
-    case TextInput::AuthenticateFurtherStep:
-    case TextInput::AuthenticateFirstStep:
+    case TextInputModes::AuthenticateFurtherStep:
+    case TextInputModes::AuthenticateFirstStep:
         AuthenticateTextDidChange();
         break;
-    case TextInput::AreaSettings:
+    case TextInputModes::AreaSettings:
         AreaSettingsTextDidChange();
         break;
-    case TextInput::PasswordSettings:
+    case TextInputModes::PasswordSettings:
         UpdatePasswordSettingsWindow();
         break;
-    case TextInput::PasswordChange:
+    case TextInputModes::PasswordChange:
         UpdatePasswordChangeWindow();
         break;
-    case TextInput::EncryptionKey:
+    case TextInputModes::EncryptionKey:
         UpdateEncryptionKeyWindow();
         break;
     default:
@@ -68,7 +68,7 @@ void AppDelegate::AuthenticateTextDidChange() {
 
 void AppDelegate::AuthenticateSubmitAction() {
     auto& form = AuthenticateWindow;
-    AuthPayload payload{.firstStep = TextInputMode == TextInput::AuthenticateFirstStep};
+    AuthPayload payload{.firstStep = TextInputMode == TextInputModes::AuthenticateFirstStep};
     SetPasswordData(form.AuthenticateTextField->text(), payload.digest);
     AuthPayload::Bytes bytes = encodeAuthPayload(payload);
     const IOReturn result = TKVR21_Authenticate(Device(), bytes.data(), 0);
@@ -86,7 +86,7 @@ void AppDelegate::AuthenticateSubmitAction() {
     }
     form.orderOut();
     form.AuthenticateTextField->wipe();
-    if (TextInputMode == TextInput::AuthenticateFurtherStep) {
+    if (TextInputMode == TextInputModes::AuthenticateFurtherStep) {
         DisplayUnlockedWindow();
     } else {
         ProcessBySecurityState();
@@ -120,7 +120,9 @@ void AppDelegate::AuthenticateCancelAction() {
 void AppDelegate::SetPasswordData(const QString& password, PasswordDigest& digest) const {
     const auto length = static_cast<std::size_t>(password.size());
     std::array<std::uint8_t, PasswordLimits::LongestPassword> characters{};
-    assertThat(length <= characters.size(), "[passwordString length]<=32");
+    if (length > characters.size()) {
+        failAssertion("[passwordString length]<=32");
+    }
 
     QByteArray encoded = password.toUtf8();
     std::copy_n(encoded.cbegin(), std::min(length, static_cast<std::size_t>(encoded.size())),
