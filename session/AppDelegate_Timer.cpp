@@ -51,9 +51,13 @@ void AppDelegate::tickSetup() {
     const SetupStep step = advanceSetup(Setup, observation);
     switch (step.event) {
     case SetupEvent::None:
+        if (Setup.isUnderWay()) {
+            ZeltoSettingWindow.SetupStepsView->setCurrentStep(step.progress.InitialSettingState);
+        }
         Setup = step.progress;
         break;
     case SetupEvent::NotFound:
+        ZeltoSettingWindow.SetupStepsView->setFailed();
         ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
         Setup = step.progress;
         TerminateApplication();
@@ -68,14 +72,17 @@ void AppDelegate::tickSetup() {
 void AppDelegate::formatAndCopy() {
     const std::string disk = g_BsdNameList.front();
     if (!FormatDrive(disk)) {
+        ZeltoSettingWindow.SetupStepsView->setFailed();
         ShowMessage(localized("IDS_ERR_FORMAT"));
         TerminateApplication();
         return;
     }
     if (!CopyToolFile(disk)) {
+        ZeltoSettingWindow.SetupStepsView->setFailed();
         TerminateApplication();
         return;
     }
+    ZeltoSettingWindow.SetupStepsView->setCurrentStep(SetupSteps::Finished);
     ZeltoSettingWindow.ZeltoSettingText->setText(localized("IDS_SETTING_COMPLETE"));
     ZeltoSettingWindow.ZeltoSettingOKButton->setEnabled(true);
 }
