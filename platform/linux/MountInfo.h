@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Disks.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zelto::linux_platform {
+
+/// The file systems listed by the text of /proc/PID/mountinfo (proc(5)), in its order, with the
+/// octal escapes of blanks, tabs, line ends and backslashes decoded. Lines that do not have the
+/// fields they must have are passed over.
+[[nodiscard]] std::vector<MountedFileSystem> parseMountInfo(std::string_view text);
+
+/// The text with every backslash and three octal digits replaced by the byte that they stand for.
+[[nodiscard]] std::string decodeOctalEscapes(std::string_view text);
+
+} // namespace zelto::linux_platform

@@ -1,0 +1,208 @@
+#include "platform/linux/SysfsEntry.h"
+
+#include "platform/linux/TextFile.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+namespace zelto::linux_platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// An attribute is at most one page.
+constexpr std::size_t AttributeLimit = 4096;
+/// From a USB device down to a partition there are about eight folders; a tree that goes on for
+/// ever is none of the kernel's.
+constexpr unsigned DepthLimit = 24;
+
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+/// The run of digits at the start, without leading zeros; `rest` is left with what follows.
+std::string_view takeNumber(std::string_view& rest) {
+    const auto end = std::find_if_not(rest.begin(), rest.end(), isDigit);
+    auto number = rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
+    rest.remove_prefix(number.size());
+    number.remove_prefix(std::min(number.find_first_not_of('0'), number.size()));
+    return number;
+}
+
+template <typename Number>
+std::optional<Number> parseNumber(std::string_view text, int base) {
+    Number number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
+    if (error != std::errc{} || end != text.data() + text.size()) {
+        return std::nullopt;
+    }
+    return number;
+}
+
+std::string trimmed(const std::string& text) {
+    constexpr auto Padding = " \t\n\r\f\v";
+    const auto first = text.find_first_not_of(Padding);
+    if (first == std::string::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(Padding) - first + 1);
+}
+
+bool isThere(const fs::path& path) {
+    std::error_code error;
+    return fs::exists(path, error);
+}
+
+/// The name of the subsystem that the folder's link points to; empty when it is no device's.
+std::string subsystem(const fs::path& folder) {
+    std::error_code error;
+    return fs::read_symlink(folder / "subsystem", error).filename().string();
+}
+
+SysfsEntry::Kind kindOf(const fs::path& folder) {
+    const auto name = subsystem(folder);
+    if (name == "usb" && isThere(folder / "idVendor")) {
+        return SysfsEntry::Kind::UsbDevice;
+    }
+    if (name == "block") {
+        return isThere(folder / "partition") ? SysfsEntry::Kind::Partition : SysfsEntry::Kind::Disk;
+    }
+    return SysfsEntry::Kind::Other;
+}
+
+std::vector<fs::path> subfolders(const fs::path& folder) {
+    std::vector<fs::path> found;
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+        // A link leads out of the subtree, and often back to its own beginning.
+        std::error_code ignored;
+        if (fs::is_directory(at->symlink_status(ignored))) {
+            found.push_back(at->path());
+        }
+    }
+    std::ranges::sort(found, [](const fs::path& left, const fs::path& right) {
+        return precedesInKernelOrder(left.filename().string(), right.filename().string());
+    });
+    return found;
+}
+
+} // namespace
+
+SysfsEntry::SysfsEntry(fs::path folder, unsigned depth)
+    : m_folder(std::move(folder)), m_depth(depth), m_kind(kindOf(m_folder)) {}
+
+std::string SysfsEntry::kernelName() const {
+    auto name = m_folder.filename().string();
+    // Some block devices have a slash in their names, which a folder's name cannot have.
+    std::ranges::replace(name, '!', '/');
+    return name;
+}
+
+std::optional<std::string> SysfsEntry::attribute(const std::string& name) const {
+    auto text = readTextFile(m_folder / name, AttributeLimit);
+    if (text && text->ends_with('\n')) {
+        text->pop_back();
+    }
+    return text;
+}
+
+std::optional<std::uint16_t> SysfsEntry::hexadecimal(const std::string& name) const {
+    constexpr std::size_t Digits = 4;
+    const auto text = attribute(name);
+    if (!text || text->size() != Digits) {
+        return std::nullopt;
+    }
+    return parseNumber<std::uint16_t>(*text, 16);
+}
+
+std::optional<std::uint64_t> SysfsEntry::decimal(const std::string& name) const {
+    const auto text = attribute(name);
+    return text ? parseNumber<std::uint64_t>(*text, 10) : std::nullopt;
+}
+
+std::vector<SysfsEntry> SysfsEntry::children() const {
+    std::vector<SysfsEntry> found;
+    addChildren(m_folder, m_depth, found);
+    return found;
+}
+
+void SysfsEntry::addChildren(const fs::path& folder, unsigned depth,
+                             std::vector<SysfsEntry>& found) const {
+    if (depth >= DepthLimit) {
+        return;
+    }
+    for (const auto& path : subfolders(folder)) {
+        if (!isThere(path / "uevent")) {
+            addChildren(path, depth + 1, found); // a folder that only groups, such as "block"
+            continue;
+        }
+        SysfsEntry entry(path, depth + 1);
+        const bool withoutMedium =
+            entry.kind() == Kind::Disk && entry.decimal("size").value_or(0) == 0;
+        if (entry.kind() != Kind::UsbDevice && !withoutMedium) {
+            found.push_back(std::move(entry));
+        }
+    }
+}
+
+std::vector<SysfsEntry> usbDevices(const fs::path& sysfs) {
+    std::vector<std::pair<std::pair<std::uint64_t, std::uint64_t>, SysfsEntry>> numbered;
+    std::error_code error;
+    for (fs::directory_iterator at(sysfs / "bus/usb/devices", error), end; !error && at != end;
+         at.increment(error)) {
+        std::error_code gone;
+        const auto folder = fs::canonical(at->path(), gone);
+        if (gone) {
+            continue;
+        }
+        SysfsEntry entry(folder);
+        const auto bus = entry.decimal("busnum");
+        const auto device = entry.decimal("devnum");
+        if (entry.kind() == SysfsEntry::Kind::UsbDevice && bus && device) {
+            numbered.emplace_back(std::pair(*bus, *device), std::move(entry));
+        }
+    }
+    std::ranges::sort(numbered, {}, [](const auto& item) { return item.first; });
+    std::vector<SysfsEntry> devices;
+    std::ranges::transform(numbered, std::back_inserter(devices),
+                           [](auto& item) { return std::move(item.second); });
+    return devices;
+}
+
+std::string mediaName(const SysfsEntry& disk) {
+    std::string name;
+    for (const auto* attribute : {"device/vendor", "device/model"}) {
+        if (const auto text = trimmed(disk.attribute(attribute).value_or("")); !text.empty()) {
+            name += text + ' ';
+        }
+    }
+    return name + "Media";
+}
+
+bool precedesInKernelOrder(const std::string& left, const std::string& right) {
+    std::string_view leftRest = left;
+    std::string_view rightRest = right;
+    while (!leftRest.empty() && !rightRest.empty()) {
+        if (isDigit(leftRest.front()) && isDigit(rightRest.front())) {
+            const auto leftNumber = takeNumber(leftRest);
+            const auto rightNumber = takeNumber(rightRest);
+            if (leftNumber != rightNumber) {
+                return std::tuple(leftNumber.size(), leftNumber) <
+                       std::tuple(rightNumber.size(), rightNumber);
+            }
+        } else if (leftRest.front() != rightRest.front()) {
+            return leftRest.front() < rightRest.front();
+        } else {
+            leftRest.remove_prefix(1);
+            rightRest.remove_prefix(1);
+        }
+    }
+    return std::tuple(leftRest.size(), left) < std::tuple(rightRest.size(), right);
+}
+
+} // namespace zelto::linux_platform
