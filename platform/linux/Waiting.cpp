@@ -9,7 +9,12 @@ namespace zelto::linux_platform {
 Waiting::Waiting(WorkInProgress showWork) : m_showWork(std::move(showWork)) {}
 
 std::shared_ptr<void> Waiting::showWork() const {
-    return m_showWork ? m_showWork() : nullptr;
+    auto shown = m_shown.lock();
+    if (!shown && m_showWork) {
+        shown = m_showWork();
+        m_shown = shown;
+    }
+    return shown;
 }
 
 void Waiting::run(QEventLoop& loop) const {

@@ -23,11 +23,13 @@ public:
     /// caller has to be ready to find that what it waits for has not happened.
     void run(QEventLoop& loop) const;
 
-    /// The same indication for work made of several waits: the windows do not flicker in between.
+    /// The indication for work made of several waits: it stays while the object returned lives, so
+    /// the windows do not flicker in between.
     [[nodiscard]] std::shared_ptr<void> showWork() const;
 
 private:
     WorkInProgress m_showWork;
+    mutable std::weak_ptr<void> m_shown;
 };
 
 } // namespace zelto::linux_platform

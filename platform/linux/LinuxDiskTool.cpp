@@ -1,0 +1,284 @@
+#include "platform/linux/LinuxDiskTool.h"
+
+#include "platform/linux/DiskHolders.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace zelto::linux_platform {
+
+namespace {
+
+enum ExitStatus { Done = 0, Failed = 1, Usage = 64 };
+
+const QString BlockInterface = QStringLiteral("org.freedesktop.UDisks2.Block");
+const QString DriveInterface = QStringLiteral("org.freedesktop.UDisks2.Drive");
+const QString FilesystemInterface = QStringLiteral("org.freedesktop.UDisks2.Filesystem");
+const QString TableInterface = QStringLiteral("org.freedesktop.UDisks2.PartitionTable");
+
+/// How often a volume that the desktop has mounted again is unmounted again.
+constexpr int Attempts = 5;
+/// A volume can be mounted in several places; more than this is a service gone mad.
+constexpr int MostMountPoints = 32;
+/// FAT's, in bytes.
+constexpr std::size_t LongestLabel = 11;
+
+bool succeeded(const QDBusMessage& reply) {
+    return reply.type() == QDBusMessage::ReplyMessage;
+}
+
+bool failedWith(const QDBusMessage& reply, QLatin1String error) {
+    return reply.type() == QDBusMessage::ErrorMessage &&
+           reply.errorName() == QLatin1String("org.freedesktop.UDisks2.Error.") + error;
+}
+
+/// The service gives up waiting for the kernel after a while, and the kernel goes on.
+bool mayYetSucceed(const QDBusMessage& reply) {
+    return failedWith(reply, QLatin1String("Timedout")) ||
+           reply.errorMessage().contains(QLatin1String("Timed out"), Qt::CaseInsensitive);
+}
+
+QVariantList withOptions(QVariantList arguments, const QVariantMap& options = {}) {
+    arguments.append(options);
+    return arguments;
+}
+
+bool isMounted(const UDisksState& state, const QString& block) {
+    const auto* found = state.find(block);
+    return found != nullptr && !found->mountPoints.empty();
+}
+
+} // namespace
+
+FatPartition planFatPartition(quint64 diskSizeInBytes) {
+    constexpr quint64 Mebibyte = 1U << 20U;
+    // From this size on the formatting tool writes FAT32, below it FAT16 or FAT12.
+    constexpr quint64 SmallestFat32 = 512 * Mebibyte;
+    const quint64 usable = diskSizeInBytes / Mebibyte * Mebibyte;
+    if (usable < 2 * Mebibyte) {
+        return {};
+    }
+    const quint64 size = usable - Mebibyte;
+    return {Mebibyte, size, size < SmallestFat32 ? QStringLiteral("0x0e") : QStringLiteral("0x0c")};
+}
+
+LinuxDiskTool::LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts,
+                             std::filesystem::path proc, std::chrono::milliseconds propertyDelay)
+    : m_bus(std::move(bus)),
+      m_waiting(waiting),
+      m_mounts(mounts),
+      m_proc(std::move(proc)),
+      m_propertyDelay(propertyDelay) {}
+
+UDisks& LinuxDiskTool::service() {
+    if (!m_service) {
+        m_service = std::make_unique<UDisks>(m_bus(), m_waiting);
+    }
+    return *m_service;
+}
+
+int LinuxDiskTool::run(const std::vector<std::string>& arguments) {
+    const auto busy = m_waiting.showWork();
+    const auto status = [](bool done) { return done ? Done : Failed; };
+    if (arguments.size() == 2 && arguments[0] == "umount") {
+        return status(umount(arguments[1]));
+    }
+    if (arguments.size() == 2 && arguments[0] == "eject") {
+        return status(eject(arguments[1]));
+    }
+    if (arguments.size() == 5 && arguments[0] == "eraseDisk" && arguments[1] == "MS-DOS" &&
+        arguments[3] == "MBR" && arguments[2].size() <= LongestLabel) {
+        return status(eraseDisk(arguments[2], arguments[4]));
+    }
+    return Usage;
+}
+
+std::string LinuxDiskTool::partitionName(const std::string& disk, unsigned number) const {
+    const bool endsInDigit = !disk.empty() && disk.back() >= '0' && disk.back() <= '9';
+    return disk + (endsInDigit ? "p" : "") + std::to_string(number);
+}
+
+std::vector<std::string> LinuxDiskTool::holders(const std::vector<std::string>& bsdNames) const {
+    std::vector<std::string> devicePaths;
+    std::ranges::transform(bsdNames, std::back_inserter(devicePaths),
+                           [](const std::string& name) { return "/dev/" + name; });
+    return programsHolding(devicePaths, m_mounts.getmntinfo(), m_proc, ::getuid());
+}
+
+bool LinuxDiskTool::umount(const std::string& bsdName) {
+    const auto state = service().state();
+    const auto* block = state ? state->findDevice(bsdName) : nullptr;
+    return block != nullptr && unmountEverywhere(block->path);
+}
+
+bool LinuxDiskTool::eject(const std::string& bsdName) {
+    const auto state = service().state();
+    const auto* block = state ? state->findDevice(bsdName) : nullptr;
+    const auto* disk = block != nullptr ? state->diskOf(*block) : nullptr;
+    if (disk == nullptr || state->findDrive(disk->drive) == nullptr) {
+        return false;
+    }
+    const auto mediumHasGone = [drive = disk->drive](const UDisksState& now) {
+        const auto* found = now.findDrive(drive);
+        return found == nullptr || !found->mediaAvailable;
+    };
+    // Never PowerOff: it takes the whole device off the bus, and the log-out still has to reach it.
+    return doFreed(
+        disk->path,
+        [&] {
+            return service().call(disk->drive, DriveInterface, QStringLiteral("Eject"),
+                                  withOptions({}));
+        },
+        mediumHasGone);
+}
+
+bool LinuxDiskTool::eraseDisk(const std::string& label, const std::string& bsdName) {
+    const auto state = service().state();
+    const auto* disk = state ? state->findDevice(bsdName) : nullptr;
+    if (disk == nullptr || !writeTable(disk->path)) {
+        return false;
+    }
+    const auto partition = createPartition(*disk);
+    return !partition.isEmpty() && makeFat(disk->path, partition, QString::fromStdString(label)) &&
+           mount(partition);
+}
+
+bool LinuxDiskTool::unmountEverywhere(const QString& block) {
+    bool triedInVain = false;
+    for (int tries = 0; tries < MostMountPoints; ++tries) {
+        const auto state = service().state();
+        if (!state) {
+            return false;
+        }
+        if (!isMounted(*state, block)) {
+            return true;
+        }
+        // Without "force": that would only hide the volume from new programs.
+        const auto reply =
+            service().call(block, FilesystemInterface, QStringLiteral("Unmount"), withOptions({}));
+        const auto before = state->find(block)->mountPoints;
+        const auto fewer = [&](const UDisksState& now) {
+            const auto* found = now.find(block);
+            return found == nullptr || found->mountPoints != before;
+        };
+        const bool worthWaiting = succeeded(reply) || mayYetSucceed(reply) ||
+                                  failedWith(reply, QLatin1String("NotMounted"));
+        if (service().waitFor(fewer,
+                              worthWaiting ? m_propertyDelay : std::chrono::milliseconds::zero())) {
+            continue;
+        }
+        if (failedWith(reply, QLatin1String("NotMounted"))) {
+            return true;
+        }
+        // It said that it had done it: once more, and it will say NotMounted if it has.
+        if (!succeeded(reply) || std::exchange(triedInVain, true)) {
+            return false;
+        }
+    }
+    return false;
+}
+
+bool LinuxDiskTool::unmountDisk(const QString& disk) {
+    const auto state = service().state();
+    return state && std::ranges::all_of(state->mountedOn(disk), [&](const QString& block) {
+               return unmountEverywhere(block);
+           });
+}
+
+bool LinuxDiskTool::settle(const QDBusMessage& reply, const UDisks::Predicate& goal) {
+    const bool worthWaiting = succeeded(reply) || mayYetSucceed(reply);
+    const bool reached =
+        service().waitFor(goal, worthWaiting ? m_propertyDelay : std::chrono::milliseconds::zero());
+    return reached || succeeded(reply);
+}
+
+/// Does what a mounted volume forbids. The desktop may mount one again between the unmounting and
+/// the action, which then finds the device busy.
+bool LinuxDiskTool::doFreed(const QString& disk, const std::function<QDBusMessage()>& action,
+                            const UDisks::Predicate& goal) {
+    for (int tries = 0; tries < Attempts; ++tries) {
+        if (!unmountDisk(disk)) {
+            return false;
+        }
+        const auto reply = action();
+        if (settle(reply, goal)) {
+            return true;
+        }
+        const auto state = service().state();
+        if (!state || state->mountedOn(disk).empty()) {
+            return false;
+        }
+    }
+    return false;
+}
+
+bool LinuxDiskTool::writeTable(const QString& disk) {
+    return doFreed(
+        disk,
+        [&] {
+            return service().call(disk, BlockInterface, QStringLiteral("Format"),
+                                  withOptions({QStringLiteral("dos")}));
+        },
+        [&](const UDisksState& now) {
+            const auto* found = now.find(disk);
+            return found != nullptr && found->tableType == QLatin1String("dos") &&
+                   now.partitionsOf(disk).empty();
+        });
+}
+
+QString LinuxDiskTool::createPartition(const UDisksBlock& disk) {
+    const auto plan = planFatPartition(disk.sizeInBytes);
+    if (plan.type.isEmpty()) {
+        return {};
+    }
+    const auto reply = service().call(disk.path, TableInterface, QStringLiteral("CreatePartition"),
+                                      withOptions({plan.offset, plan.size, plan.type, QString()}));
+    QString partition;
+    if (!reply.arguments().isEmpty()) {
+        partition = reply.arguments().constFirst().value<QDBusObjectPath>().path();
+    }
+    const auto isThere = [&](const UDisksState& now) {
+        const auto partitions = now.partitionsOf(disk.path);
+        if (partition.isEmpty() && !partitions.empty()) {
+            partition = partitions.front()->path;
+        }
+        return now.find(partition) != nullptr;
+    };
+    return settle(reply, isThere) ? partition : QString();
+}
+
+bool LinuxDiskTool::makeFat(const QString& disk, const QString& partition, const QString& label) {
+    // A file system that lay at the same sectors before shows up again with the partition, perhaps
+    // under the same label; only the new one has a new serial number.
+    const auto state = service().state();
+    const auto* before = state ? state->find(partition) : nullptr;
+    const auto oldUuid = before != nullptr ? before->idUuid : QString();
+    return doFreed(
+        disk,
+        [&] {
+            return service().call(
+                partition, BlockInterface, QStringLiteral("Format"),
+                withOptions({QStringLiteral("vfat")}, {{QStringLiteral("label"), label}}));
+        },
+        [&](const UDisksState& now) {
+            const auto* found = now.find(partition);
+            return found != nullptr && found->hasFilesystem &&
+                   found->idType == QLatin1String("vfat") && found->idLabel == label &&
+                   found->idUuid != oldUuid;
+        });
+}
+
+bool LinuxDiskTool::mount(const QString& partition) {
+    const auto mounted = [&](const UDisksState& now) { return isMounted(now, partition); };
+    if (service().waitFor(mounted, std::chrono::milliseconds::zero())) {
+        return true; // the desktop was faster
+    }
+    const auto reply =
+        service().call(partition, FilesystemInterface, QStringLiteral("Mount"), withOptions({}));
+    return settle(reply, mounted) || failedWith(reply, QLatin1String("AlreadyMounted"));
+}
+
+} // namespace zelto::linux_platform

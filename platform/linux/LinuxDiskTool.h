@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/Disks.h"
+#include "platform/linux/UDisks.h"
+#include "platform/linux/Waiting.h"
+
+#include <QDBusConnection>
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zelto::linux_platform {
+
+/// The disk tool's verbs as calls to UDisks2. Desktops mount what appears without being asked, so
+/// each step expects a volume that is mounted again; and since the service can report a failure
+/// for what it has done, a step that failed is judged by the state that it left.
+class LinuxDiskTool final : public DiskTool {
+public:
+    using Bus = std::function<QDBusConnection()>;
+
+    /// How long the service's properties may lag behind its answers.
+    static constexpr std::chrono::milliseconds PropertyDelay{20'000};
+
+    /// The bus is asked for at the first run, not before.
+    LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts,
+                  std::filesystem::path proc = "/proc",
+                  std::chrono::milliseconds propertyDelay = PropertyDelay);
+
+    /// Exit status: 0 done, 1 failed, 64 arguments that are none of the tool's verbs.
+    [[nodiscard]] int run(const std::vector<std::string>& arguments) override;
+    [[nodiscard]] std::string partitionName(const std::string& disk,
+                                            unsigned number) const override;
+    [[nodiscard]] std::vector<std::string>
+    holders(const std::vector<std::string>& bsdNames) const override;
+
+private:
+    [[nodiscard]] UDisks& service();
+    [[nodiscard]] bool umount(const std::string& bsdName);
+    [[nodiscard]] bool eject(const std::string& bsdName);
+    [[nodiscard]] bool eraseDisk(const std::string& label, const std::string& bsdName);
+
+    [[nodiscard]] bool unmountEverywhere(const QString& block);
+    [[nodiscard]] bool unmountDisk(const QString& disk);
+    [[nodiscard]] bool writeTable(const QString& disk);
+    /// The new partition's object; empty on failure.
+    [[nodiscard]] QString createPartition(const UDisksBlock& disk);
+    [[nodiscard]] bool makeFat(const QString& disk, const QString& partition, const QString& label);
+    [[nodiscard]] bool mount(const QString& partition);
+
+    [[nodiscard]] bool doFreed(const QString& disk, const std::function<QDBusMessage()>& action,
+                               const UDisks::Predicate& goal);
+    [[nodiscard]] bool settle(const QDBusMessage& reply, const UDisks::Predicate& goal);
+
+    Bus m_bus;
+    const Waiting& m_waiting;
+    MountTable& m_mounts;
+    std::filesystem::path m_proc;
+    std::chrono::milliseconds m_propertyDelay;
+    std::unique_ptr<UDisks> m_service;
+};
+
+/// Where the one partition of an erased disk lies, in bytes, and what it is called in the table.
+struct FatPartition {
+    quint64 offset = 0;
+    quint64 size = 0;
+    /// The type byte as UDisks2 writes it, "0x0e" say. Empty: the disk is too small for any.
+    QString type;
+};
+[[nodiscard]] FatPartition planFatPartition(quint64 diskSizeInBytes);
+
+} // namespace zelto::linux_platform

@@ -1,0 +1,19 @@
+#include "platform/linux/LinuxPlatform.h"
+
+#include <utility>
+
+namespace zelto::linux_platform {
+
+LinuxPlatform::LinuxPlatform(Alerts& alerts, WorkInProgress showWork)
+    : m_alerts(alerts),
+      m_waiting(std::move(showWork)),
+      m_usb(m_waiting),
+      m_disks([] { return QDBusConnection::systemBus(); }, m_waiting, m_mounts),
+      m_computer(m_waiting),
+      m_clock(m_waiting) {}
+
+Platform LinuxPlatform::platform() {
+    return {m_usb, m_registry, m_mounts, m_disks, m_computer, m_clock, m_alerts, m_application};
+}
+
+} // namespace zelto::linux_platform

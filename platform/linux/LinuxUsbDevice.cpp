@@ -1,0 +1,120 @@
+#include "platform/linux/LinuxUsbDevice.h"
+
+#include <QEventLoop>
+#include <QTimer>
+
+#include <fcntl.h>
+#include <libusb.h>
+#include <linux/usbdevice_fs.h>
+#include <sys/ioctl.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <utility>
+
+namespace zelto::linux_platform {
+
+namespace {
+
+/// Never 0, which means for ever.
+constexpr unsigned ControlTimeoutMilliseconds = 5000;
+/// What usbfs carries on endpoint 0.
+constexpr std::uint16_t LongestDataStage = 4096;
+
+bool isRefusal(int error) {
+    return error == EACCES || error == EPERM;
+}
+
+} // namespace
+
+LinuxUsbDevice::LinuxUsbDevice(UsbAnnouncement announcement,
+                               std::shared_ptr<const UsbContext> context, const Waiting& waiting,
+                               OpenPatience patience)
+    : m_announcement(std::move(announcement)),
+      m_context(std::move(context)),
+      m_waiting(waiting),
+      m_patience(patience) {}
+
+LinuxUsbDevice::~LinuxUsbDevice() {
+    // libusb does not close a descriptor that it has been given; m_node does, after this.
+    if (m_handle != nullptr) {
+        libusb_close(m_handle);
+    }
+}
+
+IOReturn LinuxUsbDevice::USBDeviceOpen() {
+    if (m_handle != nullptr) {
+        return kIOReturnSuccess;
+    }
+    if (m_context->get() == nullptr) {
+        return kIOReturnIOError;
+    }
+    const auto result = openNode();
+    return result == kIOReturnSuccess ? wrapNode() : result;
+}
+
+IOReturn LinuxUsbDevice::openNode() {
+    for (unsigned tries = 1;; ++tries) {
+        m_node = FileDescriptor(::open(m_announcement.node.c_str(), O_RDWR | O_CLOEXEC));
+        if (m_node.isOpen()) {
+            return kIOReturnSuccess;
+        }
+        const int error = errno;
+        // The node of a device that has just arrived can be there before its permissions.
+        if (!isRefusal(error) || tries >= m_patience.tries) {
+            return resultOfOpen(error, m_announcement.accessRule());
+        }
+        QEventLoop loop;
+        QTimer::singleShot(m_patience.pause, &loop, &QEventLoop::quit);
+        m_waiting.run(loop);
+    }
+}
+
+IOReturn LinuxUsbDevice::wrapNode() {
+    const int status =
+        libusb_wrap_sys_device(m_context->get(), std::intptr_t{m_node.get()}, &m_handle);
+    if (status != LIBUSB_SUCCESS) {
+        m_handle = nullptr;
+        const auto result = hasLeft() ? kIOReturnNoDevice : resultOfTransfer(status);
+        m_node = FileDescriptor();
+        return result;
+    }
+    libusb_device_descriptor descriptor{};
+    libusb_get_device_descriptor(libusb_get_device(m_handle), &descriptor);
+    if (descriptor.idVendor != identity().idVendor ||
+        descriptor.idProduct != identity().idProduct) {
+        // The device has left and another one has been given its number meanwhile.
+        libusb_close(std::exchange(m_handle, nullptr));
+        m_node = FileDescriptor();
+        return kIOReturnNoDevice;
+    }
+    m_announcement.identity.bcdDevice = descriptor.bcdDevice;
+    m_announcement.identity.iSerialNumber = descriptor.iSerialNumber;
+    return kIOReturnSuccess;
+}
+
+IOReturn LinuxUsbDevice::DeviceRequest(IOUSBDevRequest& request) {
+    request.wLenDone = 0;
+    if (m_handle == nullptr) {
+        return kIOReturnNotOpen;
+    }
+    if (request.wLength > LongestDataStage || (request.wLength > 0 && request.pData == nullptr)) {
+        return kIOReturnBadArgument;
+    }
+    const int status = libusb_control_transfer(m_handle, request.bmRequestType, request.bRequest,
+                                               request.wValue, request.wIndex, request.pData,
+                                               request.wLength, ControlTimeoutMilliseconds);
+    if (status >= 0) {
+        request.wLenDone = static_cast<std::uint32_t>(status);
+    }
+    const auto result = resultOfTransfer(status);
+    // A transfer that an unplug has broken can end as a protocol error just as well.
+    return result == kIOReturnIOError && hasLeft() ? kIOReturnNoDevice : result;
+}
+
+bool LinuxUsbDevice::hasLeft() const {
+    usbdevfs_connectinfo info{};
+    return ::ioctl(m_node.get(), USBDEVFS_CONNECTINFO, &info) < 0 && errno == ENODEV;
+}
+
+} // namespace zelto::linux_platform

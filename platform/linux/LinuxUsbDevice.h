@@ -1,0 +1,80 @@
+#pragma once
+
+#include "platform/UsbDevice.h"
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/UsbContext.h"
+#include "platform/linux/UsbResult.h"
+#include "platform/linux/Waiting.h"
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+
+struct libusb_device_handle;
+
+namespace zelto::linux_platform {
+
+/// The four fields of a device descriptor (USB 2.0, 9.6.1) that the utility asks for.
+struct UsbIdentity {
+    std::uint16_t idVendor = 0;
+    std::uint16_t idProduct = 0;
+    std::uint16_t bcdDevice = 0;
+    std::uint8_t iSerialNumber = 0;
+};
+
+/// A device as udev announced it.
+struct UsbAnnouncement {
+    std::string syspath;
+    /// Path of the usbfs node, "/dev/bus/usb/001/002" say.
+    std::string node;
+    UsbIdentity identity;
+    /// Asked when an open is refused; the system may have learned more since the arrival.
+    std::function<AccessRule()> accessRule;
+};
+
+/// How long an open waits for permissions that follow the node by a moment.
+struct OpenPatience {
+    unsigned tries = 6;
+    std::chrono::milliseconds pause{50};
+};
+
+/// One USB device through usbfs. The node is opened here and only then given to libusb, so that
+/// the reason of a refused open is known and no discovery runs. Only endpoint 0 is used: no
+/// interface is claimed and no driver detached, so the storage driver keeps the drive's units.
+class LinuxUsbDevice final : public UsbDeviceInterface {
+public:
+    LinuxUsbDevice(UsbAnnouncement announcement, std::shared_ptr<const UsbContext> context,
+                   const Waiting& waiting, OpenPatience patience);
+    ~LinuxUsbDevice() override;
+
+    [[nodiscard]] std::uint16_t GetDeviceVendor() const override { return identity().idVendor; }
+    [[nodiscard]] std::uint16_t GetDeviceProduct() const override { return identity().idProduct; }
+    [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override {
+        return identity().bcdDevice;
+    }
+    [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override {
+        return identity().iSerialNumber;
+    }
+
+    /// Opening an open device changes nothing and succeeds.
+    [[nodiscard]] IOReturn USBDeviceOpen() override;
+
+    /// Lengths over 4096 are refused as kIOReturnBadArgument: usbfs carries no more.
+    [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override;
+
+private:
+    [[nodiscard]] const UsbIdentity& identity() const { return m_announcement.identity; }
+    [[nodiscard]] IOReturn openNode();
+    [[nodiscard]] IOReturn wrapNode();
+    [[nodiscard]] bool hasLeft() const;
+
+    UsbAnnouncement m_announcement;
+    std::shared_ptr<const UsbContext> m_context;
+    const Waiting& m_waiting;
+    OpenPatience m_patience;
+    FileDescriptor m_node;
+    libusb_device_handle* m_handle = nullptr;
+};
+
+} // namespace zelto::linux_platform

@@ -1,0 +1,107 @@
+#include "platform/linux/UDisks.h"
+
+#include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace zelto::linux_platform {
+
+namespace {
+
+const QString Service = QStringLiteral("org.freedesktop.UDisks2");
+const QString ManagerObject = QStringLiteral("/org/freedesktop/UDisks2");
+const QString ObjectManagerInterface = QStringLiteral("org.freedesktop.DBus.ObjectManager");
+const QString PropertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+
+/// Flushing a slow drive or waiting for the user at a prompt takes longer than any limit.
+constexpr int WithoutLimit = std::numeric_limits<int>::max();
+/// A change is normally announced; this is for the announcement that got lost.
+constexpr std::chrono::milliseconds AskAgainAfter{1000};
+
+} // namespace
+
+UDisks::UDisks(QDBusConnection bus, const Waiting& waiting)
+    : m_bus(std::move(bus)),
+      m_waiting(waiting),
+      m_watcher(Service, m_bus, QDBusServiceWatcher::WatchForOwnerChange) {
+    qDBusRegisterMetaType<ManagedInterfaces>();
+    qDBusRegisterMetaType<ManagedObjects>();
+    connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &UDisks::noteChange);
+    m_bus.connect(Service, {}, PropertiesInterface, QStringLiteral("PropertiesChanged"), this,
+                  SLOT(noteChange()));
+    m_bus.connect(Service, {}, ObjectManagerInterface, QStringLiteral("InterfacesAdded"), this,
+                  SLOT(noteChange()));
+    m_bus.connect(Service, {}, ObjectManagerInterface, QStringLiteral("InterfacesRemoved"), this,
+                  SLOT(noteChange()));
+}
+
+void UDisks::noteChange() {
+    m_hasChanged = true;
+    Q_EMIT changed();
+}
+
+QDBusMessage UDisks::call(const QString& object, const QString& interface, const QString& method,
+                          const QVariantList& arguments) {
+    auto message = QDBusMessage::createMethodCall(Service, object, interface, method);
+    message.setArguments(arguments);
+    QDBusPendingCallWatcher pending(m_bus.asyncCall(message, WithoutLimit));
+    if (!pending.isFinished()) {
+        QEventLoop loop;
+        connect(&pending, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+        m_waiting.run(loop);
+    }
+    // The application may be ending; what has been asked for still has to come to its end.
+    pending.waitForFinished();
+    return pending.reply();
+}
+
+std::optional<UDisksState> UDisks::state() {
+    const auto reply =
+        call(ManagerObject, ObjectManagerInterface, QStringLiteral("GetManagedObjects"), {});
+    if (reply.type() != QDBusMessage::ReplyMessage ||
+        reply.signature() != QLatin1String("a{oa{sa{sv}}}")) {
+        return std::nullopt;
+    }
+    return UDisksState::decode(qdbus_cast<ManagedObjects>(reply.arguments().constFirst()));
+}
+
+bool UDisks::waitFor(const Predicate& wanted, std::chrono::milliseconds limit) {
+    const QDeadlineTimer end(limit);
+    while (true) {
+        m_hasChanged = false;
+        const auto now = state();
+        if (!now) {
+            return false;
+        }
+        if (wanted(*now)) {
+            return true;
+        }
+        if (end.hasExpired()) {
+            return false;
+        }
+        bool timeUp = false;
+        if (!m_hasChanged) {
+            QEventLoop loop;
+            connect(this, &UDisks::changed, &loop, &QEventLoop::quit);
+            QTimer::singleShot(
+                std::min(AskAgainAfter, std::chrono::milliseconds(end.remainingTime())), &loop,
+                [&] {
+                    timeUp = true;
+                    loop.quit();
+                });
+            m_waiting.run(loop);
+        }
+        if (!m_hasChanged && !timeUp) {
+            return false; // the application is ending
+        }
+    }
+}
+
+} // namespace zelto::linux_platform

@@ -1,0 +1,119 @@
+#include "platform/linux/UDisksState.h"
+
+#include <QDBusArgument>
+
+#include <algorithm>
+
+namespace zelto::linux_platform {
+
+namespace {
+
+const QString BlockInterface = QStringLiteral("org.freedesktop.UDisks2.Block");
+const QString DriveInterface = QStringLiteral("org.freedesktop.UDisks2.Drive");
+const QString FilesystemInterface = QStringLiteral("org.freedesktop.UDisks2.Filesystem");
+const QString PartitionInterface = QStringLiteral("org.freedesktop.UDisks2.Partition");
+const QString TableInterface = QStringLiteral("org.freedesktop.UDisks2.PartitionTable");
+
+/// Paths come as bytes with a zero at their end.
+QByteArray withoutZero(QByteArray path) {
+    return path.endsWith('\0') ? path.chopped(1) : path;
+}
+
+QString objectPath(const QVariant& value) {
+    return value.value<QDBusObjectPath>().path();
+}
+
+std::vector<QByteArray> paths(const QVariant& value) {
+    std::vector<QByteArray> decoded;
+    if (value.metaType() != QMetaType::fromType<QDBusArgument>()) {
+        return decoded;
+    }
+    const auto argument = value.value<QDBusArgument>();
+    // Taking an argument apart as a type that it is not is undefined.
+    if (argument.currentSignature() == QLatin1String("aay")) {
+        for (const auto& path : qdbus_cast<QList<QByteArray>>(argument)) {
+            decoded.push_back(withoutZero(path));
+        }
+    }
+    return decoded;
+}
+
+UDisksBlock decodeBlock(const QString& path, const ManagedInterfaces& interfaces) {
+    const auto block = interfaces.value(BlockInterface);
+    UDisksBlock decoded;
+    decoded.path = path;
+    decoded.device = withoutZero(block.value(QStringLiteral("Device")).toByteArray());
+    decoded.drive = objectPath(block.value(QStringLiteral("Drive")));
+    decoded.sizeInBytes = block.value(QStringLiteral("Size")).toULongLong();
+    decoded.idType = block.value(QStringLiteral("IdType")).toString();
+    decoded.idLabel = block.value(QStringLiteral("IdLabel")).toString();
+    decoded.idUuid = block.value(QStringLiteral("IdUUID")).toString();
+    decoded.hasFilesystem = interfaces.contains(FilesystemInterface);
+    decoded.mountPoints =
+        paths(interfaces.value(FilesystemInterface).value(QStringLiteral("MountPoints")));
+    decoded.tableType = interfaces.value(TableInterface).value(QStringLiteral("Type")).toString();
+    decoded.disk = objectPath(interfaces.value(PartitionInterface).value(QStringLiteral("Table")));
+    return decoded;
+}
+
+template <typename Items, typename Predicate>
+auto findIf(const Items& items, Predicate predicate) {
+    const auto found = std::ranges::find_if(items, predicate);
+    return found == items.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+UDisksState UDisksState::decode(const ManagedObjects& objects) {
+    UDisksState state;
+    for (auto object = objects.begin(); object != objects.end(); ++object) {
+        if (object.value().contains(BlockInterface)) {
+            state.blocks.push_back(decodeBlock(object.key().path(), object.value()));
+        }
+        if (object.value().contains(DriveInterface)) {
+            const auto drive = object.value().value(DriveInterface);
+            state.drives.push_back(
+                {object.key().path(), drive.value(QStringLiteral("MediaAvailable")).toBool()});
+        }
+    }
+    return state;
+}
+
+const UDisksBlock* UDisksState::find(const QString& path) const {
+    return findIf(blocks, [&](const UDisksBlock& block) { return block.path == path; });
+}
+
+const UDisksBlock* UDisksState::findDevice(const std::string& bsdName) const {
+    const auto device = "/dev/" + QByteArray::fromStdString(bsdName);
+    return findIf(blocks, [&](const UDisksBlock& block) { return block.device == device; });
+}
+
+const UDisksDrive* UDisksState::findDrive(const QString& path) const {
+    return findIf(drives, [&](const UDisksDrive& drive) { return drive.path == path; });
+}
+
+const UDisksBlock* UDisksState::diskOf(const UDisksBlock& block) const {
+    return block.disk.isEmpty() ? &block : find(block.disk);
+}
+
+std::vector<const UDisksBlock*> UDisksState::partitionsOf(const QString& disk) const {
+    std::vector<const UDisksBlock*> partitions;
+    for (const auto& block : blocks) {
+        if (block.disk == disk) {
+            partitions.push_back(&block);
+        }
+    }
+    return partitions;
+}
+
+std::vector<QString> UDisksState::mountedOn(const QString& disk) const {
+    std::vector<QString> mounted;
+    for (const auto& block : blocks) {
+        if ((block.path == disk || block.disk == disk) && !block.mountPoints.empty()) {
+            mounted.push_back(block.path);
+        }
+    }
+    return mounted;
+}
+
+} // namespace zelto::linux_platform
