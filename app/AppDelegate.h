@@ -8,12 +8,15 @@
 #include "device/TimeStatus.h"
 #include "platform/Alerts.h"
 #include "platform/Platform.h"
+#include "settings/AreaPacking.h"
 #include "settings/AreaSettings.h"
+#include "settings/OkButtonRules.h"
 #include "settings/SettingsModel.h"
 #include "ui/Forms.h"
 
 #include <QString>
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -21,6 +24,8 @@
 #include <vector>
 
 namespace zelto {
+
+class AreaTableModel;
 
 /// The one controller: it owns the windows and all state, and every button, tick and device event
 /// ends up here. Each section below is one source file, in the folder of its topic; a section's
@@ -179,6 +184,8 @@ public:
 
     // --- Areas: settings/AppDelegate_Areas.cpp ------------------------------------------------
 
+    AreaSettings AreaSettingsDlg;
+
     [[nodiscard]] int numberOfRowsInTableView() const;
     /// The text of a cell; `column` is the column's identifier, "ColumnIDDisk" say.
     [[nodiscard]] QString tableViewObjectValue(const QString& column, int row) const;
@@ -238,7 +245,11 @@ public:
 private:
     // app/AppDelegate_Outlets.cpp: which control calls which operation.
     void connectSessionWindows();
+    // settings/AppDelegate_SettingsOutlets.cpp
     void connectSettingsWindows();
+    void connectMainSettingsWindow();
+    void connectAreaSettingsWindow();
+    void connectPasswordWindows();
 
     // app/AppDelegate_Startup.cpp
     void relocate(const std::filesystem::path& bundle);
@@ -272,12 +283,59 @@ private:
     void formatAndCopy();
     void showDriveTime(const TimeStatus& status);
 
+    // settings/AppDelegate_Setup.cpp: the parts of a commit. All but sendAuthInfo report failure.
+    enum class AuthInfoUse { FirstSetup, Change };
+    [[nodiscard]] bool sendAreaInfos();
+    [[nodiscard]] bool sendEncryptionInfo();
+    [[nodiscard]] bool sendFirstPasswords();
+    /// Wipes the record, whatever the drive answers.
+    [[nodiscard]] IOReturn sendAuthInfo(AuthInfo& info, AuthInfoUse use);
+    [[nodiscard]] bool sendPeriods();
+    /// True for success; any other result is reported first.
+    [[nodiscard]] bool Succeeded(IOReturn result);
+    void beginSetupProgress();
+
+    // settings/AppDelegate_Commit.cpp
+    [[nodiscard]] bool changePasswords();
+    [[nodiscard]] bool changeSecondPassword();
+    /// Alone (Change), or together with the second (ChangeBoth).
+    [[nodiscard]] bool changeFirstPassword(AuthInfo::Kind kind);
+    void reportRefusedChange(IOReturn result, const char* wrongPasswordKey);
+
+    // settings/AppDelegate_MainSettings.cpp: the parts of opening the window, and what it holds.
+    [[nodiscard]] bool readAreasForSettings();
+    void switchSecurityControlsOff();
+    void offerSecurityControls();
+    [[nodiscard]] bool showSecurityOfDrive(const DeviceStatus& status);
+    void showPeriods(const TimeStatus& time);
+    [[nodiscard]] bool usesAutomaticKey() const;
+    [[nodiscard]] AutoClearEntry shownAutoClearEntry() const;
+    [[nodiscard]] AutoLogOffEntry shownAutoLogOffEntry() const;
+    [[nodiscard]] MainSettingsEntries mainSettingsEntries() const;
+
+    // settings/AppDelegate_Areas.cpp
+    void reloadAreaTable(const AreaView& view);
+    void showAreaSettingsBar();
+    void keepOneSecureDisk(std::size_t chosen);
+    [[nodiscard]] std::array<QLineEdit*, 3> diskCapacityFields() const;
+    [[nodiscard]] std::array<QCheckBox*, 3> diskSecureBoxes() const;
+    [[nodiscard]] std::array<bool, 3> chosenSecureDisks() const;
+
+    // settings/AppDelegate_Passwords.cpp
+    void keepChangedPasswords();
+
+    // settings/AppDelegate_Key.cpp: the parts of clearing all. They report failure.
+    [[nodiscard]] bool clearPeriodsAndHint(SecurityState state);
+    [[nodiscard]] bool resetAreaInfos();
+
     [[nodiscard]] UsbDeviceInterface& Device() const { return *Drives.CurrentUsbIntf; }
 
     Platform m_platform;
     EventGate m_gate;
     DiscoveryContext m_discovery;
     QWidget* m_window = nullptr;
+    /// Owned by the table that shows it.
+    AreaTableModel* m_areaTable = nullptr;
 };
 
 } // namespace zelto

@@ -1,24 +1,9 @@
 #include "app/AppDelegate.h"
-
-#include <QLineEdit>
-#include <QPushButton>
+#include "app/Outlets.h"
 
 namespace zelto {
-namespace {
 
-template <typename Button, typename Action>
-void onClick(Button* button, AppDelegate* delegate, Action action) {
-    QObject::connect(button, &QAbstractButton::clicked, button,
-                     [delegate, action] { (delegate->*action)(); });
-}
-
-template <typename Action>
-void onClose(Window& window, AppDelegate* delegate, Action action) {
-    QObject::connect(&window, &Window::closeRequested, &window,
-                     [delegate, action] { (delegate->*action)(); });
-}
-
-} // namespace
+using namespace outlets;
 
 void AppDelegate::connectSessionWindows() {
     onClick(SelectZeltoWindow.SelectZeltoOK, this, &AppDelegate::SelectZeltoOKAction);
@@ -29,8 +14,7 @@ void AppDelegate::connectSessionWindows() {
     onClick(AuthenticateWindow.AuthenticateSubmit, this, &AppDelegate::AuthenticateSubmitAction);
     onClick(AuthenticateWindow.AuthenticateCancel, this, &AppDelegate::AuthenticateCancelAction);
     onClose(AuthenticateWindow, this, &AppDelegate::AuthenticateCancelAction);
-    QObject::connect(AuthenticateWindow.AuthenticateTextField, &QLineEdit::textEdited,
-                     &AuthenticateWindow, [this] { controlTextDidChange(); });
+    onEdit(AuthenticateWindow.AuthenticateTextField, this, &AppDelegate::controlTextDidChange);
 
     onClick(UnlockedWindow.UnlockedOK, this, &AppDelegate::UnlockedOKAction);
     onClick(UnlockedWindow.UnlockedLogOff, this, &AppDelegate::UnlockedLogOffAction);

@@ -1,0 +1,141 @@
+#include "app/AppDelegate.h"
+#include "device/DeviceReads.h"
+#include "device/ZELTOctrl.h"
+#include "settings/SecretText.h"
+#include "ui/Strings.h"
+
+namespace zelto {
+
+using namespace std::chrono_literals;
+
+void AppDelegate::MainSettingsOKAction() {
+    QPushButton& ok = *MainSettingsWindow.MainSettingsOKButton;
+    ok.setEnabled(false);
+    // The commands that follow block the event loop: the user sees now that the commit begins.
+    ok.repaint();
+
+    const bool committed =
+        Settings.InitialSetting ? ZeltoInitializeSettings() : ZeltoChangeSettings();
+    if (!committed) {
+        ok.setEnabled(true);
+        return;
+    }
+    wipePasswords(Settings.PasswordSettingsParameters);
+    wipeText(Settings.StrEncryptionKey);
+    UpdateUserDefaultsShowRemainingTime();
+    if (Settings.InitialSetting) {
+        beginSetupProgress();
+    } else {
+        TerminateApplication();
+    }
+}
+
+void AppDelegate::MainSettingsCancelAction() {
+    TerminateApplication();
+}
+
+void AppDelegate::MainSettingsEncryptionKeyAuto() {
+    MainSettingsWindow.EncryptionKeyButton->setEnabled(false);
+}
+
+void AppDelegate::MainSettingsEncryptionKeyManual() {
+    MainSettingsWindow.EncryptionKeyButton->setEnabled(true);
+}
+
+void AppDelegate::MainSettingsAutoClearEnabledAction() {
+    auto& form = MainSettingsWindow;
+    const bool on = form.AutoClearEnabledCheckBox->isChecked();
+    Changed.AutoClearSettingsChanged = true;
+    form.AutoClearDaysOrMinutesRadioButton->selectCellWithTag(static_cast<int>(PeriodUnit::Days));
+    form.AutoClearText->clear();
+    form.AutoClearDaysOrMinutesRadioButton->setEnabled(on);
+    form.AutoClearText->setEnabled(on);
+    UpdateMainSettingsOKButton();
+}
+
+void AppDelegate::MainSettingsAutoClearDaysAction() {
+    Changed.AutoClearSettingsChanged = true;
+    MainSettingsWindow.AutoClearText->clear();
+    UpdateMainSettingsOKButton();
+}
+
+void AppDelegate::MainSettingsAutoClearMinutesAction() {
+    MainSettingsAutoClearDaysAction();
+}
+
+void AppDelegate::MainSettingsAutoLogOffEnabledAction() {
+    auto& form = MainSettingsWindow;
+    const bool on = form.AutoLogOffEnabledCheckBox->isChecked();
+    Changed.AutoLogOffSettingsChanged = true;
+    if (!on) {
+        form.AutoLogOffText->clear();
+    }
+    form.AutoLogOffText->setEnabled(on);
+    UpdateMainSettingsOKButton();
+}
+
+void AppDelegate::MainSettingsShowRemainingTimeEnabledAction() {
+    Changed.ChangeRemainingTimeSetting = true;
+    UpdateMainSettingsOKButton();
+}
+
+bool AppDelegate::ZeltoChangeSettings() {
+    if (Changed.ChangePassword && !changePasswords()) {
+        return false;
+    }
+    return sendPeriods();
+}
+
+bool AppDelegate::changePasswords() {
+    if (!Settings.PasswordSettingsParameters.Use1stAnd2ndPassword) {
+        return changeFirstPassword(AuthInfo::Change);
+    }
+    // The second one stays changed when the drive then refuses the first.
+    return changeSecondPassword() && changeFirstPassword(AuthInfo::ChangeBoth);
+}
+
+bool AppDelegate::changeSecondPassword() {
+    const auto& passwords = Settings.PasswordSettingsParameters;
+    AuthInfo info{.kind = AuthInfo::Change,
+                  .numberOfTrials = static_cast<std::uint8_t>(passwords.NumberOfTrials)};
+    SetPasswordData(passwords.strNew2ndPassword, info.slot1);
+    SetPasswordData(passwords.strCurrent2ndPassword, info.slot2);
+    const IOReturn result = sendAuthInfo(info, AuthInfoUse::Change);
+    if (result != kIOReturnSuccess) {
+        reportRefusedChange(result, "IDS_ERR_CURRENT_2ND_PASSWORD_INVALID");
+        return false;
+    }
+    return true;
+}
+
+bool AppDelegate::changeFirstPassword(AuthInfo::Kind kind) {
+    const auto& passwords = Settings.PasswordSettingsParameters;
+    AuthInfo info{.kind = kind};
+    SetPasswordData(passwords.strNew1stPassword, info.slot1);
+    SetPasswordData(passwords.strCurrent1stPassword, info.slot2);
+    if (kind == AuthInfo::ChangeBoth) {
+        SetPasswordData(passwords.strNew2ndPassword, info.slot3);
+    }
+    const IOReturn result = sendAuthInfo(info, AuthInfoUse::Change);
+    if (result != kIOReturnSuccess) {
+        reportRefusedChange(result, "IDS_ERR_CURRENT_1ST_PASSWORD_INVALID");
+        return false;
+    }
+    return true;
+}
+
+/// The pause paces repeated guesses of a current password.
+void AppDelegate::reportRefusedChange(IOReturn result, const char* wrongPasswordKey) {
+    constexpr Sense WrongPassword{.key = 5, .additionalCode = 0x74, .qualifier = 0x40};
+    Pause(1s);
+    const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
+    if (status.failed()) {
+        ErrorMessageBox(status.result);
+    } else if (status.record.sense == WrongPassword) {
+        ShowMessage(localized(wrongPasswordKey));
+    } else {
+        ErrorMessageBox(result);
+    }
+}
+
+} // namespace zelto

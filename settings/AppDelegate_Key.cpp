@@ -1,0 +1,140 @@
+#include "app/AppDelegate.h"
+#include "device/DeviceReads.h"
+#include "device/IORegistry.h"
+#include "device/ZELTOctrl.h"
+#include "settings/KeyDigits.h"
+#include "settings/SecretText.h"
+#include "ui/Strings.h"
+
+namespace zelto {
+namespace {
+
+/// A drive with a secure area is cleared unlocked, or when nothing is left in it to protect.
+bool mayBeCleared(SecurityState state) {
+    return state == SecurityState::StateNoPassword || state == SecurityState::StateUnlocking ||
+           state == SecurityState::StateFullLock;
+}
+
+bool hasKeyToClear(SecurityState state) {
+    return state == SecurityState::StateIdle || state == SecurityState::StateLocked ||
+           state == SecurityState::StatePasswordPending || state == SecurityState::StateFullLock;
+}
+
+} // namespace
+
+void AppDelegate::MainSettingsEncryptionKeyAction() {
+    auto& form = EncryptionKeyWindow;
+    TextInputMode = TextInputModes::EncryptionKey;
+    form.EncryptionKeyText->setText(unsharedCopy(Settings.StrEncryptionKey));
+    UpdateEncryptionKeyWindow();
+
+    if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
+        wipeText(Settings.StrEncryptionKey);
+        Settings.StrEncryptionKey = unsharedCopy(form.EncryptionKeyText->text());
+    }
+    TextInputMode = TextInputModes::MainSettings;
+    form.orderOut();
+    form.EncryptionKeyText->clear();
+}
+
+void AppDelegate::UpdateEncryptionKeyWindow() {
+    auto& form = EncryptionKeyWindow;
+    form.EncryptionKeyOKButton->setEnabled(isValidKeyText(form.EncryptionKeyText->text()));
+}
+
+void AppDelegate::EncryptionKeyOKAction() {
+    EncryptionKeyWindow.stopModal(Window::ModalOK);
+}
+
+void AppDelegate::EncryptionKeyCancelAction() {
+    EncryptionKeyWindow.stopModal(Window::ModalCancel);
+}
+
+void AppDelegate::MainSettingsAutoClearEraseAction() {
+    if (!Confirm("IDS_ERASE_ENCRYPTION_KEY_CONFIRM")) {
+        return;
+    }
+    const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
+    if (!Succeeded(status.result)) {
+        return;
+    }
+    if (status.record.state() != SecurityState::StateUnlocking) {
+        ShowMessage(localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
+        return;
+    }
+    // The drive erases its key by itself when the period has run out: now, as good as.
+    constexpr std::uint32_t OneSecond = 1;
+    if (!Succeeded(TKVR21_ZELTO_SetErasePeriod(Device(), OneSecond))) {
+        return;
+    }
+    Logout();
+    TerminateApplication();
+}
+
+void AppDelegate::MainSettingsClearAllAction() {
+    if (!Confirm("IDS_CLEAR_ALL_CONFIRM")) {
+        return;
+    }
+    constexpr std::uint8_t AllAreas = 0;
+    constexpr std::uint8_t KeepMedium = 0;
+    GetBsdNameList(AllAreas);
+    if (!UnmountVolume(g_BsdNameList, KeepMedium)) {
+        ReportUnmountFailure();
+        return;
+    }
+    if (!SpinUpDrive()) {
+        return;
+    }
+    const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
+    if (!Succeeded(status.result)) {
+        return;
+    }
+    const SecurityState state = status.record.state();
+    if (Settings.SecureAreaAlreadyExist && !mayBeCleared(state)) {
+        ShowMessage(localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
+        return;
+    }
+    if (clearPeriodsAndHint(state) && resetAreaInfos()) {
+        TerminateApplication();
+    }
+}
+
+bool AppDelegate::clearPeriodsAndHint(SecurityState state) {
+    // A fully locked drive takes no periods any more.
+    if (state != SecurityState::StateFullLock &&
+        !(Succeeded(TKVR21_ZELTO_SetErasePeriod(Device(), 0)) &&
+          Succeeded(TKVR21_ZELTO_SetIdleLockPeriod(Device(), 0)))) {
+        return false;
+    }
+    constexpr bool ShowRemainingTime = true;
+    return Succeeded(writeShowRemainingTime(Device(), ShowRemainingTime));
+}
+
+/// A drive that refuses only because of its security state forgets its key first.
+bool AppDelegate::resetAreaInfos() {
+    if (TKVR21_ResetAreaInfos(Device(), true, true) == kIOReturnSuccess) {
+        return true;
+    }
+    const auto refused = readDeviceStatus(Device(), StatusRequest::Plain);
+    if (!Succeeded(refused.result)) {
+        return false;
+    }
+    SecurityState state = refused.record.state();
+    if (!saysSecurityStateForbids(refused.record.sense) ||
+        state == SecurityState::StateNoPassword) {
+        ErrorMessageBox(kIOReturnSuccess);
+        return false;
+    }
+    if (state == SecurityState::StateUnlocking) {
+        if (!Succeeded(TKVR21_Logout(Device(), 0))) {
+            return false;
+        }
+        state = SecurityState::StateLocked;
+    }
+    if (hasKeyToClear(state) && !Succeeded(TKVR21_ClearEncryptionInfo(Device(), true, false))) {
+        return false;
+    }
+    return Succeeded(TKVR21_ResetAreaInfos(Device(), true, true));
+}
+
+} // namespace zelto
