@@ -1,0 +1,54 @@
+#include "settings/SecretText.h"
+
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+TEST(SecretText, aCopyIsNotSharedWithItsOriginal) {
+    const QString original = QStringLiteral("secret");
+    const QString copy = unsharedCopy(original);
+    EXPECT_EQ(copy, original);
+    EXPECT_NE(copy.constData(), original.constData());
+}
+
+TEST(SecretText, aCopyKeepsEveryCharacter) {
+    const QString withNul = QStringLiteral("a") + QChar(u'\0') + QStringLiteral("b");
+    EXPECT_EQ(unsharedCopy(withNul), withNul);
+    EXPECT_EQ(unsharedCopy(QString()), QString());
+}
+
+TEST(SecretText, wipingLeavesAnEmptyText) {
+    QString text = unsharedCopy(QStringLiteral("secret"));
+    wipeText(text);
+    EXPECT_TRUE(text.isEmpty());
+    wipeText(text);
+    EXPECT_TRUE(text.isEmpty());
+}
+
+TEST(SecretText, wipingOneTextLeavesItsCopyAlone) {
+    QString text = unsharedCopy(QStringLiteral("secret"));
+    const QString copy = unsharedCopy(text);
+    wipeText(text);
+    EXPECT_EQ(copy, QStringLiteral("secret"));
+}
+
+TEST(SecretText, wipingPasswordsEmptiesAllFourAndKeepsTheChoices) {
+    _tagPasswordSettingsParameters parameters{
+        .Use1stAnd2ndPassword = true,
+        .strCurrent1stPassword = unsharedCopy(QStringLiteral("1")),
+        .strCurrent2ndPassword = unsharedCopy(QStringLiteral("2")),
+        .strNew1stPassword = unsharedCopy(QStringLiteral("3")),
+        .strNew2ndPassword = unsharedCopy(QStringLiteral("4")),
+        .NumberOfTrials = 5};
+    wipePasswords(parameters);
+    EXPECT_TRUE(parameters.strCurrent1stPassword.isEmpty());
+    EXPECT_TRUE(parameters.strCurrent2ndPassword.isEmpty());
+    EXPECT_TRUE(parameters.strNew1stPassword.isEmpty());
+    EXPECT_TRUE(parameters.strNew2ndPassword.isEmpty());
+    EXPECT_TRUE(parameters.Use1stAnd2ndPassword);
+    EXPECT_EQ(parameters.NumberOfTrials, 5);
+}
+
+} // namespace
+} // namespace zelto
