@@ -1,0 +1,214 @@
+#include "simulator/OtherUsbDevices.h"
+#include "simulator/VirtualComputer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zelto {
+
+static bool operator==(const MountedFileSystem& left, const MountedFileSystem& right) {
+    return left.f_mntonname == right.f_mntonname && left.f_mntfromname == right.f_mntfromname;
+}
+
+namespace simulator {
+namespace {
+
+using std::chrono::seconds;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr std::uint64_t DriveSectors = 262144;
+
+class VirtualDisksTest : public testing::Test {
+protected:
+    int run(const std::vector<std::string>& arguments) {
+        return m_computer.diskTool.run(arguments);
+    }
+    int erase(const std::string& disk) {
+        return run({"eraseDisk", "MS-DOS", "ZELTO TOOL", "MBR", disk});
+    }
+    /// The names of all entries of the registry, depth first, as a walk sees them.
+    static void walk(const RegistryEntry& entry, std::vector<std::string>& names) {
+        names.push_back(entry.IORegistryEntryGetNameInPlane("IOService").value());
+        const auto children = entry.IORegistryEntryGetChildIterator("IOService");
+        while (const auto child = children->IOIteratorNext()) {
+            walk(*child, names);
+        }
+    }
+    std::vector<std::string> walk() {
+        std::vector<std::string> names;
+        walk(*m_computer.registry.IORegistryGetRootEntry(), names);
+        return names;
+    }
+
+    const MountedFileSystem ToolMounted{"/media/user/ZELTO TOOL", "/dev/disk2s1"};
+    VirtualComputer m_computer;
+    std::shared_ptr<DriveOnBus> m_drive = makeDrive("ZD0000000000A1", DriveSectors);
+};
+
+TEST_F(VirtualDisksTest, ShowANewDriveAsOneBlankDiskThatNothingMounts) {
+    m_computer.plug(m_drive);
+    ASSERT_EQ(m_computer.disks.all().size(), 1U);
+    EXPECT_EQ(m_computer.disks.all()[0]->bsdName, "disk2");
+    EXPECT_EQ(m_computer.disks.all()[0]->device->sectorCount(), DriveSectors);
+    EXPECT_EQ(m_computer.mounts.getmntinfo().size(), 1U);
+}
+
+TEST_F(VirtualDisksTest, AppearInTheRegistryBelowTheirDeviceAndAClosingEntryFollows) {
+    m_computer.plug(std::make_shared<UsbMouse>());
+    m_computer.plug(m_drive);
+    ASSERT_EQ(erase("disk2"), 0);
+    EXPECT_THAT(walk(),
+                ElementsAre("Root", "VirtualComputer", "EHC1", "Root Hub", "Mouse",
+                            "IOUSBInterface@0", "ZELTO DISK", "IOUSBInterface@0",
+                            "IOSCSILogicalUnitNub@0", "KESTRIN ZELTO DISK1 Media", "Untitled 1",
+                            "IOSCSILogicalUnitNub@1", "IOSCSILogicalUnitNub@2",
+                            "IOSCSILogicalUnitNub@3", "IOResources"));
+}
+
+TEST_F(VirtualDisksTest, CarryTheirIdentityOnTheDevicesOwnEntry) {
+    m_computer.plug(m_drive);
+    const auto root = m_computer.registry.tree();
+    const RegistryNode* const device = VirtualRegistry::findNode(*root, "ZELTO DISK");
+    ASSERT_NE(device, nullptr);
+    const auto has = [&](const std::string& key, const RegistryValue& value) {
+        return std::ranges::find(device->properties, std::pair(key, value)) !=
+               device->properties.end();
+    };
+    EXPECT_TRUE(has("idVendor", std::int64_t{0x07F7}));
+    EXPECT_TRUE(has("idProduct", std::int64_t{0x0135}));
+    EXPECT_TRUE(has("USB Serial Number", std::string("ZD0000000000A1")));
+}
+
+TEST_F(VirtualDisksTest, EraseDiskLeavesAMountedFatVolumeWithTheLabel) {
+    m_computer.plug(m_drive);
+    EXPECT_EQ(erase("disk2"), 0);
+    EXPECT_THAT(m_computer.mounts.getmntinfo(), Contains(ToolMounted));
+    EXPECT_EQ(m_computer.diskTool.partitionName("disk2", 1), "disk2s1");
+}
+
+TEST_F(VirtualDisksTest, EraseDiskRefusesWhatItDoesNotUnderstand) {
+    m_computer.plug(m_drive);
+    EXPECT_NE(erase("disk7"), 0);
+    EXPECT_NE(run({"eraseDisk", "EXT", "LABEL", "MBR", "disk2"}), 0);
+    EXPECT_NE(run({"eraseDisk"}), 0);
+    EXPECT_NE(run({"format", "disk2"}), 0);
+    EXPECT_NE(run({}), 0);
+}
+
+TEST_F(VirtualDisksTest, AreMountedByTheDesktopWhenTheDriveIsPluggedInAgain) {
+    m_computer.plug(m_drive);
+    ASSERT_EQ(erase("disk2"), 0);
+    m_computer.unplug(m_drive);
+    EXPECT_THAT(m_computer.mounts.getmntinfo(), Not(Contains(ToolMounted)));
+    m_computer.plug(m_drive);
+    EXPECT_THAT(m_computer.mounts.getmntinfo(), Contains(ToolMounted));
+}
+
+TEST_F(VirtualDisksTest, AreMountedLateByASlowDesktop) {
+    m_computer.plug(m_drive);
+    ASSERT_EQ(erase("disk2"), 0);
+    m_computer.mounts.setDesktopHabit(DesktopHabit::MountsLate);
+    m_computer.mounts.setDesktopDelay(seconds(4));
+    m_computer.replug(m_drive);
+    m_computer.advance(seconds(3));
+    EXPECT_FALSE(m_computer.mounts.isMounted("disk2s1"));
+    m_computer.advance(seconds(1));
+    EXPECT_TRUE(m_computer.mounts.isMounted("disk2s1"));
+}
+
+TEST_F(VirtualDisksTest, AreMountedAgainBehindTheProgramsBack) {
+    m_computer.plug(m_drive);
+    ASSERT_EQ(erase("disk2"), 0);
+    m_computer.mounts.setDesktopHabit(DesktopHabit::MountsAgain);
+    EXPECT_EQ(run({"umount", "disk2s1"}), 0);
+    EXPECT_FALSE(m_computer.mounts.isMounted("disk2s1"));
+    m_computer.advance(seconds(1));
+    EXPECT_TRUE(m_computer.mounts.isMounted("disk2s1"));
+}
+
+TEST_F(VirtualDisksTest, StayUnmountedWithADesktopThatNeverMounts) {
+    m_computer.plug(m_drive);
+    ASSERT_EQ(erase("disk2"), 0);
+    m_computer.mounts.setDesktopHabit(DesktopHabit::Never);
+    m_computer.replug(m_drive);
+    m_computer.advance(seconds(100));
+    EXPECT_FALSE(m_computer.mounts.isMounted("disk2s1"));
+}
+
+TEST_F(VirtualDisksTest, UmountEndsOneMountAndFailsWhenThereIsNone) {
+    m_computer.plug(m_drive);
+    ASSERT_EQ(erase("disk2"), 0);
+    EXPECT_EQ(run({"umount", "disk2s1"}), 0);
+    EXPECT_NE(run({"umount", "disk2s1"}), 0);
+    EXPECT_EQ(m_computer.disks.all().size(), 1U);
+}
+
+TEST_F(VirtualDisksTest, ABusyVolumeIsNeitherUnmountedNorEjectedNorErased) {
+    m_computer.plug(m_drive);
+    ASSERT_EQ(erase("disk2"), 0);
+    m_computer.mounts.setHolders("disk2s1", {"editor", "player"});
+    EXPECT_NE(run({"umount", "disk2s1"}), 0);
+    EXPECT_NE(run({"eject", "disk2"}), 0);
+    EXPECT_NE(erase("disk2"), 0);
+    EXPECT_THAT(m_computer.diskTool.holders({"disk2"}), ElementsAre("editor", "player"));
+    EXPECT_THAT(m_computer.diskTool.holders({"disk2", "disk2s1"}), ElementsAre("editor", "player"));
+    m_computer.mounts.setHolders("disk2s1", {});
+    EXPECT_EQ(run({"eject", "disk2s1"}), 0);
+}
+
+TEST_F(VirtualDisksTest, AnEjectedDiskLeavesTheSystemWhileTheDriveStays) {
+    m_computer.plug(m_drive);
+    ASSERT_EQ(erase("disk2"), 0);
+    EXPECT_EQ(run({"eject", "disk2s1"}), 0);
+    EXPECT_TRUE(m_computer.disks.all().empty());
+    m_computer.advance(seconds(5));
+    EXPECT_TRUE(m_computer.disks.all().empty());
+    EXPECT_TRUE(m_computer.usb.isPlugged(m_drive));
+    m_computer.replug(m_drive);
+    EXPECT_EQ(m_computer.disks.all().size(), 1U);
+}
+
+TEST_F(VirtualDisksTest, AVerbFailsWhenItIsToldTo) {
+    m_computer.plug(m_drive);
+    m_computer.diskTool.setFailure("eraseDisk", 1);
+    EXPECT_EQ(erase("disk2"), 1);
+    EXPECT_TRUE(m_computer.disks.all()[0]->partitions.empty());
+    m_computer.diskTool.setFailure("eraseDisk", std::nullopt);
+    EXPECT_EQ(erase("disk2"), 0);
+}
+
+TEST_F(VirtualDisksTest, GiveAFreedNameToTheNextDisk) {
+    m_computer.plug(m_drive);
+    m_computer.plug(std::make_shared<ForeignDisk>(DriveSectors));
+    EXPECT_EQ(m_computer.mounts.mountPoint("disk3"), "/media/user/HOLIDAYS");
+    m_computer.unplug(m_drive);
+    m_computer.plug(makeDrive("ZD0000000000B2", DriveSectors));
+    EXPECT_EQ(m_computer.disks.all().back()->bsdName, "disk2");
+}
+
+TEST_F(VirtualDisksTest, AMissingRegistryHasNoRoot) {
+    m_computer.registry.setMissing(true);
+    EXPECT_EQ(m_computer.registry.IORegistryGetRootEntry(), nullptr);
+}
+
+TEST_F(VirtualDisksTest, ARegistryCanBeBentToFailOrNeverToEnd) {
+    m_computer.registry.setEdit([](RegistryNode& root) {
+        root.nameFails = root.classFails = root.propertiesFail = true;
+        root.endless = RegistryNode::Endless::Children;
+    });
+    const auto root = m_computer.registry.IORegistryGetRootEntry();
+    EXPECT_FALSE(root->IORegistryEntryGetNameInPlane("IOService"));
+    EXPECT_FALSE(root->IOObjectGetClass());
+    EXPECT_FALSE(root->IORegistryEntryCreateCFProperties());
+    const auto children = root->IORegistryEntryGetChildIterator("IOService");
+    for (int i = 0; i < 1000; ++i) {
+        ASSERT_NE(children->IOIteratorNext(), nullptr);
+    }
+}
+
+} // namespace
+} // namespace simulator
+} // namespace zelto
