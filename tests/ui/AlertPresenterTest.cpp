@@ -1,0 +1,132 @@
+#include "ui/AlertPresenter.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace zelto {
+namespace {
+
+// Shows the panel and lets `user` act on it once it is up.
+AlertButton answer(const AlertPanel& panel, const std::function<void(QMessageBox&)>& user) {
+    QTimer::singleShot(0, [&user] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        user(*box);
+    });
+    AlertPresenter presenter;
+    return presenter.NSRunAlertPanel(panel);
+}
+
+AlertPanel confirmation() {
+    return {.title = QStringLiteral("Title"),
+            .message = QStringLiteral("Really?"),
+            .defaultButton = QStringLiteral("Cancel"),
+            .alternateButton = QStringLiteral("OK"),
+            .onEscape = AlertButton::Default};
+}
+
+void press(QMessageBox& box, const QString& label) {
+    for (QAbstractButton* button : box.buttons()) {
+        if (button->text() == label) {
+            button->click();
+        }
+    }
+}
+
+TEST(AlertPresenterTest, ShowsTheTextsAsTheyAre) {
+    const AlertPanel panel{.title = QStringLiteral("Title"),
+                           .message = QStringLiteral("<b>not bold</b>"),
+                           .detail = QStringLiteral("more"),
+                           .defaultButton = QStringLiteral("OK")};
+    const AlertButton button = answer(panel, [](QMessageBox& box) {
+        EXPECT_EQ(box.text(), QStringLiteral("<b>not bold</b>"));
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.informativeText(), QStringLiteral("more"));
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Title"));
+        EXPECT_EQ(box.buttons().size(), 1);
+        box.buttons().constFirst()->click();
+    });
+    EXPECT_EQ(button, AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, EachButtonAnswersForItself) {
+    EXPECT_EQ(
+        answer(confirmation(), [](QMessageBox& box) { press(box, QStringLiteral("Cancel")); }),
+        AlertButton::Default);
+    EXPECT_EQ(answer(confirmation(), [](QMessageBox& box) { press(box, QStringLiteral("OK")); }),
+              AlertButton::Alternate);
+}
+
+TEST(AlertPresenterTest, ReturnPressesTheDefaultButtonEvenFromTheOtherOne) {
+    const AlertButton button = answer(confirmation(), [](QMessageBox& box) {
+        for (QAbstractButton* each : box.buttons()) {
+            if (each->text() == QStringLiteral("OK")) {
+                each->setFocus();
+                QTest::keyClick(each, Qt::Key_Return);
+                return;
+            }
+        }
+    });
+    EXPECT_EQ(button, AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, EscapePressesWhatThePanelSays) {
+    const auto escape = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); };
+    AlertPanel panel = confirmation();
+    EXPECT_EQ(answer(panel, escape), AlertButton::Default);
+    panel.onEscape = AlertButton::Alternate;
+    EXPECT_EQ(answer(panel, escape), AlertButton::Alternate);
+}
+
+TEST(AlertPresenterTest, ClosingThePanelPressesWhatEscapeDoes) {
+    AlertPanel panel = confirmation();
+    panel.onEscape = AlertButton::Alternate;
+    EXPECT_EQ(answer(panel, [](QMessageBox& box) { box.close(); }), AlertButton::Alternate);
+}
+
+TEST(AlertPresenterTest, EscapeOfAPanelWithOneButtonPressesIt) {
+    const AlertPanel panel{.title = {},
+                           .message = QStringLiteral("Message"),
+                           .defaultButton = QStringLiteral("OK"),
+                           .onEscape = AlertButton::Alternate};
+    EXPECT_EQ(answer(panel, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
+              AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, StandsOverTheActiveWindow) {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    const AlertButton button = answer(confirmation(), [&window](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &window);
+        box.reject();
+    });
+    EXPECT_EQ(button, AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, AnAmpersandInALabelIsShown) {
+    AlertPanel panel = confirmation();
+    panel.defaultButton = QStringLiteral("Save & Quit");
+    const AlertButton button = answer(panel, [](QMessageBox& box) {
+        EXPECT_EQ(box.defaultButton()->text(), QStringLiteral("Save && Quit"));
+        box.defaultButton()->click();
+    });
+    EXPECT_EQ(button, AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, TakesAVeryLongMessage) {
+    AlertPanel panel = confirmation();
+    panel.message = QString(100'000, u'x');
+    EXPECT_EQ(answer(panel, [](QMessageBox& box) { box.close(); }), AlertButton::Default);
+}
+
+} // namespace
+} // namespace zelto

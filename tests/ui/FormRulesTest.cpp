@@ -1,0 +1,263 @@
+#include "tests/ui/AllForms.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+namespace zelto::test {
+namespace {
+
+QString nameHeard(QWidget& widget) {
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&widget);
+    return interface == nullptr ? QString() : interface->text(QAccessible::Name);
+}
+
+// What the form itself holds: not the parts that Qt's widgets are made of.
+std::vector<QWidget*> controlsOf(const Window& form) {
+    std::vector<QWidget*> controls;
+    for (QWidget* widget : form.findChildren<QWidget*>()) {
+        const QWidget* parent = widget->parentWidget();
+        const bool placed = parent->layout() != nullptr && parent->layout()->indexOf(widget) >= 0;
+        const bool nested = qobject_cast<const QGroupBox*>(parent) != nullptr || parent == &form ||
+                            qobject_cast<const RadioMatrix*>(parent) != nullptr;
+        if (nested && (placed || !widget->objectName().startsWith(QStringLiteral("qt_")))) {
+            controls.push_back(widget);
+        }
+    }
+    return controls;
+}
+
+std::vector<QWidget*> tabStopsOf(const Window& form) {
+    std::vector<QWidget*> stops;
+    for (QWidget* widget : controlsOf(form)) {
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
+            stops.push_back(widget);
+        }
+    }
+    return stops;
+}
+
+QString mnemonicTextOf(const QWidget& widget) {
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        return button->text();
+    }
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return label != nullptr && label->buddy() != nullptr ? label->text() : QString();
+}
+
+QPushButton* defaultButtonOf(const Window& form) {
+    for (QPushButton* button : form.findChildren<QPushButton*>()) {
+        if (button->isDefault()) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+void enableEverything(const Window& form) {
+    for (QWidget* widget : form.findChildren<QWidget*>()) {
+        widget->setEnabled(true);
+    }
+}
+
+void setFontScale(double scale) {
+    static const double normal = QApplication::font().pointSizeF();
+    QFont font = QApplication::font();
+    font.setPointSizeF(normal * scale);
+    QApplication::setFont(font);
+}
+
+class FormRules : public ::testing::TestWithParam<FormUnderTest> {
+protected:
+    void SetUp() override { form = GetParam().create(); }
+    void TearDown() override { setFontScale(1); }
+
+    void show() {
+        form->centreAndMakeKeyAndOrderFront();
+        QApplication::processEvents();
+    }
+
+    void expectEverythingFits() {
+        for (const QWidget* widget : controlsOf(*form)) {
+            if (!widget->isVisible()) {
+                continue;
+            }
+            const std::string name = widget->objectName().toStdString();
+            const QSize needed = widget->minimumSizeHint();
+            EXPECT_GE(widget->width(), needed.width()) << name;
+            EXPECT_GE(widget->height(), needed.height()) << name;
+            EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
+            if (widget->hasHeightForWidth()) {
+                EXPECT_GE(widget->height(), widget->heightForWidth(widget->width())) << name;
+            }
+        }
+    }
+
+    std::unique_ptr<Window> form;
+};
+
+TEST_P(FormRules, TheDesignerObjectIsNamedAfterTheWindow) {
+    EXPECT_EQ(form->objectName().toStdString(), GetParam().name);
+    EXPECT_FALSE(form->windowTitle().isEmpty());
+    EXPECT_FALSE(form->windowIcon().isNull());
+}
+
+TEST_P(FormRules, EveryControlHasANameForAssistiveTechnology) {
+    for (QWidget* stop : tabStopsOf(*form)) {
+        EXPECT_FALSE(nameHeard(*stop).isEmpty()) << stop->objectName().toStdString();
+    }
+}
+
+TEST_P(FormRules, EveryButtonHasAMnemonicAndNoneIsUsedTwice) {
+    std::map<QString, std::string> owners;
+    for (const QWidget* widget : controlsOf(*form)) {
+        const QString text = mnemonicTextOf(*widget);
+        const QString key = QKeySequence::mnemonic(text).toString();
+        const std::string name = widget->objectName().toStdString();
+        if (qobject_cast<const QAbstractButton*>(widget) != nullptr) {
+            EXPECT_FALSE(key.isEmpty()) << name << " has no mnemonic";
+        }
+        if (!key.isEmpty()) {
+            const auto [owner, isNew] = owners.emplace(key, name);
+            EXPECT_TRUE(isNew) << key.toStdString() << ": " << owner->second << ", " << name;
+        }
+    }
+}
+
+TEST_P(FormRules, EveryFieldIsReachedByAMnemonicOrStandsBesideACheckBox) {
+    for (QWidget* widget : controlsOf(*form)) {
+        if (qobject_cast<QLineEdit*>(widget) == nullptr) {
+            continue;
+        }
+        const auto labels = form->findChildren<QLabel*>();
+        const bool hasLabel = std::any_of(labels.begin(), labels.end(), [&](const QLabel* label) {
+            return label->buddy() == widget && !QKeySequence::mnemonic(label->text()).isEmpty();
+        });
+        EXPECT_TRUE(hasLabel || !widget->accessibleName().isEmpty())
+            << widget->objectName().toStdString();
+    }
+}
+
+TEST_P(FormRules, TabReachesEveryControlInReadingOrder) {
+    enableEverything(*form);
+    show();
+    std::vector<QWidget*> visited;
+    for (QWidget* widget = form->nextInFocusChain(); widget != form.get();
+         widget = widget->nextInFocusChain()) {
+        const auto stops = tabStopsOf(*form);
+        if (std::find(stops.begin(), stops.end(), widget) != stops.end()) {
+            visited.push_back(widget);
+        }
+    }
+    EXPECT_EQ(visited.size(), tabStopsOf(*form).size());
+    for (std::size_t index = 1; index < visited.size(); ++index) {
+        const QWidget* before = visited[index - 1];
+        const QWidget* after = visited[index];
+        if (before->parentWidget() != after->parentWidget()) {
+            continue;
+        }
+        const bool sameRow = after->geometry().top() <= before->geometry().center().y();
+        EXPECT_TRUE(sameRow ? after->x() > before->x() : after->y() > before->y())
+            << before->objectName().toStdString() << ", " << after->objectName().toStdString();
+    }
+}
+
+TEST_P(FormRules, OneButtonIsTheDefaultAndNoOtherBecomesItByFocus) {
+    int defaults = 0;
+    for (const QPushButton* button : form->findChildren<QPushButton*>()) {
+        defaults += button->isDefault() ? 1 : 0;
+        EXPECT_EQ(button->autoDefault(), button->isDefault()) << button->objectName().toStdString();
+    }
+    EXPECT_EQ(defaults, 1);
+}
+
+TEST_P(FormRules, ReturnPressesTheDefaultButtonWhereverTheFocusIs) {
+    enableEverything(*form);
+    show();
+    QPushButton* const button = defaultButtonOf(*form);
+    ASSERT_NE(button, nullptr);
+    for (QWidget* stop : tabStopsOf(*form)) {
+        const QSignalSpy pressed(button, &QPushButton::clicked);
+        stop->setFocus();
+        QTest::keyClick(stop, Qt::Key_Return);
+        EXPECT_EQ(pressed.count(), 1) << stop->objectName().toStdString();
+    }
+}
+
+TEST_P(FormRules, ReturnDoesNothingWhileTheDefaultButtonIsDisabled) {
+    enableEverything(*form);
+    show();
+    QPushButton* const button = defaultButtonOf(*form);
+    button->setEnabled(false);
+    for (QPushButton* other : form->findChildren<QPushButton*>()) {
+        const QSignalSpy pressed(other, &QPushButton::clicked);
+        QTest::keyClick(form.get(), Qt::Key_Return);
+        EXPECT_EQ(pressed.count(), 0) << other->objectName().toStdString();
+    }
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_P(FormRules, EscapeAsksToCloseAndLeavesTheWindowToTheController) {
+    enableEverything(*form);
+    show();
+    const QSignalSpy asked(form.get(), &Window::closeRequested);
+    QTest::keyClick(form.get(), Qt::Key_Escape);
+    EXPECT_EQ(asked.count(), 1);
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_P(FormRules, NothingHasAFixedSize) {
+    for (const QWidget* widget : controlsOf(*form)) {
+        const std::string name = widget->objectName().toStdString();
+        EXPECT_EQ(widget->minimumSize(), QSize(0, 0)) << name;
+        EXPECT_EQ(widget->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)) << name;
+    }
+    EXPECT_EQ(form->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+}
+
+TEST_P(FormRules, EverythingFitsFromNormalToDoubleFontSize) {
+    for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+        SCOPED_TRACE(scale);
+        setFontScale(scale);
+        form = GetParam().create();
+        show();
+        expectEverythingFits();
+    }
+}
+
+TEST_P(FormRules, EverythingStillFitsWhenTheFontGrowsWhileTheWindowIsOpen) {
+    show();
+    setFontScale(1.75);
+    QApplication::processEvents();
+    form->centreAndMakeKeyAndOrderFront();
+    QApplication::processEvents();
+    expectEverythingFits();
+}
+
+TEST_P(FormRules, TextsThatTheProgramFillsInAreShownAsPlainText) {
+    for (const QLabel* label : form->findChildren<QLabel*>()) {
+        if (label->text().isEmpty() && label->pixmap().isNull() &&
+            !label->objectName().startsWith(QStringLiteral("qt_"))) {
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryForm, FormRules, ::testing::ValuesIn(allForms()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+} // namespace
+} // namespace zelto::test

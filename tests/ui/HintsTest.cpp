@@ -1,0 +1,103 @@
+#include "ui/Forms.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+template <typename Hint>
+QString saidBy(const Window& form) {
+    return form.findChild<Hint*>()->text();
+}
+
+TEST(MatchHintTest, SaysNothingBeforeTheSecondEntry) {
+    Form<Ui::PasswordSettingsWindow> form;
+    form.centreAndMakeKeyAndOrderFront();
+    form.PS_1stPasswordText->setText(QStringLiteral("abc"));
+    EXPECT_TRUE(saidBy<MatchHint>(form).isEmpty());
+}
+
+TEST(MatchHintTest, TellsMatchingFromDifferingEntries) {
+    Form<Ui::PasswordSettingsWindow> form;
+    form.centreAndMakeKeyAndOrderFront();
+    form.PS_1stPasswordText->setText(QStringLiteral("abc"));
+    form.PS_Again1stPasswordText->setText(QStringLiteral("abd"));
+    const QString differs = saidBy<MatchHint>(form);
+    form.PS_Again1stPasswordText->setText(QStringLiteral("abc"));
+    const QString matches = saidBy<MatchHint>(form);
+    EXPECT_FALSE(differs.isEmpty());
+    EXPECT_FALSE(matches.isEmpty());
+    EXPECT_NE(differs, matches);
+    form.PS_Again1stPasswordText->clear();
+    EXPECT_TRUE(saidBy<MatchHint>(form).isEmpty());
+}
+
+TEST(MatchHintTest, KnowsEntriesThatWereFilledBeforeTheWindowOpened) {
+    Form<Ui::PasswordChangeWindow> form;
+    form.PC_New1stPasswordText->setText(QStringLiteral("abc"));
+    form.PC_AgainNew1stPasswordText->setText(QStringLiteral("abc"));
+    form.centreAndMakeKeyAndOrderFront();
+    EXPECT_FALSE(saidBy<MatchHint>(form).isEmpty());
+}
+
+TEST(MatchHintTest, NeverShowsAPassword) {
+    Form<Ui::PasswordSettingsWindow> form;
+    form.centreAndMakeKeyAndOrderFront();
+    form.PS_1stPasswordText->setText(QStringLiteral("S3cr3t"));
+    form.PS_Again1stPasswordText->setText(QStringLiteral("S3cr3t"));
+    EXPECT_FALSE(saidBy<MatchHint>(form).contains(QStringLiteral("S3cr3t")));
+}
+
+TEST(MatchHintTest, StaysSilentWithoutItsFields) {
+    MatchHint orphan;
+    orphan.show();
+    EXPECT_TRUE(orphan.text().isEmpty());
+}
+
+TEST(DigitCountHintTest, CountsAndTellsAHalfByte) {
+    Form<Ui::EncryptionKeyWindow> form;
+    form.centreAndMakeKeyAndOrderFront();
+    form.EncryptionKeyText->setText(QStringLiteral("0A1"));
+    const QString odd = saidBy<DigitCountHint>(form);
+    form.EncryptionKeyText->setText(QStringLiteral("0A1B"));
+    const QString even = saidBy<DigitCountHint>(form);
+    EXPECT_TRUE(odd.startsWith(QStringLiteral("3 ")));
+    EXPECT_TRUE(even.startsWith(QStringLiteral("4 ")));
+    EXPECT_LT(even.size(), odd.size());
+}
+
+TEST(DigitCountHintTest, StaysSilentWithoutItsField) {
+    DigitCountHint orphan;
+    orphan.show();
+    EXPECT_TRUE(orphan.text().isEmpty());
+}
+
+TEST(SteadyLabelTest, TheSetUpWindowDoesNotMoveWhileItsTextBlinks) {
+    Form<Ui::ZeltoSettingWindow> form;
+    form.ZeltoSettingText->setText(QStringLiteral("Setting up the drive."));
+    form.centreAndMakeKeyAndOrderFront();
+    QApplication::processEvents();
+    const QSize window = form.size();
+    const QRect steps = form.SetupStepsView->geometry();
+    const QRect label = form.ZeltoSettingText->geometry();
+    form.ZeltoSettingText->setText(QString());
+    QApplication::processEvents();
+    EXPECT_EQ(form.size(), window);
+    EXPECT_EQ(form.SetupStepsView->geometry(), steps);
+    EXPECT_EQ(form.ZeltoSettingText->geometry(), label);
+}
+
+TEST(NumberFieldTest, IsAsWideAsItsDigitsAndRefusesNothing) {
+    NumberField narrow;
+    NumberField wide;
+    narrow.setDigits(2);
+    wide.setDigits(10);
+    EXPECT_LT(narrow.sizeHint().width(), wide.sizeHint().width());
+    narrow.setText(QStringLiteral("not a number"));
+    EXPECT_EQ(narrow.text(), QStringLiteral("not a number"));
+}
+
+} // namespace
+} // namespace zelto

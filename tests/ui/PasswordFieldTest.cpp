@@ -1,0 +1,165 @@
+#include "ui/PasswordField.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+class PasswordFieldTest : public ::testing::Test {
+protected:
+    PasswordFieldTest() {
+        auto* column = new QVBoxLayout(&window);
+        column->addWidget(field);
+        column->addWidget(new QLineEdit(&window));
+        window.show();
+        window.activateWindow();
+        QApplication::processEvents();
+        field->setFocus();
+    }
+
+    [[nodiscard]] QToolButton* eye() const { return field->findChild<QToolButton*>(); }
+
+    QWidget window;
+    PasswordField* field = new PasswordField(&window);
+};
+
+TEST_F(PasswordFieldTest, TheTextIsShownOnlyWhileTheEyeIsHeld) {
+    field->setText(QStringLiteral("secret"));
+    QTest::mousePress(eye(), Qt::LeftButton);
+    EXPECT_EQ(field->displayText(), QStringLiteral("secret"));
+    QTest::mouseRelease(eye(), Qt::LeftButton);
+    EXPECT_NE(field->displayText(), QStringLiteral("secret"));
+}
+
+TEST_F(PasswordFieldTest, TheTextIsHiddenAgainWhenTheWindowIsLeft) {
+    field->setText(QStringLiteral("secret"));
+    QTest::mousePress(eye(), Qt::LeftButton);
+    window.hide();
+    EXPECT_EQ(field->echoMode(), QLineEdit::Password);
+}
+
+TEST_F(PasswordFieldTest, TheTextIsHiddenAgainWhenTheFieldIsDisabled) {
+    QTest::mousePress(eye(), Qt::LeftButton);
+    field->setEnabled(false);
+    EXPECT_EQ(field->echoMode(), QLineEdit::Password);
+}
+
+TEST_F(PasswordFieldTest, TheEyeIsNoTabStopAndKeepsTheFocusInTheField) {
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    EXPECT_TRUE(field->hasFocus());
+    EXPECT_EQ(eye()->focusPolicy(), Qt::NoFocus);
+    EXPECT_FALSE(eye()->accessibleName().isEmpty());
+}
+
+TEST_F(PasswordFieldTest, NothingReachesTheClipboardEvenWhileTheTextIsShown) {
+    QApplication::clipboard()->setText(QStringLiteral("before"));
+    field->setText(QStringLiteral("secret"));
+    QTest::mousePress(eye(), Qt::LeftButton);
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(field, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(field, Qt::Key_X, Qt::ControlModifier);
+    QTest::keyClick(field, Qt::Key_Insert, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("before"));
+    EXPECT_EQ(field->text(), QStringLiteral("secret"));
+}
+
+TEST_F(PasswordFieldTest, NothingTypedCanBeUndone) {
+    QTest::keyClicks(field, QStringLiteral("abc"));
+    EXPECT_EQ(field->text(), QStringLiteral("abc"));
+    EXPECT_FALSE(field->isUndoAvailable());
+}
+
+TEST_F(PasswordFieldTest, TypingInTheMiddleKeepsTheCursorWhereItIs) {
+    QTest::keyClicks(field, QStringLiteral("ad"));
+    QTest::keyClick(field, Qt::Key_Left);
+    QTest::keyClicks(field, QStringLiteral("bc"));
+    EXPECT_EQ(field->text(), QStringLiteral("abcd"));
+}
+
+TEST_F(PasswordFieldTest, EveryEditOfTheUserIsToldOnce) {
+    const QSignalSpy edited(field, &QLineEdit::textEdited);
+    QTest::keyClicks(field, QStringLiteral("abc"));
+    EXPECT_EQ(edited.count(), 3);
+    field->setText(QStringLiteral("set by the program"));
+    field->wipe();
+    EXPECT_EQ(edited.count(), 3);
+}
+
+TEST_F(PasswordFieldTest, WipingEmptiesTheField) {
+    QTest::keyClicks(field, QStringLiteral("abc"));
+    field->wipe();
+    EXPECT_TRUE(field->text().isEmpty());
+    field->wipe();
+    EXPECT_TRUE(field->text().isEmpty());
+}
+
+TEST_F(PasswordFieldTest, WipingLeavesATextThatSomebodyTookBeforeAsItIs) {
+    QTest::keyClicks(field, QStringLiteral("secret"));
+    const QString taken = field->text();
+    field->wipe();
+    EXPECT_EQ(taken, QStringLiteral("secret"));
+}
+
+TEST_F(PasswordFieldTest, WipingATextFromTheProgramsConstantsIsHarmless) {
+    const QString constant = QStringLiteral("constant");
+    field->setText(constant);
+    field->wipe();
+    EXPECT_EQ(constant, QStringLiteral("constant"));
+    EXPECT_TRUE(field->text().isEmpty());
+}
+
+TEST_F(PasswordFieldTest, ACapitalWithoutShiftWarnsOfCapsLock) {
+    EXPECT_FALSE(field->warnsOfCapsLock());
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_A, QStringLiteral("A"), Qt::NoModifier);
+    EXPECT_TRUE(field->warnsOfCapsLock());
+    EXPECT_FALSE(field->accessibleDescription().isEmpty());
+    EXPECT_TRUE(field->findChild<QLabel*>()->isVisible());
+}
+
+TEST_F(PasswordFieldTest, ASmallLetterWithShiftWarnsOfCapsLock) {
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_A, QStringLiteral("a"), Qt::ShiftModifier);
+    EXPECT_TRUE(field->warnsOfCapsLock());
+}
+
+TEST_F(PasswordFieldTest, TheWarningGoesWithTheNextOrdinaryLetter) {
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_A, QStringLiteral("A"), Qt::NoModifier);
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_B, QStringLiteral("B"), Qt::ShiftModifier);
+    EXPECT_FALSE(field->warnsOfCapsLock());
+    EXPECT_TRUE(field->accessibleDescription().isEmpty());
+}
+
+TEST_F(PasswordFieldTest, DigitsSignsAndLettersWithoutCaseSayNothingAboutCapsLock) {
+    for (const char16_t sign : {u'1', u'-', u'!', u'\u05D0', u'\u3042'}) {
+        QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(QChar(sign)),
+                            Qt::ShiftModifier);
+        EXPECT_FALSE(field->warnsOfCapsLock());
+    }
+}
+
+TEST_F(PasswordFieldTest, TheWarningGoesWhenTheFieldIsLeftOrCapsLockPressed) {
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_A, QStringLiteral("A"), Qt::NoModifier);
+    QTest::keyClick(field, Qt::Key_CapsLock);
+    EXPECT_FALSE(field->warnsOfCapsLock());
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_A, QStringLiteral("A"), Qt::NoModifier);
+    QTest::keyClick(field, Qt::Key_Tab);
+    EXPECT_FALSE(field->warnsOfCapsLock());
+}
+
+TEST_F(PasswordFieldTest, TextsOfAnyLengthAndScriptAreTaken) {
+    field->setText(QString(100'000, u'x'));
+    field->setText(QStringLiteral("\U0001F511\u05E9\u05DC\u05D5\u05DD"));
+    field->setText(QString(QChar(u'\0')));
+    field->wipe();
+    EXPECT_TRUE(field->text().isEmpty());
+}
+
+} // namespace
+} // namespace zelto

@@ -1,0 +1,149 @@
+#include "ui/Strings.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+namespace zelto {
+namespace {
+
+struct KeyRow {
+    const char* key;
+    /// How many placeholders its text has.
+    int arguments = 0;
+};
+
+// Everything that the program ever looks up.
+constexpr KeyRow Catalogue[] = {
+    {"OK"},
+    {"IDS_APP_TITLE"},
+    {"IDS_CANCEL_BUTTON"},
+    {"IDS_ERR_NOT_FOUND_ZELTO"},
+    {"IDS_ENTER_1ST_PASSWORD"},
+    {"IDS_ENTER_2ND_PASSWORD"},
+    {"IDS_FULLLOCK_TIME_STATUS_INVALID", 1},
+    {"IDS_SET_CURRENT_YIME"},
+    {"IDS_ERR_ZELTO_DRIVE_LOST"},
+    {"IDS_ERR_AUTHENTICATE_FAILED"},
+    {"IDS_ERR_UNMOUNT"},
+    {"IDS_COMMAND_FAIL_WITH_SENSE_INFO", 3},
+    {"IDS_COMMAND_FAIL"},
+    {"IDS_ERR_TIME_STATUS_INVALID"},
+    {"IDS_EXPIRED"},
+    {"IDS_DAYS"},
+    {"IDS_HOURS"},
+    {"IDS_MIN"},
+    {"IDS_TIME_SYNC_COMPLETE"},
+    {"IDS_NOW_SETTING"},
+    {"IDS_SETTING_COMPLETE"},
+    {"IDS_ERR_FORMAT"},
+    {"IDS_ERR_FILE_COPY", 2},
+    {"IDS_ERR_SPINUP"},
+    {"IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP"},
+    {"IDS_ERR_CURRENT_1ST_PASSWORD_INVALID"},
+    {"IDS_ERR_CURRENT_2ND_PASSWORD_INVALID"},
+    {"IDS_ERR_ZELTO_NOT_UNLOCKING"},
+    {"IDS_CLEAR_ALL_CONFIRM"},
+    {"IDS_ERASE_ENCRYPTION_KEY_CONFIRM"},
+    {"IDS_TOTAL_CAPACITY", 1},
+    {"IDS_FREE_CAPACITY", 1},
+    {"IDS_CAPACITY_OVER"},
+    {"IDS_NORMAL_AREA"},
+    {"IDS_SECURE_AREA"},
+    {"IDS_FREE_AREA"},
+    {"IDS_ALL_SECTORS"},
+    {"IDS_HINT_RULE_MISSING"},
+    {"IDS_HINT_OTHER_SESSION"},
+    {"IDS_HINT_BUSY_PROGRAMS", 1},
+};
+
+class StringsTest : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(installStrings()); }
+};
+
+TEST_F(StringsTest, EveryKeyOfTheCatalogueHasAText) {
+    for (const KeyRow& row : Catalogue) {
+        const QString text = localized(row.key);
+        EXPECT_FALSE(text.isEmpty()) << row.key;
+        if (qstrcmp(row.key, "OK") != 0) {
+            EXPECT_NE(text, QString::fromLatin1(row.key)) << row.key;
+        }
+    }
+}
+
+TEST_F(StringsTest, EveryTextHasThePlaceholdersItsKeyPromises) {
+    for (const KeyRow& row : Catalogue) {
+        const QString text = localized(row.key);
+        for (int number = 1; number <= 9; ++number) {
+            const bool holds = text.contains(QStringLiteral("%%1").arg(number));
+            EXPECT_EQ(holds, number <= row.arguments) << row.key << " %" << number;
+        }
+    }
+}
+
+TEST_F(StringsTest, TheTextsFileHoldsNoOtherKeys) {
+    QFile file(QStringLiteral(ZELTO_TEXTS));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QSet<QString> known;
+    for (const KeyRow& row : Catalogue) {
+        known.insert(QString::fromLatin1(row.key));
+    }
+    const QRegularExpression idOfMessage(QStringLiteral("<message id=\"([^\"]*)\">"));
+    const QString texts = QString::fromUtf8(file.readAll());
+    int messages = 0;
+    for (auto match = idOfMessage.globalMatch(texts); match.hasNext(); ++messages) {
+        const QString key = match.next().captured(1);
+        EXPECT_TRUE(known.contains(key)) << key.toStdString();
+    }
+    EXPECT_EQ(messages, known.size());
+}
+
+TEST_F(StringsTest, AMissingKeyShowsItself) {
+    EXPECT_EQ(localized("IDS_NO_SUCH_KEY"), QStringLiteral("IDS_NO_SUCH_KEY"));
+}
+
+TEST_F(StringsTest, OkIsAKeyLikeAnyOther) {
+    EXPECT_EQ(localized("OK"), QStringLiteral("OK"));
+}
+
+TEST_F(StringsTest, InstallingTwiceIsHarmless) {
+    EXPECT_TRUE(installStrings());
+    EXPECT_EQ(localized("IDS_APP_TITLE"), QStringLiteral("ZELTO DISK"));
+}
+
+TEST_F(StringsTest, SenseBytesAreFilledInInTheirOrder) {
+    const QString text = localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 5, 36, 0);
+    EXPECT_TRUE(text.contains(QStringLiteral("5")) && text.contains(QStringLiteral("36")));
+    EXPECT_LT(text.indexOf(QStringLiteral(" 5,")), text.indexOf(QStringLiteral(" 36,")));
+    EXPECT_FALSE(text.contains(u'%'));
+}
+
+TEST_F(StringsTest, APathThatLooksLikeAPlaceholderIsNotFilled) {
+    const QString text =
+        localized("IDS_ERR_FILE_COPY", QStringLiteral("/a/%2/%1"), QStringLiteral("/b"));
+    EXPECT_TRUE(text.contains(QStringLiteral("/a/%2/%1")));
+    EXPECT_TRUE(text.contains(QStringLiteral("/b")));
+}
+
+TEST(FilledTest, ReplacesEachPlaceholderOnce) {
+    EXPECT_EQ(filled(QStringLiteral("%2-%1-%2"), {QStringLiteral("%2"), QStringLiteral("b")}),
+              QStringLiteral("b-%2-b"));
+}
+
+TEST(FilledTest, LeavesWhatIsNoPlaceholder) {
+    EXPECT_EQ(filled(QStringLiteral("100% of %1, %9, %0, %"), {QStringLiteral("x")}),
+              QStringLiteral("100% of x, %9, %0, %"));
+    EXPECT_EQ(filled(QString(), {QStringLiteral("x")}), QString());
+    EXPECT_EQ(filled(QStringLiteral("%1"), {}), QStringLiteral("%1"));
+}
+
+TEST_F(StringsTest, NumbersOfEveryWidthAreFilledIn) {
+    EXPECT_TRUE(localized("IDS_TOTAL_CAPACITY", 18446744073709551615ULL)
+                    .contains(QStringLiteral("18446744073709551615")));
+}
+
+} // namespace
+} // namespace zelto
