@@ -1,0 +1,408 @@
+#include "tests/controller/SettingsBench.h"
+
+#include "digest/SHA256.h"
+
+namespace zelto {
+namespace {
+
+using namespace std::chrono_literals;
+using test::SettingsBench;
+using test::Wishes;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+using Commands = std::vector<std::string>;
+
+PasswordDigest digestOf(const std::string& password) {
+    PasswordDigest digest{};
+    SHA256 sha;
+    sha.Init();
+    sha.Input(reinterpret_cast<const std::uint8_t*>(password.data()),
+              static_cast<std::uint32_t>(password.size()));
+    sha.Get(digest.data());
+    return digest;
+}
+
+std::vector<std::uint8_t> part(const simulator::LogLine& line, std::size_t from, std::size_t size) {
+    if (line.data.size() < from + size) {
+        return {};
+    }
+    const auto start = line.data.begin() + static_cast<std::ptrdiff_t>(from);
+    return {start, start + static_cast<std::ptrdiff_t>(size)};
+}
+
+class FirstTimeSetup : public SettingsBench {};
+
+TEST_F(FirstTimeSetup, anUnpartitionedDriveOpensTheSettingsWithEverySecurityControlOff) {
+    begin(2000000);
+    auto& main = app->MainSettingsWindow;
+    EXPECT_TRUE(main.isVisible());
+    EXPECT_TRUE(app->Settings.InitialSetting);
+    EXPECT_EQ(app->Settings.TotalSectorCount, 1959040u);
+    EXPECT_EQ(main.TotalCapacityText->text(), localized("IDS_TOTAL_CAPACITY", 956));
+    EXPECT_EQ(app->Settings.AreaSettingsDiskCapacity[0], 956u);
+    EXPECT_TRUE(main.AreaSettingsButton->isEnabled());
+    const std::vector<QWidget*> securityControls{main.PasswordSettingsButton,
+                                                 main.EncryptionKeyAutoManualSelectRadioButton,
+                                                 main.EncryptionKeyButton,
+                                                 main.EraseEncryptionKeyButton,
+                                                 main.AutoClearEnabledCheckBox,
+                                                 main.AutoClearDaysOrMinutesRadioButton,
+                                                 main.AutoClearText,
+                                                 main.AutoLogOffEnabledCheckBox,
+                                                 main.AutoLogOffText,
+                                                 main.ShowRemainingTimeCheckBox,
+                                                 main.ZeltoDriveComboBox};
+    for (const QWidget* control : securityControls) {
+        EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
+    }
+    EXPECT_FALSE(okIsEnabled());
+}
+
+TEST_F(FirstTimeSetup, twoNormalAreasAreSentWithTheToolAreaAndNoSecrets) {
+    begin();
+    layOut({.mebibytes = {"60", "0", "20"}, .secureDisk = 0});
+    ASSERT_TRUE(okIsEnabled());
+    computer.log.clear();
+    commit();
+    EXPECT_EQ(commands(),
+              (Commands{"GetDeviceStatus", "SetAreaInfos", "ZELTO_SetErasePeriod",
+                        "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData", "Reconnect"}));
+    const auto& areas = latest("SetAreaInfos");
+    EXPECT_EQ(areas.data.size(), 60u);
+    EXPECT_EQ(areas.setup.wValue, 0);
+    // 60 MiB from sector 0, 20 MiB from 122880, the tool area from 163840.
+    EXPECT_THAT(part(areas, 20, 20), ElementsAre(0x00, 0x41, 0, 0, 0, 0, 0, 0, 0, 0x01, 0xE0, 0, 0,
+                                                 0, 0, 0, 0, 0x00, 0xA0, 0x00));
+    EXPECT_THAT(part(areas, 40, 20), ElementsAre(0x00, 0x41, 0, 0, 0, 0, 0, 0, 0, 0x02, 0x80, 0, 0,
+                                                 0, 0, 0, 0, 0x00, 0xA0, 0x00));
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
+TEST_F(FirstTimeSetup, aSecureAreaIsSentWithKeyPasswordAndPeriodsInThisOrder) {
+    begin();
+    fill({.autoClearDays = "2", .autoLogOffMinutes = "30"});
+    ASSERT_TRUE(okIsEnabled());
+    computer.log.clear();
+    commit();
+    EXPECT_EQ(commands(),
+              (Commands{"GetDeviceStatus", "SetAreaInfos", "SetEncryptionInfo", "SetAuthInfo",
+                        "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData",
+                        "Reconnect"}));
+    const auto& key = latest("SetEncryptionInfo");
+    EXPECT_THAT(part(key, 0, 8), ElementsAre('T', 'K', 'E', 'R', 0x03, 0x80, 0, 0));
+    EXPECT_THAT(part(key, 8, 64), testing::Each(0));
+    EXPECT_EQ(key.setup.wValue, 2);
+    const auto& password = latest("SetAuthInfo");
+    EXPECT_THAT(part(password, 0, 8), ElementsAre(0x02, 0, 1, 0, 0, 0, 0, 0));
+    EXPECT_THAT(part(password, 8, 32), ElementsAreArray(digestOf("first")));
+    EXPECT_THAT(part(password, 40, 32), testing::Each(0));
+    EXPECT_EQ(password.setup.wValue, 2);
+    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 172800 & 0xFFFF);
+    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wIndex, 172800 >> 16);
+    EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 1800);
+    EXPECT_EQ(latest("Reconnect").setup.wValue, 1);
+    EXPECT_EQ(latest("Reconnect").setup.wIndex, 1);
+}
+
+TEST_F(FirstTimeSetup, twoPasswordsGoInTwoRecords) {
+    begin();
+    fill({.twoPasswords = true, .trials = "7"});
+    commit();
+    const auto records = all("SetAuthInfo");
+    ASSERT_EQ(records.size(), 2u);
+    EXPECT_THAT(part(records[0], 0, 8), ElementsAre(0x02, 0, 1, 0, 7, 0, 0, 0));
+    EXPECT_THAT(part(records[0], 8, 32), ElementsAreArray(digestOf("second")));
+    EXPECT_THAT(part(records[1], 0, 8), ElementsAre(0x0B, 0, 1, 0, 0, 0, 0, 0));
+    EXPECT_THAT(part(records[1], 8, 32), ElementsAreArray(digestOf("first")));
+    EXPECT_THAT(part(records[1], 40, 32), ElementsAreArray(digestOf("second")));
+    EXPECT_EQ(records[1].data.size(), 72u);
+}
+
+TEST_F(FirstTimeSetup, aKeyEnteredByHandIsSentAsTyped) {
+    begin();
+    fill({.key = QStringLiteral("0A1b")});
+    commit();
+    const auto& key = latest("SetEncryptionInfo");
+    EXPECT_THAT(part(key, 4, 6), ElementsAre(0x03, 0x00, 0, 0, 0x0A, 0x1B));
+    EXPECT_THAT(part(key, 10, 62), testing::Each(0));
+}
+
+TEST_F(FirstTimeSetup, autoClearInMinutesIsSentInSeconds) {
+    begin();
+    fill({});
+    auto& main = app->MainSettingsWindow;
+    click(main.AutoClearEnabledCheckBox);
+    click(main.AutoClearMinutesCell);
+    type(main.AutoClearText, "30");
+    commit();
+    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 1800);
+}
+
+TEST_F(FirstTimeSetup, showsItsProgressWhileTheDriveIsAway) {
+    begin();
+    fill({});
+    computer.usb.setReconnectDelay(5s);
+    commit();
+    EXPECT_FALSE(app->MainSettingsWindow.isVisible());
+    EXPECT_TRUE(app->ZeltoSettingWindow.isVisible());
+    EXPECT_FALSE(app->ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_EQ(app->ZeltoSettingWindow.ZeltoSettingText->text(), localized("IDS_NOW_SETTING"));
+    EXPECT_EQ(app->Setup.InitialSettingState, 1);
+    EXPECT_EQ(app->Setup.WaitCount, 60);
+    EXPECT_EQ(app->Setup.ReservedAreaDiskNumber, 2);
+}
+
+TEST_F(FirstTimeSetup, forgetsPasswordsAndKeyOnceTheyAreSent) {
+    begin();
+    fill({.twoPasswords = true, .key = QStringLiteral("0A1B")});
+    commit();
+    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
+    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.strNew2ndPassword.isEmpty());
+    EXPECT_TRUE(app->Settings.StrEncryptionKey.isEmpty());
+    EXPECT_TRUE(app->PasswordSettingsWindow.PS_1stPasswordText->text().isEmpty());
+    EXPECT_TRUE(app->EncryptionKeyWindow.EncryptionKeyText->text().isEmpty());
+}
+
+TEST_F(FirstTimeSetup, endsWithTheProgramOnTheToolArea) {
+    begin();
+    fill({});
+    commit();
+    computer.advance(10s);
+    EXPECT_EQ(app->Setup.InitialSettingState, 4);
+    EXPECT_EQ(app->ZeltoSettingWindow.ZeltoSettingText->text(), localized("IDS_SETTING_COMPLETE"));
+    EXPECT_TRUE(app->ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_EQ(computer.diskTool.holders({}).size(), 0u);
+    const std::filesystem::path copy = "/media/user/ZELTO TOOL/ZeltoAppMac.app";
+    EXPECT_TRUE(computer.files.fileExistsAtPath(copy));
+    EXPECT_TRUE(computer.files.areEqual(computer.files.bundlePath(), copy));
+    EXPECT_EQ(driveState(), SecurityState::StateLocked);
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
+TEST_F(FirstTimeSetup, refusesToQuitUntilItHasEnded) {
+    begin();
+    fill({});
+    computer.usb.setReconnectDelay(std::nullopt);
+    commit();
+    for (const auto state :
+         {SetupProgress::WaitingForReconnect, SetupProgress::WaitingForToolVolume,
+          SetupProgress::FormatAndCopyDue}) {
+        app->Setup.InitialSettingState = state;
+        EXPECT_EQ(app->applicationShouldTerminate(), AppDelegate::TerminateReply::TerminateCancel);
+        app->ZeltoSettingWindow.reject();
+        EXPECT_FALSE(computer.application.isStopped());
+    }
+}
+
+TEST_F(FirstTimeSetup, givesUpWhenTheDriveIsNotBackIn60Ticks) {
+    begin();
+    fill({});
+    computer.usb.setReconnectDelay(std::nullopt);
+    commit();
+    computer.advance(59s);
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_EQ(app->Setup.InitialSettingState, 1);
+    computer.advance(1s);
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
+    EXPECT_EQ(app->Setup.InitialSettingState, 4);
+    EXPECT_TRUE(computer.application.isStopped());
+}
+
+TEST_F(FirstTimeSetup, reportsAFormatThatFails) {
+    begin();
+    fill({});
+    commit();
+    computer.diskTool.setFailure("eraseDisk", 1);
+    computer.advance(20s);
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
+    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_FALSE(app->ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+}
+
+TEST_F(FirstTimeSetup, reportsACopyThatFails) {
+    begin();
+    fill({});
+    commit();
+    computer.files.setCopyFails(true);
+    computer.advance(20s);
+    EXPECT_THAT(messages(),
+                ElementsAre(localized("IDS_ERR_FILE_COPY",
+                                      QString::fromStdString(computer.files.bundlePath().string()),
+                                      QStringLiteral("/media/user/ZELTO TOOL/ZeltoAppMac.app"))));
+    EXPECT_TRUE(computer.application.isStopped());
+}
+
+TEST_F(FirstTimeSetup, endsWithoutAWordWhenTheFormattedVolumeIsNotMounted) {
+    begin();
+    fill({});
+    commit();
+    computer.diskTool.setEraseMounts(false);
+    computer.mounts.setDesktopHabit(simulator::DesktopHabit::Never);
+    computer.advance(20s);
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_TRUE(computer.application.isStopped());
+}
+
+TEST_F(FirstTimeSetup, aManualKeyThatWasNotEnteredIsAskedForBeforeAnythingIsSent) {
+    begin();
+    fill({});
+    click(app->MainSettingsWindow.EncryptionKeyManualCell);
+    computer.log.clear();
+    commit();
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP")));
+    EXPECT_THAT(commands(), IsEmpty());
+    EXPECT_TRUE(okIsEnabled());
+    EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+}
+
+TEST_F(FirstTimeSetup, aDriveThatDoesNotSpinUpEndsTheProgram) {
+    begin();
+    layOut({.secureDisk = 0});
+    drive->drive().setNotReadyReads(10);
+    computer.log.clear();
+    commit();
+    EXPECT_EQ(computer.log.count("TKVR21_GetDeviceStatus"), 10u);
+    EXPECT_EQ(computer.log.count("sleep 1"), 9u);
+    EXPECT_EQ(computer.log.count("TKVR21_SetAreaInfos"), 0u);
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_SPINUP")));
+    EXPECT_TRUE(computer.application.isStopped());
+}
+
+TEST_F(FirstTimeSetup, aRetryAppendsAnotherToolArea) {
+    begin();
+    layOut({.secureDisk = 0});
+    failCommand("ZELTO_SetErasePeriod", {});
+    commit();
+    EXPECT_EQ(messages().size(), 1u);
+    EXPECT_TRUE(okIsEnabled());
+    EXPECT_EQ(latest("SetAreaInfos").data.size(), 40u);
+    EXPECT_EQ(app->Settings.AreaInfosViewData.areaCount, 1);
+
+    plan->clear();
+    commit();
+    EXPECT_EQ(latest("SetAreaInfos").data.size(), 60u);
+    EXPECT_EQ(app->Setup.ReservedAreaDiskNumber, 3);
+}
+
+TEST_F(FirstTimeSetup, afterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom) {
+    begin();
+    layOut({.secureDisk = 0});
+    failCommand("SetAreaInfos", {.kind = simulator::Fault::Kind::FailsAfter});
+    for (int retry = 0; retry < 11; ++retry) {
+        commit();
+    }
+    EXPECT_EQ(latest("SetAreaInfos").data.size(), 240u);
+    computer.log.clear();
+    alerts.clear();
+    commit();
+    EXPECT_EQ(computer.log.count("TKVR21_SetAreaInfos"), 0u);
+    EXPECT_EQ(messages().size(), 1u);
+    EXPECT_TRUE(okIsEnabled());
+
+    plan->clear();
+    layOut({.secureDisk = 0});
+    commit();
+    EXPECT_EQ(latest("SetAreaInfos").data.size(), 40u);
+    EXPECT_EQ(app->Setup.InitialSettingState, 1);
+}
+
+TEST_F(FirstTimeSetup, aBusyVolumeStopsItBeforeAnythingIsSent) {
+    begin();
+    setUpAndStartAgain({.secureDisk = 0});
+    // As a new drive again, with the volumes of the old layout still mounted.
+    app->Settings.InitialSetting = true;
+    app->Changed.AreaSettingsPerformed = true;
+    app->UpdateMainSettingsOKButton();
+    computer.diskTool.setFailure("umount", 1);
+    computer.log.clear();
+    commit();
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_UNMOUNT")));
+    EXPECT_THAT(commands(), IsEmpty());
+    EXPECT_TRUE(okIsEnabled());
+}
+
+struct StoryCase {
+    const char* name;
+    Wishes wishes;
+    std::uint64_t sectors = 262144;
+};
+
+class SetupStory : public SettingsBench, public testing::WithParamInterface<StoryCase> {};
+
+TEST_P(SetupStory, setsUpLogsInClearsAndSetsUpAnew) {
+    const Wishes& wishes = GetParam().wishes;
+    const auto other = simulator::makeDrive("ZD0000000002", 262144);
+    begin(GetParam().sectors);
+    const auto untouched = other->drive().model().remembered();
+    ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
+    if (wishes.secureDisk != 0) {
+        EXPECT_EQ(driveState(), SecurityState::StateLocked);
+        logIn(wishes.firstPassword);
+        if (wishes.twoPasswords) {
+            EXPECT_EQ(driveState(), SecurityState::StatePasswordPending);
+            logIn(wishes.secondPassword);
+        }
+        EXPECT_EQ(driveState(), SecurityState::StateUnlocking);
+        openSettingsOfUnlockedDrive();
+    }
+    alerts.answer(AlertButton::Alternate);
+    click(app->MainSettingsWindow.MainSettingsClearAllButton);
+    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_EQ(messages().size(), 1u);
+    computer.replug(drive);
+    startAgain();
+    EXPECT_TRUE(app->Settings.InitialSetting);
+    ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
+    EXPECT_TRUE(other->drive().model().remembered() == untouched);
+}
+
+const QString OneByte = QStringLiteral("7F");
+const QString SixtyThreeBytes = QString(126, u'a');
+const QString SixtyFourBytes = QString(128, u'F');
+
+INSTANTIATE_TEST_SUITE_P(
+    FirstTimeSetup, SetupStory,
+    testing::Values(StoryCase{"noSecureArea", {.mebibytes = {"50", "40", "18"}, .secureDisk = 0}},
+                    StoryCase{"onePassword", {}}, StoryCase{"twoPasswords", {.twoPasswords = true}},
+                    StoryCase{"secureThirdDisk", {.mebibytes = {"10", "0", "50"}, .secureDisk = 3}},
+                    StoryCase{"keyOfOneByte", {.key = OneByte}},
+                    StoryCase{"keyOf63Bytes", {.key = SixtyThreeBytes}},
+                    StoryCase{"keyOf64Bytes", {.twoPasswords = true, .key = SixtyFourBytes}},
+                    StoryCase{"largestArea", {.mebibytes = {"108", "0", "0"}}},
+                    StoryCase{"smallestAreas", {.mebibytes = {"1", "1", "1"}, .secureDisk = 2}},
+                    StoryCase{"driveOf64Megabytes", {.mebibytes = {"44", "0", "0"}}, 131072},
+                    StoryCase{"driveOf2Terabytes",
+                              {.mebibytes = {"2097132", "0", "0"}},
+                              std::uint64_t{1} << 32}),
+    [](const auto& story) { return std::string(story.param.name); });
+
+class TwoDrives : public SettingsBench {};
+
+TEST_F(TwoDrives, theOtherDriveIsNeverTouched) {
+    const auto other = simulator::makeDrive("ZD0000000002", DriveSectors);
+    drive = simulator::makeDrive("ZD0000000001", DriveSectors);
+    computer.plug(other);
+    computer.plug(drive);
+    startProgram();
+    const auto before = other->drive().model().remembered();
+    app->SelectZeltoWindow.SelectZeltoComboBox->setCurrentIndex(1);
+    click(app->SelectZeltoWindow.SelectZeltoOK);
+    fill({});
+    commit();
+    computer.advance(15s);
+    EXPECT_EQ(app->Setup.InitialSettingState, 4);
+    EXPECT_THAT(messages(), IsEmpty());
+    for (const auto& line : computer.log.lines()) {
+        if (line.kind == simulator::LogLine::Kind::Command) {
+            EXPECT_EQ(line.serial, "ZD0000000001") << line.text;
+        }
+    }
+    auto after = other->drive().model().remembered();
+    after.latest = before.latest;
+    EXPECT_TRUE(after == before);
+}
+
+} // namespace
+} // namespace zelto
