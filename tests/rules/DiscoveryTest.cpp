@@ -64,7 +64,8 @@ protected:
     ScriptedUsb usb;
     AttachedDrives drives;
     std::vector<UsbEvent> delivered;
-    DiscoveryContext context{usb, drives, [this](UsbEvent event, std::function<void()> handler) {
+    DiscoveryContext context{usb, drives,
+                             [this](UsbEvent event, const std::function<void()>& handler) {
                                  delivered.push_back(event);
                                  handler();
                              }};
