@@ -1,0 +1,58 @@
+#pragma once
+
+#include "simulator/usb/VendorControl.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace zelto::simulator {
+
+/// How a vendor request goes wrong on purpose.
+enum class ControlFault : std::uint8_t {
+    /// Stalled; the drive never saw it.
+    Refused,
+    /// Stalled, but the drive obeyed: the answer was lost.
+    AnswerLost,
+    /// No answer until the host gives up; the drive never saw it.
+    Silent,
+    /// The same, but the drive obeyed.
+    SilentAfterwards,
+    /// Obeyed, and half of the answer.
+    Short,
+    /// The drive leaves the bus before it sees the request.
+    Vanished,
+    /// It obeys and leaves the bus before it answers.
+    VanishedAfterwards,
+};
+
+/// The words for them: "stall", "lost", "silent", "silent-after", "short", "vanish",
+/// "vanish-after".
+[[nodiscard]] std::optional<ControlFault> controlFaultNamed(std::string_view name);
+
+/// Stands before the firmware and makes one coming vendor request fail.
+class ControlFaults final : public VendorControl {
+public:
+    explicit ControlFaults(VendorControl& firmware) : m_firmware(firmware) {}
+
+    /// The `count`-th vendor request from now on (1: the next one) fails. One fault at a time: this
+    /// replaces one that is still to come. 0 takes it back.
+    void failRequest(std::uint32_t count, ControlFault fault);
+    /// True once after the drive vanished.
+    [[nodiscard]] bool takeVanished();
+
+    [[nodiscard]] std::optional<ControlReply> request(const SetupPacket& setup,
+                                                      std::span<const std::uint8_t> sent) override;
+
+private:
+    [[nodiscard]] std::optional<ControlReply> fail(const SetupPacket& setup,
+                                                   std::span<const std::uint8_t> sent);
+
+    VendorControl& m_firmware;
+    std::uint32_t m_countdown = 0;
+    ControlFault m_fault = ControlFault::Refused;
+    bool m_hasVanished = false;
+};
+
+} // namespace zelto::simulator

@@ -1,0 +1,88 @@
+#include "simulator/usbip/EventLoop.h"
+
+#include <algorithm>
+#include <array>
+#include <sys/epoll.h>
+#include <utility>
+
+namespace zelto::simulator {
+
+namespace {
+
+epoll_event eventFor(int descriptor, EventLoop::Interest interest) {
+    epoll_event event{};
+    event.data.fd = descriptor;
+    if (interest != EventLoop::Interest::Write) {
+        event.events |= EPOLLIN;
+    }
+    if (interest != EventLoop::Interest::Read) {
+        event.events |= EPOLLOUT;
+    }
+    return event;
+}
+
+} // namespace
+
+EventLoop::EventLoop() : m_poll(::epoll_create1(EPOLL_CLOEXEC)) {}
+
+void EventLoop::watch(int descriptor, Interest interest, Handler handler) {
+    m_handlers[descriptor] = std::make_shared<Handler>(std::move(handler));
+    epoll_event event = eventFor(descriptor, interest);
+    ::epoll_ctl(m_poll.get(), EPOLL_CTL_ADD, descriptor, &event);
+}
+
+void EventLoop::setInterest(int descriptor, Interest interest) {
+    epoll_event event = eventFor(descriptor, interest);
+    ::epoll_ctl(m_poll.get(), EPOLL_CTL_MOD, descriptor, &event);
+}
+
+void EventLoop::forget(int descriptor) {
+    if (m_handlers.erase(descriptor) > 0) {
+        ::epoll_ctl(m_poll.get(), EPOLL_CTL_DEL, descriptor, nullptr);
+    }
+}
+
+void EventLoop::callAfter(Milliseconds delay, Handler handler) {
+    m_timers.emplace(Clock::now() + delay, std::move(handler));
+}
+
+void EventLoop::run() {
+    constexpr Milliseconds LongTime{60'000};
+    while (!m_isStopping) {
+        runOnce(LongTime);
+    }
+}
+
+int EventLoop::waitingTime(Milliseconds longest) const {
+    if (m_timers.empty()) {
+        return static_cast<int>(longest.count());
+    }
+    const auto left = std::chrono::ceil<Milliseconds>(m_timers.begin()->first - Clock::now());
+    return static_cast<int>(std::clamp(left, Milliseconds{0}, longest).count());
+}
+
+void EventLoop::runOnce(Milliseconds longest) {
+    std::array<epoll_event, 16> events{};
+    const int count = ::epoll_wait(m_poll.get(), events.data(), static_cast<int>(events.size()),
+                                   waitingTime(longest));
+    for (int index = 0; index < count; ++index) {
+        const auto entry = m_handlers.find(events.at(static_cast<std::size_t>(index)).data.fd);
+        if (entry != m_handlers.end()) {
+            // Kept for the length of the call: the handler may forget itself.
+            const std::shared_ptr<Handler> handler = entry->second;
+            (*handler)();
+        }
+    }
+    callDueTimers();
+}
+
+void EventLoop::callDueTimers() {
+    const Clock::time_point now = Clock::now();
+    while (!m_timers.empty() && m_timers.begin()->first <= now) {
+        const Handler handler = std::move(m_timers.begin()->second);
+        m_timers.erase(m_timers.begin());
+        handler();
+    }
+}
+
+} // namespace zelto::simulator

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "simulator/usbip/FileDescriptor.h"
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+
+namespace zelto::simulator {
+
+/// Waits for sockets and for time to pass, and calls whoever asked. Everything runs on the one
+/// thread that runs the loop, which is why nothing behind it needs a lock.
+class EventLoop {
+public:
+    using Handler = std::function<void()>;
+    using Milliseconds = std::chrono::milliseconds;
+    enum class Interest : std::uint8_t { Read, Write, ReadAndWrite };
+
+    EventLoop();
+
+    /// Calls `handler` whenever the descriptor is ready, or its other end is gone. The handler must
+    /// not block, and may forget the descriptor.
+    void watch(int descriptor, Interest interest, Handler handler);
+    void setInterest(int descriptor, Interest interest);
+    /// Before the descriptor is closed.
+    void forget(int descriptor);
+
+    /// Calls `handler` once, when the time has passed.
+    void callAfter(Milliseconds delay, Handler handler);
+
+    /// Runs until stop.
+    void run();
+    void stop() { m_isStopping = true; }
+    /// One round: waits until something happens, but no longer than `longest`.
+    void runOnce(Milliseconds longest);
+
+private:
+    using Clock = std::chrono::steady_clock;
+    [[nodiscard]] int waitingTime(Milliseconds longest) const;
+    void callDueTimers();
+
+    FileDescriptor m_poll;
+    std::map<int, std::shared_ptr<Handler>> m_handlers;
+    std::multimap<Clock::time_point, Handler> m_timers;
+    bool m_isStopping = false;
+};
+
+} // namespace zelto::simulator
