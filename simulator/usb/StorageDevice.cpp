@@ -255,15 +255,20 @@ bool StorageDevice::setInterface(const SetupPacket& setup) {
     return true;
 }
 
+bool StorageDevice::hasBulkEndpoint(BulkEndpoint direction, std::uint8_t endpoint) const {
+    const int address = direction == BulkEndpoint::In ? endpoint | RequestType::ToHost : endpoint;
+    return isConfigured() && bulkEndpointAt(static_cast<std::uint16_t>(address)) == direction;
+}
+
 TransferResult StorageDevice::bulkOut(std::uint8_t endpoint, std::span<const std::uint8_t> data) {
-    if (!isConfigured() || endpoint != UsbDescriptor::BulkOutAddress) {
+    if (!hasBulkEndpoint(BulkEndpoint::Out, endpoint)) {
         return {TransferStatus::NoResponse, 0};
     }
     return m_transport.out(data);
 }
 
 TransferResult StorageDevice::bulkIn(std::uint8_t endpoint, std::span<std::uint8_t> buffer) {
-    if (!isConfigured() || (endpoint | RequestType::ToHost) != UsbDescriptor::BulkInAddress) {
+    if (!hasBulkEndpoint(BulkEndpoint::In, endpoint)) {
         return {TransferStatus::NoResponse, 0};
     }
     return m_transport.in(buffer);

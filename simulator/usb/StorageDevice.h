@@ -31,6 +31,8 @@ public:
     [[nodiscard]] TransferResult control(const SetupPacket& setup,
                                          std::span<const std::uint8_t> sent,
                                          std::span<std::uint8_t> buffer);
+    /// Whether a bulk endpoint has this number, and answers: the device is configured.
+    [[nodiscard]] bool hasBulkEndpoint(BulkEndpoint direction, std::uint8_t endpoint) const;
     /// A transfer on the bulk endpoint with this number (without direction).
     [[nodiscard]] TransferResult bulkOut(std::uint8_t endpoint, std::span<const std::uint8_t> data);
     [[nodiscard]] TransferResult bulkIn(std::uint8_t endpoint, std::span<std::uint8_t> buffer);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <charconv>
 #include <cstring>
 #include <netdb.h>
 #include <netinet/in.h>
@@ -34,9 +35,16 @@ struct FreeAddress {
 };
 using Address = std::unique_ptr<addrinfo, FreeAddress>;
 
+/// getaddrinfo would cut a number that is too large.
+bool isPort(std::string_view text) {
+    unsigned port = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), port);
+    return error == std::errc{} && end == text.data() + text.size() && port <= 0xFFFF;
+}
+
 Address resolve(const std::string& text, std::string& error) {
     const std::size_t colon = text.rfind(':');
-    if (colon == std::string::npos || colon == 0) {
+    if (colon == std::string::npos || colon == 0 || !isPort(text.substr(colon + 1))) {
         error = "an address looks like 127.0.0.1:3240";
         return nullptr;
     }

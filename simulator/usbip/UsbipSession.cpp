@@ -245,6 +245,10 @@ void UsbipSession::submitControl(const UsbipCommand& command, std::span<const st
 }
 
 void UsbipSession::submitIn(const UsbipCommand& command) {
+    if (!m_export.device().hasBulkEndpoint(BulkEndpoint::In, command.endpoint)) {
+        refuse(command.sequence, UsbipStatus::NoResponse);
+        return;
+    }
     if (m_waitingIn.size() >= MaximumWaiting) {
         giveUp("too many transfers at once");
         return;
@@ -253,6 +257,10 @@ void UsbipSession::submitIn(const UsbipCommand& command) {
 }
 
 void UsbipSession::submitOut(const UsbipCommand& command, std::span<const std::uint8_t> data) {
+    if (!m_export.device().hasBulkEndpoint(BulkEndpoint::Out, command.endpoint)) {
+        refuse(command.sequence, UsbipStatus::NoResponse);
+        return;
+    }
     if (m_waitingOut.empty()) {
         const TransferResult result = m_export.device().bulkOut(command.endpoint, data);
         if (result.status != TransferStatus::Waiting) {

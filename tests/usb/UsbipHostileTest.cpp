@@ -31,9 +31,8 @@ TEST_F(UsbipHostile, AnswersAreNoCommands) {
 }
 
 TEST_F(UsbipHostile, OperationsThatMakeNoSenseEndTheSession) {
-    for (const Bytes& packet :
-         {operationPacket(0x8005, 0x0110), operationPacket(0x0005), operationPacket(0x8004),
-          operationPacket(0x0000), Bytes(8, 0xFF)}) {
+    for (const Bytes& packet : {operationPacket(0x8005, 0x0110), operationPacket(0x0005),
+                                operationPacket(0x8004), operationPacket(0x0000), Bytes(8, 0xFF)}) {
         UsbipSession other(exported, UsbipSession::Start::Operations);
         feed(other, packet);
         EXPECT_TRUE(other.isOver());
@@ -48,14 +47,13 @@ TEST_F(UsbipHostile, ImportOfANameWithoutAnEndIsRefused) {
 }
 
 TEST_F(UsbipHostile, NotIsochronousMayBeSaidEitherWay) {
-    EXPECT_EQ(exchange(submitPacket({.sequence = 1,
-                                     .direction = 1,
-                                     .endpoint = 0,
-                                     .length = 1,
-                                     .packets = 0xFFFFFFFF},
-                                    {0x80, 8, 0, 0, 0, 0, 1, 0}))
-                  .size(),
-              49U);
+    EXPECT_EQ(
+        exchange(
+            submitPacket(
+                {.sequence = 1, .direction = 1, .endpoint = 0, .length = 1, .packets = 0xFFFFFFFF},
+                {0x80, 8, 0, 0, 0, 0, 1, 0}))
+            .size(),
+        49U);
 }
 
 TEST_F(UsbipHostile, TooLongATransferToTheHostIsRefused) {
@@ -65,8 +63,9 @@ TEST_F(UsbipHostile, TooLongATransferToTheHostIsRefused) {
 
 TEST_F(UsbipHostile, TooLongATransferFromTheHostIsSkippedAndTheStreamFollowed) {
     const std::uint32_t length = UsbipSession::MaximumTransfer + 1;
-    EXPECT_EQ(exchange(submitPacket({.sequence = 1, .direction = 0, .endpoint = 2, .length = length})),
-              submitReply(1, WireStatus::TooLong, 0));
+    EXPECT_EQ(
+        exchange(submitPacket({.sequence = 1, .direction = 0, .endpoint = 2, .length = length})),
+        submitReply(1, WireStatus::TooLong, 0));
     put(Bytes(length, 0xAA));
     EXPECT_TRUE(take().empty());
     EXPECT_EQ(exchange(submitControl(2, {0x80, 8, 0, 0, 0, 0, 1, 0})).size(), 49U);
@@ -136,7 +135,8 @@ public:
         case 0:
             return noise(below(80));
         case 1:
-            return unlinkPacket(m_sequence++, m_sequence - below(10));
+            ++m_sequence;
+            return unlinkPacket(m_sequence, m_sequence - below(10));
         case 2:
         case 3:
             return submitControl(m_sequence++, setup(), {});
@@ -150,7 +150,9 @@ public:
     }
 
 private:
-    std::uint32_t below(std::uint32_t limit) { return static_cast<std::uint32_t>(m_random() % limit); }
+    std::uint32_t below(std::uint32_t limit) {
+        return static_cast<std::uint32_t>(m_random() % limit);
+    }
     std::uint8_t byte() { return static_cast<std::uint8_t>(below(256)); }
     Bytes noise(std::size_t size) {
         Bytes bytes(size);
@@ -160,7 +162,8 @@ private:
     Bytes setup() {
         Bytes bytes = noise(8);
         if (below(2) == 0) {
-            bytes = {0x02, 1, 0, 0, static_cast<std::uint8_t>(below(2) == 0 ? 0x81 : 0x02), 0, 0, 0};
+            bytes = {0x02, 1, 0, 0, static_cast<std::uint8_t>(below(2) == 0 ? 0x81 : 0x02),
+                     0,    0, 0};
         } else if (below(2) == 0) {
             bytes = {0x21, 0xFF, 0, 0, 0, 0, 0, 0};
         }
@@ -179,9 +182,9 @@ private:
         for (std::size_t index = 1; index < command.size(); ++index) {
             command[index] = below(3) == 0 ? byte() : below(5) == 0 ? 1 : 0;
         }
-        return commandWrapper(byte(), below(4) == 0 ? static_cast<std::uint32_t>(m_random())
-                                                    : 512 * below(5),
-                              below(2) == 0 ? 0x80 : 0, static_cast<std::uint8_t>(below(6)), command);
+        return commandWrapper(
+            byte(), below(4) == 0 ? static_cast<std::uint32_t>(m_random()) : 512 * below(5),
+            below(2) == 0 ? 0x80 : 0, static_cast<std::uint8_t>(below(6)), command);
     }
 
     std::mt19937 m_random;

@@ -23,9 +23,9 @@ protected:
         address.sin_family = AF_INET;
         address.sin_port = htons(server.port());
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        EXPECT_EQ(::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address),
-                            sizeof address),
-                  0);
+        EXPECT_EQ(
+            ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address),
+            0);
         turn();
         return socket;
     }
@@ -167,7 +167,8 @@ TEST_F(Server, MakesRoomByDroppingTheOldestThatOnlyLooks) {
 
 TEST_F(Server, RefusesAddressesThatAreNone) {
     std::string error;
-    UsbipServer other(loop, exported, [] {}, [](const std::string&) {});
+    UsbipServer other(
+        loop, exported, [] {}, [](const std::string&) {});
     for (const char* const address : {"", "3240", ":3240", "localhost", "127.0.0.1", "1.2.3.4.5:1",
                                       "127.0.0.1:port", "127.0.0.1:70000"}) {
         error.clear();
@@ -178,7 +179,8 @@ TEST_F(Server, RefusesAddressesThatAreNone) {
 
 TEST_F(Server, RefusesAnAddressThatIsTaken) {
     std::string error;
-    UsbipServer other(loop, exported, [] {}, [](const std::string&) {});
+    UsbipServer other(
+        loop, exported, [] {}, [](const std::string&) {});
     EXPECT_FALSE(other.listen("127.0.0.1:" + std::to_string(server.port()), error));
 }
 

@@ -27,8 +27,8 @@ Bytes listedDevice() {
     bytes[256] = '1';
     bytes[257] = '-';
     bytes[258] = '1';
-    const Bytes rest{0, 0, 0, 1, 0, 0, 0, 2, 0, 0, 0, 3, 0x07, 0xF7, 0x01, 0x35, 0x01, 0x00,
-                     0, 0, 0, 0, 1, 1};
+    const Bytes rest{0,    0,    0,    1,    0,    0,    0, 2, 0, 0, 0, 3,
+                     0x07, 0xF7, 0x01, 0x35, 0x01, 0x00, 0, 0, 0, 0, 1, 1};
     std::ranges::copy(rest, bytes.begin() + 288);
     return bytes;
 }
@@ -157,7 +157,8 @@ TEST_F(UsbipTransfers, StallInTheMiddleTellsWhatMoved) {
     put(submitOut(1, commandWrapper(5, 2048, 0x80, 0, ReadTwo)));
     (void)take();
     const Bytes answer = exchange(submitIn(2, 2048));
-    EXPECT_EQ(Bytes(answer.begin(), answer.begin() + 48), submitReply(2, WireStatus::Stalled, 1024));
+    EXPECT_EQ(Bytes(answer.begin(), answer.begin() + 48),
+              submitReply(2, WireStatus::Stalled, 1024));
     EXPECT_EQ(answer.size(), 48U + 1024);
 }
 

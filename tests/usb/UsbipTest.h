@@ -54,9 +54,8 @@ struct SubmitFields {
 inline Bytes submitPacket(const SubmitFields& fields, const Bytes& setup = Bytes(8),
                           const Bytes& data = {}) {
     Bytes bytes;
-    for (const std::uint32_t value :
-         {1U, fields.sequence, fields.deviceId, fields.direction, fields.endpoint, 0U,
-          fields.length, 0U, fields.packets, 0U}) {
+    for (const std::uint32_t value : {1U, fields.sequence, fields.deviceId, fields.direction,
+                                      fields.endpoint, 0U, fields.length, 0U, fields.packets, 0U}) {
         append32(bytes, value);
     }
     append(bytes, setup);
@@ -76,7 +75,7 @@ inline Bytes submitOut(std::uint32_t sequence, const Bytes& data) {
 /// `setup` as its eight bytes on the bus.
 inline Bytes submitControl(std::uint32_t sequence, const Bytes& setup, const Bytes& data = {}) {
     return submitPacket({.sequence = sequence,
-                         .direction = setup.at(0) >> 7,
+                         .direction = (setup.at(0) & 0x80) != 0 ? 1U : 0U,
                          .endpoint = 0,
                          .length = static_cast<std::uint32_t>(setup.at(6) | setup.at(7) << 8)},
                         setup, data);
@@ -116,10 +115,14 @@ inline constexpr std::uint32_t Unlinked = 0xFFFFFF98;
 } // namespace WireStatus
 
 inline Bytes operationPacket(std::uint16_t code, std::uint16_t version = 0x0111) {
-    return {static_cast<std::uint8_t>(version >> 8), static_cast<std::uint8_t>(version & 0xFF),
-            static_cast<std::uint8_t>(code >> 8),    static_cast<std::uint8_t>(code & 0xFF),
-            0,                                       0,
-            0,                                       0};
+    return {static_cast<std::uint8_t>(version >> 8),
+            static_cast<std::uint8_t>(version & 0xFF),
+            static_cast<std::uint8_t>(code >> 8),
+            static_cast<std::uint8_t>(code & 0xFF),
+            0,
+            0,
+            0,
+            0};
 }
 inline Bytes importPacket(std::string_view busId) {
     Bytes bytes = operationPacket(0x8003);

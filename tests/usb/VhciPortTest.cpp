@@ -11,10 +11,9 @@ namespace {
 constexpr std::string_view Heading = "hub port sta spd dev      sockfd local_busid\n";
 
 TEST(VhciStatus, FindsTheFirstFreePortForHighSpeed) {
-    EXPECT_EQ(findFreeVhciPort(std::string(Heading) +
-                               "hs  0000 006 003 00010002 000003 1-1\n"
-                               "hs  0001 004 000 00000000 000000 0-0\n"
-                               "hs  0002 004 000 00000000 000000 0-0\n"),
+    EXPECT_EQ(findFreeVhciPort(std::string(Heading) + "hs  0000 006 003 00010002 000003 1-1\n"
+                                                      "hs  0001 004 000 00000000 000000 0-0\n"
+                                                      "hs  0002 004 000 00000000 000000 0-0\n"),
               1U);
 }
 
