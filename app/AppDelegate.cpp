@@ -17,6 +17,9 @@ AppDelegate::AppDelegate(const Platform& platform)
 }
 
 AppDelegate::~AppDelegate() {
+    // The process may live on (tests, the demo); its events must not reach a controller that is
+    // gone.
+    releaseNotifications();
     g_BsdNameList.clear();
 }
 

@@ -1,10 +1,13 @@
 #include "app/AppDelegate.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "ui/AlertPresenter.h"
+#include "ui/ProductIcon.h"
 #include "ui/Strings.h"
+#include "ui/WorkIndicator.h"
 
 #include <QApplication>
-#include <QIcon>
+
+#include <memory>
 
 namespace {
 
@@ -18,10 +21,11 @@ int NSApplicationMain(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     zelto::installStrings();
     QApplication::setApplicationDisplayName(zelto::localized("IDS_APP_TITLE"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/zelto.png")));
+    QApplication::setWindowIcon(zelto::ProductIcon::icon());
 
     zelto::AlertPresenter alerts;
-    zelto::LinuxPlatform linuxPlatform(alerts);
+    zelto::linux_platform::LinuxPlatform linuxPlatform(
+        alerts, [] { return std::make_shared<zelto::BusyWindows>(); });
     zelto::AppDelegate delegate(linuxPlatform.platform());
     delegate.applicationWillFinishLaunching();
     // From inside the loop: a relocating program quits at once, which needs a loop to leave.
@@ -33,4 +37,6 @@ int NSApplicationMain(int argc, char** argv) {
 
 } // namespace
 
-int main(int argc, char* argv[]) { return NSApplicationMain(argc, argv); }
+int main(int argc, char* argv[]) {
+    return NSApplicationMain(argc, argv);
+}
