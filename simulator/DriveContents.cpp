@@ -13,7 +13,7 @@ namespace zelto::simulator {
 namespace {
 
 /// What is enciphered at a time before it goes to the store.
-constexpr std::size_t BufferSize = 256 * 1024;
+constexpr std::size_t BufferSize = std::size_t{256} * 1024;
 
 StorageResult resultOf(bool succeeded) {
     return succeeded ? StorageResult::Done : StorageResult::Failed;

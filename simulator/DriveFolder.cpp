@@ -18,7 +18,7 @@ constexpr const char* StateName = "drive.state";
 constexpr const char* NewStateName = "drive.state.new";
 constexpr const char* ImageName = "drive.image";
 /// More is no state file, whatever it is.
-constexpr std::size_t MostStateBytes = 64 * 1024;
+constexpr std::size_t MostStateBytes = std::size_t{64} * 1024;
 
 bool fail(std::string& error, const std::filesystem::path& path, const std::string& reason) {
     error = path.string() + ": " + reason;

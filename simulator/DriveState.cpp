@@ -14,7 +14,7 @@ constexpr std::string_view Title = "ZELTO DISK state 1\n";
 constexpr std::string_view TitleOfAnyVersion = "ZELTO DISK state ";
 constexpr std::string_view SumName = "sum ";
 /// Larger than any state: 4096 bytes of hint data in hexadecimal and some forty lines.
-constexpr std::size_t MostText = 64 * 1024;
+constexpr std::size_t MostText = std::size_t{64} * 1024;
 constexpr std::size_t HintRow = 32;
 constexpr std::size_t MostSerial = 126;
 

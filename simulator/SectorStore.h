@@ -49,7 +49,7 @@ public:
     [[nodiscard]] bool discardAll() override;
 
 private:
-    static constexpr std::size_t BlockSize = 64 * 1024;
+    static constexpr std::size_t BlockSize = std::size_t{64} * 1024;
 
     std::uint64_t m_sectorCount = 0;
     std::unordered_map<std::uint64_t, std::unique_ptr<std::uint8_t[]>> m_blocks;
