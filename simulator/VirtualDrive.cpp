@@ -9,16 +9,16 @@
 
 namespace zelto::simulator {
 
-VirtualDrive::VirtualDrive(Manufactured manufactured)
+VirtualDrive::VirtualDrive(const Manufactured& manufactured)
     : VirtualDrive(DriveModel(manufactured),
                    std::make_unique<MemorySectorStore>(manufactured.totalSectors), nullptr) {}
 
 VirtualDrive::VirtualDrive(Manufactured manufactured, std::unique_ptr<SectorStore> store)
     : VirtualDrive(DriveModel(std::move(manufactured)), std::move(store), nullptr) {}
 
-VirtualDrive::VirtualDrive(DriveModel model, std::unique_ptr<SectorStore> store,
+VirtualDrive::VirtualDrive(const DriveModel& model, std::unique_ptr<SectorStore> store,
                            std::unique_ptr<DriveFolder> folder)
-    : m_model(std::move(model)),
+    : m_model(model),
       m_contents(std::move(store)),
       m_folder(std::move(folder)),
       m_saved(m_model.remembered()) {}
@@ -43,9 +43,9 @@ std::unique_ptr<VirtualDrive> VirtualDrive::open(const std::filesystem::path& fo
     if (!keeper->open(contents, error)) {
         return nullptr;
     }
-    DriveModel model(std::move(contents.manufactured), std::move(contents.remembered));
+    const DriveModel model(std::move(contents.manufactured), std::move(contents.remembered));
     return std::unique_ptr<VirtualDrive>(
-        new VirtualDrive(std::move(model), std::move(contents.store), std::move(keeper)));
+        new VirtualDrive(model, std::move(contents.store), std::move(keeper)));
 }
 
 void VirtualDrive::plug(Moment now) {
@@ -152,7 +152,7 @@ void VirtualDrive::updateMedia(Moment now) {
             forgetSecret(shown.medium->key);
             m_contents.forgetKey();
         }
-        shown.medium = std::move(medium);
+        shown.medium = medium;
         ++shown.generation;
     }
 }

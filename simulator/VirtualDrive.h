@@ -24,7 +24,7 @@ public:
     static constexpr std::size_t UnitCount = DriveModel::UnitCount;
 
     /// A new drive that lives as long as this object.
-    explicit VirtualDrive(Manufactured manufactured);
+    explicit VirtualDrive(const Manufactured& manufactured);
     /// The same on sectors of one's own; `store` has `manufactured.totalSectors` sectors.
     VirtualDrive(Manufactured manufactured, std::unique_ptr<SectorStore> store);
     /// Makes a new drive in a folder, which must not hold one yet; the folder is created. Null, and
@@ -87,7 +87,7 @@ private:
         std::uint64_t generation = 0;
     };
 
-    VirtualDrive(DriveModel model, std::unique_ptr<SectorStore> store,
+    VirtualDrive(const DriveModel& model, std::unique_ptr<SectorStore> store,
                  std::unique_ptr<DriveFolder> folder);
 
     /// Notices what time or a request has changed: media, and what is to be saved. False when
