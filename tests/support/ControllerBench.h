@@ -1,0 +1,73 @@
+#pragma once
+
+#include "simulator/FaultyDevice.h"
+#include "simulator/Person.h"
+#include "simulator/PreparedDrive.h"
+#include "simulator/UtilityProcess.h"
+#include "tests/support/ScriptedAlerts.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zelto {
+
+/// A bench for tests of the whole controller: a virtual computer, alerts with scripted answers, the
+/// utility with its real windows, and somebody who drives them. Nothing sleeps and no real time
+/// passes. What that somebody cannot do fails the test.
+class ControllerBench {
+public:
+    using Drive = std::shared_ptr<simulator::DriveOnBus>;
+    /// 128 MiB.
+    static constexpr std::uint64_t NewDriveSectors = 262144;
+
+    ControllerBench();
+    ControllerBench(const ControllerBench&) = delete;
+    ControllerBench& operator=(const ControllerBench&) = delete;
+    ~ControllerBench();
+
+    /// The world before the utility starts, and while it runs.
+    Drive plugNewDrive(const std::string& serial = "ZD0000000000A1",
+                       std::uint64_t sectors = NewDriveSectors);
+    Drive plugPreparedDrive(const simulator::DriveSetup& setup = {});
+    void plug(const Drive& drive) { computer.plug(drive); }
+    void unplug(const Drive& drive) { computer.unplug(drive); }
+    void replug(const Drive& drive) { computer.replug(drive); }
+
+    /// Starts the utility. Whatever ran before has ended by then.
+    void start();
+    [[nodiscard]] AppDelegate& app() { return m_process->delegate(); }
+    [[nodiscard]] bool hasQuit() const { return m_process->hasQuit(); }
+    /// Lets seconds pass, a tick in each.
+    void tick(int seconds = 1) { computer.advance(std::chrono::seconds(seconds)); }
+
+    /// The person; see simulator::Person.
+    void type(const char* field, const QString& text) { person.type(field, text); }
+    void press(const char* button) { person.press(button); }
+    void press(const char* button, const std::function<void()>& inDialog) {
+        person.press(button, inDialog);
+    }
+    [[nodiscard]] QString text(const char* control) const { return person.text(control); }
+    [[nodiscard]] bool isEnabled(const char* control) const { return person.isEnabled(control); }
+    /// The name of the window that is open; empty when none is.
+    [[nodiscard]] std::string visibleWindow() const { return person.visibleWindowName(); }
+
+    /// The texts of the alerts so far.
+    [[nodiscard]] std::vector<QString> alertTexts() const { return alerts.messages(); }
+    /// The commands sent so far, by name and in order, without the tick's reading of the clock.
+    [[nodiscard]] std::vector<std::string> commands() const;
+    /// The runs of the disk tool so far.
+    [[nodiscard]] std::vector<std::string> diskToolRuns() const;
+
+    /// From the next arrival on, every drive's handle goes through this plan.
+    [[nodiscard]] std::shared_ptr<simulator::FaultPlan> putFaultsInto();
+
+    simulator::VirtualComputer computer;
+    ScriptedAlerts alerts{computer.log};
+    simulator::Person person;
+
+private:
+    std::unique_ptr<simulator::UtilityProcess> m_process;
+};
+
+} // namespace zelto

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "simulator/ScriptedAlerts.h"
+
+namespace zelto {
+using simulator::ScriptedAlerts;
+}
