@@ -23,12 +23,15 @@ epoll_event eventFor(int descriptor, EventLoop::Interest interest) {
 
 } // namespace
 
-EventLoop::EventLoop() : m_poll(::epoll_create1(EPOLL_CLOEXEC)) {}
+EventLoop::EventLoop(Now now) : m_now(std::move(now)), m_poll(::epoll_create1(EPOLL_CLOEXEC)) {}
 
-void EventLoop::watch(int descriptor, Interest interest, Handler handler) {
-    m_handlers[descriptor] = std::make_shared<Handler>(std::move(handler));
+bool EventLoop::watch(int descriptor, Interest interest, Handler handler) {
     epoll_event event = eventFor(descriptor, interest);
-    ::epoll_ctl(m_poll.get(), EPOLL_CTL_ADD, descriptor, &event);
+    if (::epoll_ctl(m_poll.get(), EPOLL_CTL_ADD, descriptor, &event) != 0) {
+        return false;
+    }
+    m_handlers[descriptor] = std::make_shared<Handler>(std::move(handler));
+    return true;
 }
 
 void EventLoop::setInterest(int descriptor, Interest interest) {
@@ -43,7 +46,7 @@ void EventLoop::forget(int descriptor) {
 }
 
 void EventLoop::callAfter(Milliseconds delay, Handler handler) {
-    m_timers.emplace(Clock::now() + delay, std::move(handler));
+    m_timers.emplace(m_now() + delay, std::move(handler));
 }
 
 void EventLoop::run() {
@@ -57,7 +60,7 @@ int EventLoop::waitingTime(Milliseconds longest) const {
     if (m_timers.empty()) {
         return static_cast<int>(longest.count());
     }
-    const auto left = std::chrono::ceil<Milliseconds>(m_timers.begin()->first - Clock::now());
+    const auto left = std::chrono::ceil<Milliseconds>(m_timers.begin()->first - m_now());
     return static_cast<int>(std::clamp(left, Milliseconds{0}, longest).count());
 }
 
@@ -77,7 +80,7 @@ void EventLoop::runOnce(Milliseconds longest) {
 }
 
 void EventLoop::callDueTimers() {
-    const Clock::time_point now = Clock::now();
+    const Clock::time_point now = m_now();
     while (!m_timers.empty() && m_timers.begin()->first <= now) {
         const Handler handler = std::move(m_timers.begin()->second);
         m_timers.erase(m_timers.begin());

@@ -16,13 +16,17 @@ class EventLoop {
 public:
     using Handler = std::function<void()>;
     using Milliseconds = std::chrono::milliseconds;
+    using Clock = std::chrono::steady_clock;
+    using Now = std::function<Clock::time_point()>;
     enum class Interest : std::uint8_t { Read, Write, ReadAndWrite };
 
-    EventLoop();
+    /// `now` tells the time that timers go by; tests bring their own.
+    explicit EventLoop(Now now = &Clock::now);
 
     /// Calls `handler` whenever the descriptor is ready, or its other end is gone. The handler must
-    /// not block, and may forget the descriptor.
-    void watch(int descriptor, Interest interest, Handler handler);
+    /// not block, and may forget the descriptor. False for what cannot be waited for (a plain
+    /// file: it is always ready).
+    bool watch(int descriptor, Interest interest, Handler handler);
     void setInterest(int descriptor, Interest interest);
     /// Before the descriptor is closed.
     void forget(int descriptor);
@@ -37,10 +41,10 @@ public:
     void runOnce(Milliseconds longest);
 
 private:
-    using Clock = std::chrono::steady_clock;
     [[nodiscard]] int waitingTime(Milliseconds longest) const;
     void callDueTimers();
 
+    Now m_now;
     FileDescriptor m_poll;
     std::map<int, std::shared_ptr<Handler>> m_handlers;
     std::multimap<Clock::time_point, Handler> m_timers;

@@ -66,10 +66,15 @@ std::optional<std::uint32_t> VhciPort::findFreePort() const {
     return std::nullopt;
 }
 
+bool VhciPort::isThere() const {
+    std::error_code ignored;
+    return std::filesystem::exists(m_folder / "attach", ignored);
+}
+
 bool VhciPort::attach(int socket, const UsbipDevice& device, std::string& error) {
     constexpr int HighSpeed = 3;
     detach();
-    if (!std::filesystem::exists(m_folder / "attach")) {
+    if (!isThere()) {
         error = "no virtual host controller (is the module vhci_hcd loaded?)";
         return false;
     }

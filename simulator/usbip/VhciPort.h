@@ -27,6 +27,8 @@ public:
     VhciPort& operator=(const VhciPort&) = delete;
     ~VhciPort();
 
+    /// Whether there is a controller.
+    [[nodiscard]] bool isThere() const;
     /// Plugs `device` into a free port, the kernel talking to it through `socket`, which it keeps
     /// for itself: the caller closes its own descriptor. False, and why in `error`, when the
     /// controller is missing, has no free port or refuses.
