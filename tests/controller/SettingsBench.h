@@ -17,8 +17,14 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
+
+/// For failure messages, which would list a text's bytes otherwise.
+inline void PrintTo(const QString& text, std::ostream* stream) {
+    *stream << '"' << text.toStdString() << '"';
+}
 
 namespace zelto::test {
 
@@ -66,6 +72,19 @@ protected:
         computer.log.clear();
         alerts.clear();
         startProgram();
+    }
+
+    /// The program ends and the drive is put away: ready for another beginning.
+    void putAway() {
+        app.reset();
+        computer.endProcess();
+        plan->clear();
+        if (computer.usb.isPlugged(drive)) {
+            computer.unplug(drive);
+        }
+        computer.settle();
+        computer.log.clear();
+        alerts.clear();
     }
 
     void TearDown() override { app.reset(); }

@@ -1,0 +1,308 @@
+#include "tests/controller/SettingsBench.h"
+
+namespace zelto {
+namespace {
+
+using namespace std::chrono_literals;
+using simulator::Fault;
+using test::SettingsBench;
+using test::Wishes;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Commands = std::vector<std::string>;
+
+class ChangeSettings : public SettingsBench {
+protected:
+    struct Passwords {
+        const char* current1 = "first";
+        const char* new1 = "newFirst";
+        const char* current2 = "second";
+        const char* new2 = "newSecond";
+    };
+
+    void changePasswords(const Passwords& passwords, bool two = false) {
+        auto& form = app->PasswordChangeWindow;
+        inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+            type(form.PC_Current1stPasswordText, passwords.current1);
+            type(form.PC_New1stPasswordText, passwords.new1);
+            type(form.PC_AgainNew1stPasswordText, passwords.new1);
+            if (two) {
+                type(form.PC_Current2ndPasswordText, passwords.current2);
+                type(form.PC_New2ndPasswordText, passwords.new2);
+                type(form.PC_AgainNew2ndPasswordText, passwords.new2);
+                type(form.PC_2ndPasswordNumberOfTrials, "5");
+            }
+            click(form.PC_OKButton);
+        });
+    }
+};
+
+TEST_F(ChangeSettings, aDriveThatWasSetUpShowsItsSettings) {
+    beginWithSettingsOf({.autoClearDays = "2", .autoLogOffMinutes = "30"});
+    auto& main = app->MainSettingsWindow;
+    EXPECT_FALSE(app->Settings.InitialSetting);
+    EXPECT_TRUE(app->Settings.SecureAreaAlreadyExist);
+    EXPECT_FALSE(main.AreaSettingsButton->isEnabled());
+    EXPECT_EQ(main.TotalCapacityText->text(), localized("IDS_TOTAL_CAPACITY", 128));
+    EXPECT_EQ(main.FreeCapacityText->text(), localized("IDS_FREE_CAPACITY", 48));
+    EXPECT_TRUE(main.PasswordSettingsButton->isEnabled());
+    EXPECT_FALSE(main.EncryptionKeyAutoManualSelectRadioButton->isEnabled());
+    EXPECT_FALSE(main.EncryptionKeyButton->isEnabled());
+    EXPECT_EQ(main.EncryptionKeyAutoManualSelectRadioButton->selectedTag(), 0);
+    EXPECT_TRUE(main.EraseEncryptionKeyButton->isEnabled());
+    EXPECT_TRUE(main.AutoClearEnabledCheckBox->isChecked());
+    EXPECT_EQ(main.AutoClearDaysOrMinutesRadioButton->selectedTag(), 0);
+    EXPECT_EQ(main.AutoClearText->text(), QStringLiteral("2"));
+    EXPECT_TRUE(main.AutoLogOffEnabledCheckBox->isChecked());
+    EXPECT_EQ(main.AutoLogOffText->text(), QStringLiteral("30"));
+    EXPECT_FALSE(okIsEnabled());
+    EXPECT_EQ(app->numberOfRowsInTableView(), 2);
+}
+
+TEST_F(ChangeSettings, periodsThatAreOffLeaveTheirControlsDisabled) {
+    beginWithSettingsOf({.key = QStringLiteral("0A")});
+    auto& main = app->MainSettingsWindow;
+    EXPECT_TRUE(main.AutoClearEnabledCheckBox->isEnabled());
+    EXPECT_FALSE(main.AutoClearEnabledCheckBox->isChecked());
+    EXPECT_FALSE(main.AutoClearText->isEnabled());
+    EXPECT_FALSE(main.AutoClearDaysOrMinutesRadioButton->isEnabled());
+    EXPECT_FALSE(main.AutoLogOffText->isEnabled());
+    EXPECT_EQ(main.EncryptionKeyAutoManualSelectRadioButton->selectedTag(), 1);
+}
+
+TEST_F(ChangeSettings, theRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuits) {
+    beginWithSettingsOf({.autoClearDays = "2", .autoLogOffMinutes = "30"});
+    click(app->MainSettingsWindow.ShowRemainingTimeCheckBox);
+    ASSERT_TRUE(okIsEnabled());
+    commit();
+    EXPECT_EQ(commands(),
+              (Commands{"ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData"}));
+    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 172800 & 0xFFFF);
+    EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 1800);
+    EXPECT_THAT(latest("ZELTO_WriteHintData").data, ElementsAre(1));
+    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
+TEST_F(ChangeSettings, anUncheckedAutoClearIsSentAsZero) {
+    beginWithSettingsOf({.autoClearDays = "2"});
+    click(app->MainSettingsWindow.AutoClearEnabledCheckBox);
+    // Whatever the text holds.
+    app->MainSettingsWindow.AutoClearText->setText(QStringLiteral("7"));
+    commit();
+    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 0);
+    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wIndex, 0);
+}
+
+TEST_F(ChangeSettings, cancelQuitsWithoutACommand) {
+    beginWithSettingsOf({});
+    click(app->MainSettingsWindow.MainSettingsCancelButton);
+    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_THAT(commands(), IsEmpty());
+}
+
+TEST_F(ChangeSettings, closingTheWindowIsCancelling) {
+    beginWithSettingsOf({});
+    app->MainSettingsWindow.reject();
+    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_THAT(commands(), IsEmpty());
+}
+
+TEST_F(ChangeSettings, onePasswordIsChangedByOneRecord) {
+    beginWithSettingsOf({});
+    changePasswords({});
+    ASSERT_TRUE(okIsEnabled());
+    commit();
+    const auto records = all("SetAuthInfo");
+    ASSERT_EQ(records.size(), 1u);
+    EXPECT_EQ(records[0].data.size(), 72u);
+    EXPECT_EQ(records[0].data[0], 0x06);
+    EXPECT_EQ(records[0].data[4], 0);
+    EXPECT_EQ(records[0].setup.wValue, 0);
+    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
+    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.strCurrent1stPassword.isEmpty());
+
+    computer.replug(drive);
+    startAgain();
+    logIn(QStringLiteral("newFirst"));
+    EXPECT_EQ(driveState(), SecurityState::StateUnlocking);
+}
+
+TEST_F(ChangeSettings, twoPasswordsAreChangedByTwoRecords) {
+    beginWithSettingsOf({.twoPasswords = true});
+    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.Use1stAnd2ndPassword);
+    changePasswords({}, true);
+    commit();
+    const auto records = all("SetAuthInfo");
+    ASSERT_EQ(records.size(), 2u);
+    EXPECT_EQ(records[0].data.size(), 72u);
+    EXPECT_EQ(records[0].data[0], 0x06);
+    EXPECT_EQ(records[0].data[4], 5);
+    EXPECT_EQ(records[1].data.size(), 104u);
+    EXPECT_EQ(records[1].data[0], 0x0F);
+    EXPECT_EQ(records[1].data[4], 0);
+    EXPECT_THAT(messages(), IsEmpty());
+
+    computer.replug(drive);
+    startAgain();
+    logIn(QStringLiteral("newFirst"));
+    logIn(QStringLiteral("newSecond"));
+    EXPECT_EQ(driveState(), SecurityState::StateUnlocking);
+}
+
+TEST_F(ChangeSettings, aWrongCurrentFirstPasswordIsToldAfterAPauseAndTheWindowStays) {
+    beginWithSettingsOf({});
+    changePasswords({.current1 = "wrong"});
+    commit();
+    EXPECT_EQ(commands(), (Commands{"SetAuthInfo", "GetDeviceStatus"}));
+    EXPECT_EQ(computer.log.count("sleep 1"), 1u);
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_CURRENT_1ST_PASSWORD_INVALID")));
+    EXPECT_FALSE(computer.application.isStopped());
+    EXPECT_TRUE(okIsEnabled());
+    EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+
+    // What was typed is still there; the user corrects one field and tries again.
+    alerts.clear();
+    auto& form = app->PasswordChangeWindow;
+    inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+        EXPECT_EQ(form.PC_New1stPasswordText->text(), QStringLiteral("newFirst"));
+        type(form.PC_Current1stPasswordText, "first");
+        click(form.PC_OKButton);
+    });
+    commit();
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_TRUE(computer.application.isStopped());
+}
+
+TEST_F(ChangeSettings, aWrongCurrentSecondPasswordChangesNothing) {
+    beginWithSettingsOf({.twoPasswords = true});
+    changePasswords({.current2 = "wrong"}, true);
+    commit();
+    EXPECT_EQ(commands(), (Commands{"SetAuthInfo", "GetDeviceStatus"}));
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_CURRENT_2ND_PASSWORD_INVALID")));
+}
+
+TEST_F(ChangeSettings, aWrongFirstPasswordLeavesTheSecondOneChanged) {
+    beginWithSettingsOf({.twoPasswords = true});
+    const auto before = drive->drive().model().remembered();
+    changePasswords({.current1 = "wrong"}, true);
+    commit();
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_CURRENT_1ST_PASSWORD_INVALID")));
+    const auto& after = drive->drive().model().remembered();
+    EXPECT_TRUE(after.secondPassword != before.secondPassword);
+    EXPECT_TRUE(after.firstPassword == before.firstPassword);
+}
+
+TEST_F(ChangeSettings, aRecordRefusedForAnotherReasonIsReportedWithItsSense) {
+    beginWithSettingsOf({});
+    changePasswords({});
+    failCommand("SetAuthInfo", {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
+    commit();
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 0, 0, 0)));
+    EXPECT_TRUE(okIsEnabled());
+}
+
+TEST_F(ChangeSettings, aDriveThatIsGoneIsReportedByTheStatusReadAfterTheRefusal) {
+    beginWithSettingsOf({});
+    changePasswords({});
+    failCommand("SetAuthInfo", {.kind = Fault::Kind::VanishesBefore});
+    commit();
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
+    EXPECT_FALSE(computer.application.isStopped());
+}
+
+TEST_F(ChangeSettings, aRefusedPeriodKeepsTheWindowOpen) {
+    for (const char* command : {"ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
+        beginWithSettingsOf({});
+        click(app->MainSettingsWindow.ShowRemainingTimeCheckBox);
+        failCommand(command, {});
+        commit();
+        EXPECT_EQ(messages().size(), 1u);
+        EXPECT_TRUE(okIsEnabled());
+        EXPECT_EQ(computer.log.count("TKVR21_ZELTO_WriteHintData"), 0u);
+        putAway();
+    }
+}
+
+TEST_F(ChangeSettings, textThatIsNotAPeriodKeepsOkDisabled) {
+    beginWithSettingsOf({});
+    auto& main = app->MainSettingsWindow;
+    click(main.AutoClearEnabledCheckBox);
+    EXPECT_FALSE(okIsEnabled());
+    for (const QString& text :
+         {QStringLiteral("0"), QStringLiteral("10000"), QStringLiteral("-1"), QStringLiteral(" 1"),
+          QStringLiteral("\U0001F511"), QStringLiteral("\u0661"), QString(100000, u'9')}) {
+        type(main.AutoClearText, text);
+        EXPECT_FALSE(okIsEnabled()) << text.left(20).toStdString();
+    }
+    type(main.AutoClearText, "9999");
+    EXPECT_TRUE(okIsEnabled());
+    click(main.AutoClearMinutesCell);
+    EXPECT_TRUE(main.AutoClearText->text().isEmpty());
+    EXPECT_FALSE(okIsEnabled());
+    type(main.AutoClearText, "1000");
+    EXPECT_FALSE(okIsEnabled());
+    type(main.AutoClearText, "999");
+    EXPECT_TRUE(okIsEnabled());
+}
+
+TEST_F(ChangeSettings, switchingAutoLogOffOffEmptiesItsTextAndOnKeepsIt) {
+    beginWithSettingsOf({.autoLogOffMinutes = "30"});
+    auto& main = app->MainSettingsWindow;
+    click(main.AutoLogOffEnabledCheckBox);
+    EXPECT_TRUE(main.AutoLogOffText->text().isEmpty());
+    EXPECT_FALSE(main.AutoLogOffText->isEnabled());
+    EXPECT_TRUE(okIsEnabled());
+    click(main.AutoLogOffEnabledCheckBox);
+    EXPECT_TRUE(main.AutoLogOffText->isEnabled());
+    EXPECT_FALSE(okIsEnabled());
+}
+
+TEST_F(ChangeSettings, openingTwiceInOneRunLeavesTwoItemsAndShowsTheFirst) {
+    beginWithSettingsOf({});
+    app->DisplayMainSettingsWindow(false);
+    EXPECT_EQ(app->MainSettingsWindow.ZeltoDriveComboBox->count(), 2);
+    EXPECT_EQ(app->MainSettingsWindow.ZeltoDriveComboBox->currentIndex(), 0);
+}
+
+TEST_F(ChangeSettings, anAreaListThatCannotBeReadOpensNothing) {
+    beginWithSettingsOf({});
+    app->MainSettingsWindow.orderOut();
+    failCommand("GetAreaInfos", {.kind = Fault::Kind::VanishesBefore});
+    app->DisplayMainSettingsWindow(false);
+    EXPECT_FALSE(app->MainSettingsWindow.isVisible());
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
+}
+
+TEST_F(ChangeSettings, aTimeStatusThatCannotBeReadOpensNothing) {
+    beginWithSettingsOf({});
+    app->MainSettingsWindow.orderOut();
+    failCommand("ZELTO_GetTimeStatus", {});
+    app->DisplayMainSettingsWindow(false);
+    EXPECT_FALSE(app->MainSettingsWindow.isVisible());
+    EXPECT_EQ(messages().size(), 1u);
+}
+
+TEST_F(ChangeSettings, aStatusThatCannotBeReadIsNotReported) {
+    beginWithSettingsOf({});
+    failCommand("GetDeviceStatus", {});
+    app->DisplayMainSettingsWindow(false);
+    EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
+TEST_F(ChangeSettings, aDriveWithoutSecureAreaHasNothingToChangeButNothingBreaks) {
+    beginWithSettingsOf({.secureDisk = 0});
+    auto& main = app->MainSettingsWindow;
+    EXPECT_TRUE(main.isVisible());
+    EXPECT_FALSE(app->Settings.InitialSetting);
+    EXPECT_FALSE(main.PasswordSettingsButton->isEnabled());
+    EXPECT_FALSE(main.AutoClearEnabledCheckBox->isEnabled());
+    EXPECT_FALSE(main.EraseEncryptionKeyButton->isEnabled());
+    EXPECT_FALSE(okIsEnabled());
+}
+
+} // namespace
+} // namespace zelto

@@ -1,0 +1,207 @@
+#include "tests/controller/SettingsBench.h"
+
+namespace zelto {
+namespace {
+
+using simulator::Fault;
+using test::SettingsBench;
+using test::Wishes;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Commands = std::vector<std::string>;
+
+class EraseKey : public SettingsBench {
+protected:
+    void eraseAnsweringYes() {
+        alerts.answer(AlertButton::Alternate);
+        click(app->MainSettingsWindow.EraseEncryptionKeyButton);
+    }
+};
+
+TEST_F(EraseKey, theDefaultAnswerSendsNothing) {
+    beginWithSettingsOf({});
+    click(app->MainSettingsWindow.EraseEncryptionKeyButton);
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERASE_ENCRYPTION_KEY_CONFIRM")));
+    EXPECT_EQ(alerts.panels()[0].defaultButton, localized("IDS_CANCEL_BUTTON"));
+    EXPECT_EQ(alerts.panels()[0].alternateButton, localized("OK"));
+    EXPECT_THAT(commands(), IsEmpty());
+}
+
+TEST_F(EraseKey, setsAPeriodOfOneSecondLogsOutAndQuits) {
+    beginWithSettingsOf({});
+    eraseAnsweringYes();
+    EXPECT_EQ(commands(),
+              (Commands{"GetDeviceStatus", "ZELTO_SetErasePeriod", "GetAreaInfos", "Logout"}));
+    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 1);
+    EXPECT_TRUE(computer.application.isStopped());
+    computer.clock.pass(std::chrono::seconds(2));
+    EXPECT_EQ(driveState(), SecurityState::StateFullLock);
+}
+
+TEST_F(EraseKey, aLockedDriveIsRefusedAfterTheStatusRead) {
+    beginWithSettingsOf({});
+    computer.replug(drive);
+    computer.settle();
+    app->Drives.CurrentUsbIntf = app->Drives.UsbIntf[app->Drives.DevCnt - 1];
+    ASSERT_EQ(driveState(), SecurityState::StateLocked);
+    computer.log.clear();
+    eraseAnsweringYes();
+    EXPECT_EQ(commands(), (Commands{"GetDeviceStatus"}));
+    EXPECT_EQ(messages().back(), localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
+    EXPECT_FALSE(computer.application.isStopped());
+}
+
+TEST_F(EraseKey, eachFailedCommandIsReportedOnceAndStopsIt) {
+    for (const char* command : {"GetDeviceStatus", "ZELTO_SetErasePeriod"}) {
+        beginWithSettingsOf({});
+        failCommand(command, {});
+        eraseAnsweringYes();
+        EXPECT_EQ(messages().size(), 2u) << command;
+        EXPECT_FALSE(computer.application.isStopped());
+        EXPECT_EQ(computer.log.count("TKVR21_Logout"), 0u);
+        putAway();
+    }
+}
+
+class ClearAll : public SettingsBench {
+protected:
+    void clearAnsweringYes() {
+        computer.log.clear();
+        alerts.answer(AlertButton::Alternate);
+        click(app->MainSettingsWindow.MainSettingsClearAllButton);
+    }
+    /// The drive out and in again, behind the open settings window.
+    void lockDrive() {
+        computer.replug(drive);
+        computer.settle();
+        app->Drives.CurrentUsbIntf = app->Drives.UsbIntf[app->Drives.DevCnt - 1];
+    }
+};
+
+TEST_F(ClearAll, theDefaultAnswerSendsNothing) {
+    beginWithSettingsOf({});
+    click(app->MainSettingsWindow.MainSettingsClearAllButton);
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_CLEAR_ALL_CONFIRM")));
+    EXPECT_THAT(commands(), IsEmpty());
+}
+
+TEST_F(ClearAll, anUnlockedDriveRefusesTheResetIsLoggedOutClearedAndReset) {
+    beginWithSettingsOf({});
+    clearAnsweringYes();
+    EXPECT_EQ(commands(),
+              (Commands{"GetDeviceStatus", "GetDeviceStatus", "ZELTO_SetErasePeriod",
+                        "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData", "ResetAreaInfos",
+                        "GetDeviceStatus", "Logout", "ClearEncryptionInfo", "ResetAreaInfos"}));
+    EXPECT_EQ(all("GetDeviceStatus")[0].setup.wValue, 1);
+    EXPECT_EQ(all("GetDeviceStatus")[1].setup.wValue, 0);
+    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 0);
+    EXPECT_EQ(latest("ZELTO_WriteHintData").setup.wIndex, 4095);
+    EXPECT_THAT(latest("ZELTO_WriteHintData").data, ElementsAre(1));
+    EXPECT_EQ(latest("ResetAreaInfos").setup.wValue, 3);
+    EXPECT_EQ(latest("ClearEncryptionInfo").setup.wValue, 2);
+    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_EQ(messages().size(), 1u);
+}
+
+TEST_F(ClearAll, aDriveWithoutSecureAreaIsResetAtOnce) {
+    beginWithSettingsOf({.secureDisk = 0});
+    clearAnsweringYes();
+    EXPECT_EQ(commands(),
+              (Commands{"GetDeviceStatus", "GetDeviceStatus", "ZELTO_SetErasePeriod",
+                        "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData", "ResetAreaInfos"}));
+    EXPECT_TRUE(computer.application.isStopped());
+}
+
+TEST_F(ClearAll, unmountsAllVolumesFirst) {
+    beginWithSettingsOf({.secureDisk = 0});
+    clearAnsweringYes();
+    const auto runs = computer.log.texts(simulator::LogLine::Kind::DiskTool);
+    ASSERT_FALSE(runs.empty());
+    for (const auto& run : runs) {
+        EXPECT_THAT(run, testing::HasSubstr("umount"));
+    }
+    for (const auto& mounted : computer.mounts.getmntinfo()) {
+        EXPECT_THAT(mounted.f_mntonname, testing::Not(testing::StartsWith("/media/")));
+    }
+}
+
+TEST_F(ClearAll, aVolumeThatDoesNotUnmountStopsItBeforeAnyCommand) {
+    beginWithSettingsOf({.secureDisk = 0});
+    computer.diskTool.setFailure("umount", 1);
+    clearAnsweringYes();
+    EXPECT_THAT(commands(), IsEmpty());
+    EXPECT_EQ(messages().back(), localized("IDS_ERR_UNMOUNT"));
+    EXPECT_FALSE(computer.application.isStopped());
+}
+
+TEST_F(ClearAll, aLockedDriveWithASecureAreaIsRefused) {
+    beginWithSettingsOf({});
+    lockDrive();
+    clearAnsweringYes();
+    EXPECT_EQ(commands(), (Commands{"GetDeviceStatus", "GetDeviceStatus"}));
+    EXPECT_EQ(messages().back(), localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
+    EXPECT_FALSE(computer.application.isStopped());
+}
+
+TEST_F(ClearAll, aDriveNotKnownToHaveASecureAreaIsClearedWhileItIsLocked) {
+    beginWithSettingsOf({});
+    lockDrive();
+    app->Settings.SecureAreaAlreadyExist = false;
+    clearAnsweringYes();
+    for (const QString& message : messages()) {
+        EXPECT_NE(message, localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
+    }
+    EXPECT_EQ(computer.log.count("TKVR21_ZELTO_SetErasePeriod"), 1u);
+}
+
+TEST_F(ClearAll, aFullyLockedDriveGetsNoPeriods) {
+    beginWithSettingsOf({});
+    alerts.answer(AlertButton::Alternate);
+    click(app->MainSettingsWindow.EraseEncryptionKeyButton);
+    computer.clock.pass(std::chrono::seconds(2));
+    ASSERT_EQ(driveState(), SecurityState::StateFullLock);
+    // Its clock is set, so that the settings open.
+    startAgain();
+    if (!app->MainSettingsWindow.isVisible()) {
+        alerts.answer(AlertButton::Default);
+        startAgain();
+    }
+    app->DisplayMainSettingsWindow(false);
+    alerts.clear();
+    EXPECT_FALSE(app->MainSettingsWindow.PasswordSettingsButton->isEnabled());
+    clearAnsweringYes();
+    EXPECT_EQ(computer.log.count("TKVR21_ZELTO_SetErasePeriod"), 0u);
+    EXPECT_EQ(computer.log.count("TKVR21_ZELTO_SetIdleLockPeriod"), 0u);
+    EXPECT_EQ(computer.log.count("TKVR21_ZELTO_WriteHintData"), 1u);
+    EXPECT_GE(computer.log.count("TKVR21_ResetAreaInfos"), 1u);
+    EXPECT_TRUE(computer.application.isStopped());
+}
+
+TEST_F(ClearAll, aResetRefusedForAnotherReasonIsReportedAndNotRepeated) {
+    beginWithSettingsOf({.secureDisk = 0});
+    failCommand("ResetAreaInfos", {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
+    clearAnsweringYes();
+    EXPECT_EQ(commands().back(), "GetDeviceStatus");
+    EXPECT_EQ(messages().back(), localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 0, 0, 0));
+    EXPECT_FALSE(computer.application.isStopped());
+    EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+}
+
+TEST_F(ClearAll, eachFailedCommandIsReportedOnceAndStopsIt) {
+    const std::vector<const char*> all{
+        "GetDeviceStatus", "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData",
+        "Logout",          "ClearEncryptionInfo"};
+    for (const char* command : all) {
+        beginWithSettingsOf({});
+        failCommand(command, {});
+        clearAnsweringYes();
+        EXPECT_EQ(messages().size(), 2u) << command;
+        EXPECT_FALSE(computer.application.isStopped()) << command;
+        EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+        putAway();
+    }
+}
+
+} // namespace
+} // namespace zelto
