@@ -1,0 +1,199 @@
+#include "tests/controller/SettingsBench.h"
+
+#include <algorithm>
+
+namespace zelto {
+namespace {
+
+using namespace std::chrono_literals;
+using simulator::Fault;
+using test::SettingsBench;
+using test::Wishes;
+
+struct WayToFail {
+    const char* name;
+    Fault fault;
+};
+
+/// Every settings flow with every one of its transfers going wrong, one at a time.
+class SettingsFaults : public SettingsBench, public testing::WithParamInterface<WayToFail> {
+protected:
+    struct Flow {
+        std::function<void()> arrange;
+        std::function<void()> act;
+        /// What is to hold after a transfer went wrong whose failure counts.
+        std::function<void()> afterFailure;
+        /// Commands whose failure is nobody's business.
+        std::vector<std::string> unchecked;
+        /// Messages that the flow shows anyway.
+        std::size_t ownMessages = 0;
+    };
+
+    [[nodiscard]] std::vector<std::string> allCommands() const {
+        return computer.log.texts(simulator::LogLine::Kind::Command);
+    }
+
+    void run(const Flow& flow) {
+        flow.arrange();
+        computer.log.clear();
+        alerts.clear();
+        plan->restartCount();
+        flow.act();
+    }
+
+    void sweep(const Flow& flow) {
+        run(flow);
+        const auto undisturbed = allCommands();
+        ASSERT_EQ(plan->transfers(), undisturbed.size());
+        putAway();
+        for (std::size_t number = 0; number < undisturbed.size(); ++number) {
+            SCOPED_TRACE(std::to_string(number) + ": " + undisturbed[number]);
+            flow.arrange();
+            computer.log.clear();
+            alerts.clear();
+            plan->restartCount();
+            plan->failTransfer(number, GetParam().fault);
+            flow.act();
+            EXPECT_TRUE(plan->hasStruck());
+            check(flow, undisturbed, number);
+            putAway();
+        }
+    }
+
+    void check(const Flow& flow, const std::vector<std::string>& undisturbed, std::size_t number) {
+        EXPECT_LE(messages().size(), flow.ownMessages + 1);
+        if (std::ranges::find(flow.unchecked, undisturbed[number]) != flow.unchecked.end() ||
+            GetParam().fault.kind == Fault::Kind::AnswersShort) {
+            return;
+        }
+        EXPECT_EQ(messages().size(), flow.ownMessages + 1);
+        EXPECT_FALSE(computer.application.isStopped());
+        flow.afterFailure();
+        // What the drive heard is what it would have heard anyway, up to the failure; from there
+        // on it is only asked for its status.
+        const auto heard = allCommands();
+        for (std::size_t index = 0; index < heard.size(); ++index) {
+            if (index >= undisturbed.size() || heard[index] != undisturbed[index] ||
+                index > number) {
+                EXPECT_EQ(heard[index], "TKVR21_GetDeviceStatus");
+            }
+        }
+    }
+
+    void windowStaysWithOkEnabled() {
+        EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+        EXPECT_TRUE(okIsEnabled());
+        EXPECT_EQ(app->Setup.InitialSettingState, 0);
+    }
+
+    const std::vector<std::string> afterTheCommit{"TKVR21_ZELTO_WriteHintData", "TKVR21_Reconnect"};
+};
+
+TEST_P(SettingsFaults, ofFirstTimeSetupKeepTheWindowOpenForARetry) {
+    const Wishes wishes{.twoPasswords = true, .key = QStringLiteral("0A1B"), .autoClearDays = "2"};
+    sweep({.arrange =
+               [&] {
+                   begin();
+                   fill(wishes);
+               },
+           .act = [&] { commit(); },
+           .afterFailure =
+               [&] {
+                   windowStaysWithOkEnabled();
+                   EXPECT_FALSE(
+                       app->Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
+               },
+           .unchecked = afterTheCommit});
+}
+
+TEST_P(SettingsFaults, ofFirstTimeSetupCanBeRetriedWhileTheDriveIsThere) {
+    const auto kind = GetParam().fault.kind;
+    if (kind == Fault::Kind::VanishesBefore || kind == Fault::Kind::VanishesAfter) {
+        GTEST_SKIP() << "nothing to retry on";
+    }
+    for (const char* command : {"SetAreaInfos", "SetEncryptionInfo", "SetAuthInfo",
+                                "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
+        SCOPED_TRACE(command);
+        begin();
+        fill({.twoPasswords = true});
+        failCommand(command, GetParam().fault);
+        commit();
+        plan->clear();
+        if (app->Setup.InitialSettingState == 0) {
+            commit();
+        }
+        EXPECT_EQ(app->Setup.InitialSettingState, 1);
+        computer.advance(15s);
+        EXPECT_EQ(app->Setup.InitialSettingState, 4);
+        EXPECT_TRUE(app->ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+        putAway();
+    }
+}
+
+TEST_P(SettingsFaults, ofAChangeKeepTheWindowOpenWithTheEntries) {
+    sweep({.arrange =
+               [&] {
+                   beginWithSettingsOf({.twoPasswords = true});
+                   auto& form = app->PasswordChangeWindow;
+                   inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+                       type(form.PC_Current1stPasswordText, "first");
+                       type(form.PC_New1stPasswordText, "newFirst");
+                       type(form.PC_AgainNew1stPasswordText, "newFirst");
+                       type(form.PC_Current2ndPasswordText, "second");
+                       type(form.PC_New2ndPasswordText, "newSecond");
+                       type(form.PC_AgainNew2ndPasswordText, "newSecond");
+                       type(form.PC_2ndPasswordNumberOfTrials, "9");
+                       click(form.PC_OKButton);
+                   });
+               },
+           .act = [&] { commit(); },
+           .afterFailure =
+               [&] {
+                   windowStaysWithOkEnabled();
+                   EXPECT_EQ(app->Settings.PasswordSettingsParameters.strCurrent1stPassword,
+                             QStringLiteral("first"));
+               },
+           .unchecked = afterTheCommit});
+}
+
+TEST_P(SettingsFaults, ofClearingAllLeaveTheProgramRunning) {
+    sweep({.arrange = [&] { beginWithSettingsOf({}); },
+           .act =
+               [&] {
+                   alerts.answer(AlertButton::Alternate);
+                   click(app->MainSettingsWindow.MainSettingsClearAllButton);
+               },
+           .afterFailure = [&] { EXPECT_TRUE(app->MainSettingsWindow.isVisible()); },
+           // The first of the two may fail: that is what leads on to the second.
+           .unchecked = {"TKVR21_ResetAreaInfos"},
+           .ownMessages = 1});
+}
+
+TEST_P(SettingsFaults, ofErasingTheKeyLeaveTheProgramRunningUntilItLogsOut) {
+    sweep({.arrange = [&] { beginWithSettingsOf({}); },
+           .act =
+               [&] {
+                   alerts.answer(AlertButton::Alternate);
+                   click(app->MainSettingsWindow.EraseEncryptionKeyButton);
+               },
+           .afterFailure = [&] { EXPECT_TRUE(app->MainSettingsWindow.isVisible()); },
+           // Logging out belongs to the end: the program quits whatever comes of it.
+           .unchecked = {"TKVR21_GetAreaInfos", "TKVR21_Logout"},
+           .ownMessages = 1});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Every, SettingsFaults,
+    testing::Values(
+        WayToFail{"refused", {.kind = Fault::Kind::FailsBefore, .result = kIOUSBPipeStalled}},
+        WayToFail{"timedOutBefore", {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout}},
+        WayToFail{"obeyedButTimedOut",
+                  {.kind = Fault::Kind::FailsAfter, .result = kIOReturnTimeout}},
+        WayToFail{"answersNothing", {.kind = Fault::Kind::AnswersShort, .length = 0}},
+        WayToFail{"answersShort", {.kind = Fault::Kind::AnswersShort, .length = 13}},
+        WayToFail{"goneBefore", {.kind = Fault::Kind::VanishesBefore}},
+        WayToFail{"goneAfter", {.kind = Fault::Kind::VanishesAfter}}),
+    [](const auto& way) { return std::string(way.param.name); });
+
+} // namespace
+} // namespace zelto
