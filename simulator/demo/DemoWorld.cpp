@@ -1,0 +1,164 @@
+#include "simulator/demo/DemoWorld.h"
+
+#include "simulator/Person.h"
+
+#include <QApplication>
+#include <QDateTime>
+
+#include <utility>
+
+namespace zelto::simulator {
+
+namespace {
+
+constexpr std::uint64_t NewDriveSectors = 262144;
+constexpr std::chrono::milliseconds WhenIdle{20};
+
+QString stateText(SecurityState state) {
+    switch (state) {
+    case SecurityState::StateNoPassword:
+        return QStringLiteral("no password");
+    case SecurityState::StateIdle:
+        return QStringLiteral("idle");
+    case SecurityState::StateLocked:
+        return QStringLiteral("locked");
+    case SecurityState::StatePasswordPending:
+        return QStringLiteral("second password awaited");
+    case SecurityState::StateUnlocking:
+        return QStringLiteral("unlocked");
+    case SecurityState::StateFullLock:
+        return QStringLiteral("fully locked");
+    }
+    return {};
+}
+
+} // namespace
+
+DemoWorld::DemoWorld() {
+    const QDateTime now = QDateTime::currentDateTime();
+    m_computer.clock.set(std::chrono::sys_seconds(std::chrono::seconds(now.toSecsSinceEpoch())));
+    m_computer.clock.setUtcOffset(std::chrono::seconds(now.offsetFromUtc()));
+    m_computer.application.setListener([this] { settleLater(); });
+    m_computer.application.setStopListener([this] { endUtilityWhenIdle(); });
+    takePreparedDrive();
+    QObject::connect(&m_second, &QTimer::timeout, this, [this] { letASecondPass(); });
+    m_second.start(std::chrono::seconds(1));
+}
+
+DemoWorld::~DemoWorld() {
+    m_computer.application.setListener({});
+    m_computer.application.setStopListener({});
+}
+
+void DemoWorld::notify() const {
+    if (m_changed) {
+        m_changed();
+    }
+}
+
+void DemoWorld::letASecondPass() {
+    m_computer.skip(std::chrono::seconds(1));
+    notify();
+}
+
+void DemoWorld::settleLater() {
+    QTimer::singleShot(0, this, [this] { m_computer.settle(); });
+}
+
+/// The program asks for its end from inside its own operations, some of them inside a dialog; its
+/// windows may go only once all of that has returned.
+void DemoWorld::endUtilityWhenIdle() {
+    QTimer::singleShot(WhenIdle, this, [this] {
+        if (!m_utility || !m_utility->hasQuit()) {
+            return;
+        }
+        if (QApplication::activeModalWidget() != nullptr) {
+            endUtilityWhenIdle();
+            return;
+        }
+        m_utility.reset();
+        notify();
+    });
+}
+
+void DemoWorld::startUtility() {
+    m_utility.reset();
+    m_utility = std::make_unique<UtilityProcess>(m_computer, m_alerts);
+    m_utility->start();
+    notify();
+}
+
+void DemoWorld::skip(std::chrono::seconds duration) {
+    m_computer.skip(duration);
+    notify();
+}
+
+void DemoWorld::loseClock() {
+    m_drive->drive().loseClock(m_computer.clock.now());
+    notify();
+}
+
+void DemoWorld::setVolumesBusy(bool busy) {
+    m_volumesBusy = busy;
+    for (const auto& disk : m_computer.disks.all()) {
+        for (const std::string& volume : VirtualDisks::volumeNames(*disk)) {
+            m_computer.mounts.setHolders(volume, busy ? std::set<std::string>{"a text editor"}
+                                                      : std::set<std::string>{});
+        }
+    }
+}
+
+void DemoWorld::exchange(std::shared_ptr<DriveOnBus> drive) {
+    if (m_drive) {
+        m_computer.unplug(m_drive);
+    }
+    m_drive = std::move(drive);
+    m_computer.plug(m_drive);
+    notify();
+}
+
+void DemoWorld::takeNewDrive() {
+    exchange(makeDrive("ZD-DEMO-" + std::to_string(++m_drivesMade), NewDriveSectors));
+}
+
+void DemoWorld::takePreparedDrive() {
+    constexpr std::uint32_t OneWeek = 7 * 86400;
+    exchange(makePreparedDrive({.serial = "ZD-DEMO-" + std::to_string(++m_drivesMade),
+                                .firstPassword = FirstPassword,
+                                .secondPassword = SecondPassword,
+                                .autoClearSeconds = OneWeek,
+                                .showsRemainingTime = true},
+                               m_computer.clock.now()));
+}
+
+void DemoWorld::typePassword(const char* password) {
+    if (m_utility && m_utility->delegate().AuthenticateWindow.isVisible()) {
+        Person([](const std::string&) {
+        }).type("AuthenticateTextField", QString::fromLatin1(password));
+    }
+}
+
+QString DemoWorld::describe() {
+    setVolumesBusy(m_volumesBusy);
+    const auto now = m_computer.clock.now();
+    QString text = QStringLiteral("Drive %1: %2")
+                       .arg(QString::fromStdString(m_drive->description().serial),
+                            isPlugged() ? stateText(m_drive->drive().state(now))
+                                        : QStringLiteral("not plugged in"));
+    QStringList volumes;
+    for (const auto& mounted : m_computer.mounts.getmntinfo()) {
+        if (mounted.f_mntonname != "/") {
+            volumes << QString::fromStdString(mounted.f_mntonname);
+        }
+    }
+    text +=
+        QStringLiteral("\nVolumes: %1")
+            .arg(volumes.isEmpty() ? QStringLiteral("none") : volumes.join(QStringLiteral(", ")));
+    const QDateTime moment =
+        QDateTime::fromSecsSinceEpoch(now.time_since_epoch().count(), Qt::OffsetFromUTC,
+                                      static_cast<int>(m_computer.clock.utcOffset(now).count()));
+    return text +
+           QStringLiteral("\nTime: %1").arg(moment.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")));
+}
+
+} // namespace zelto::simulator

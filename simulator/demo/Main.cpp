@@ -1,0 +1,124 @@
+#include "simulator/demo/DemoPanel.h"
+#include "simulator/demo/Stories.h"
+#include "simulator/demo/Story.h"
+#include "ui/Resources.h"
+#include "ui/Strings.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+namespace {
+
+constexpr const char* Help =
+    R"(zelto-demo: the utility on a virtual computer with virtual drives.
+
+  zelto-demo                         the windows, and a panel to plug, unplug and wait with
+  zelto-demo --story                 stories that play by themselves, without a display
+  zelto-demo --story --pictures DIR  the same, with a picture of each window left in DIR
+  zelto-demo --help                  this text
+
+Without a display the stories play. The exit code is 1 when a check of a story fails, and 2 when
+the command line is not understood.
+)";
+
+struct CommandLine {
+    bool story = false;
+    bool help = false;
+    std::filesystem::path pictures;
+};
+
+/// Nothing when it is not understood.
+std::optional<CommandLine> parse(int argc, char** argv) {
+    CommandLine line;
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == "--help" || argument == "-h") {
+            line.help = true;
+        } else if (argument == "--story") {
+            line.story = true;
+        } else if (argument == "--pictures" && i + 1 < argc) {
+            line.pictures = argv[++i];
+        } else {
+            return std::nullopt;
+        }
+    }
+    return line;
+}
+
+bool hasDisplay() {
+    const auto isSet = [](const char* name) {
+        const char* const value = std::getenv(name);
+        return value != nullptr && *value != '\0';
+    };
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+}
+
+/// The offscreen platform remarks on every window that it cannot raise; the rest is printed.
+void printRemark(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith(QLatin1String("This plugin does not support"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
+}
+
+int playStories(int argc, char** argv, const std::filesystem::path& pictures) {
+    if (!pictures.empty()) {
+        std::error_code error;
+        std::filesystem::create_directories(pictures, error);
+        if (error) {
+            std::fprintf(stderr, "zelto-demo: %s: %s\n", pictures.c_str(), error.message().c_str());
+            return EXIT_FAILURE;
+        }
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(printRemark);
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    zelto::initResources();
+    zelto::installStrings();
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    bool failed = false;
+    const auto tell = [&](const char* name, void (*play)(zelto::simulator::Story&)) {
+        zelto::simulator::Story story(name, pictures);
+        play(story);
+        failed = failed || story.hasFailed();
+    };
+    tell("log-in", zelto::simulator::playLogInStory);
+    tell("set-up", zelto::simulator::playSetUpStory);
+    std::printf("\n%s\n", failed ? "The story has failed." : "Everything went as told.");
+    return failed ? EXIT_FAILURE : EXIT_SUCCESS;
+}
+
+int showWindows(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    // The utility's windows come and go; the demo ends with its own panel.
+    QApplication::setQuitOnLastWindowClosed(false);
+    zelto::initResources();
+    zelto::installStrings();
+    zelto::simulator::DemoWorld world;
+    zelto::simulator::DemoPanel panel(world);
+    panel.show();
+    QTimer::singleShot(0, &world, [&world] { world.startUtility(); });
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::optional<CommandLine> line = parse(argc, argv);
+    if (!line) {
+        std::fputs(Help, stderr);
+        return 2;
+    }
+    if (line->help) {
+        std::fputs(Help, stdout);
+        return EXIT_SUCCESS;
+    }
+    return line->story || !hasDisplay() ? playStories(argc, argv, line->pictures)
+                                        : showWindows(argc, argv);
+}
