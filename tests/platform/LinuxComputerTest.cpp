@@ -1,0 +1,172 @@
+#include "platform/linux/LinuxComputer.h"
+#include "platform/linux/DetachedStart.h"
+#include "tests/platform/TemporaryFolder.h"
+
+#include <QEventLoop>
+#include <QFileSystemWatcher>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace zelto::linux_platform {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+namespace fs = std::filesystem;
+
+class ComputerTest : public ::testing::Test {
+protected:
+    ComputerTest() {
+        if (const char* home = std::getenv("HOME")) {
+            m_home = home;
+        }
+    }
+    ~ComputerTest() override { ::setenv("HOME", m_home.c_str(), 1); }
+
+    Waiting waiting;
+    LinuxComputer computer{waiting};
+    tests::TemporaryFolder folder;
+
+private:
+    std::string m_home = "/";
+};
+
+TEST_F(ComputerTest, KnowsTheFolderOfAProgramThatLiesInNoBundle) {
+    EXPECT_EQ(computer.bundlePath(), fs::read_symlink("/proc/self/exe").parent_path());
+}
+
+TEST_F(ComputerTest, KnowsItsBundleAlsoWhenTheLoaderWasStartedInItsPlace) {
+    // What the kernel shows for a program that was handed to the dynamic loader.
+    folder.link("self/exe", "/lib64/ld-linux-x86-64.so.2");
+    folder.write("self/maps", "0-ffffffffffffffff r-xp 00000000 08:11 7    "
+                              "/media/ä/ZELTO TOOL/ZeltoAppMac.app/zelto\n");
+    EXPECT_EQ(LinuxComputer(waiting, folder.path()).bundlePath(),
+              "/media/ä/ZELTO TOOL/ZeltoAppMac.app");
+}
+
+TEST_F(ComputerTest, FallsBackOnTheProgramsLinkWithoutMappings) {
+    folder.link("self/exe", "/media/a/ZELTO TOOL/ZeltoAppMac.app/zelto (deleted)");
+    EXPECT_EQ(LinuxComputer(waiting, folder.path()).bundlePath(),
+              "/media/a/ZELTO TOOL/ZeltoAppMac.app");
+}
+
+TEST_F(ComputerTest, ListsRunningApplicationsByBundleOrProgram) {
+    folder.link("7/exe", "/home/a/Applications/ZeltoAppMac.app/zelto");
+    folder.link("12/exe", "/usr/bin/bash");
+    folder.link("13/exe", "/home/a/Applications/Old.app/zelto (deleted)");
+    folder.makeFolder("14");
+    folder.link("self/exe", "/usr/bin/bash");
+    EXPECT_THAT(LinuxComputer(waiting, folder.path()).launchedApplications(),
+                ElementsAre("/home/a/Applications/ZeltoAppMac.app", "/usr/bin/bash",
+                            "/home/a/Applications/Old.app"));
+}
+
+TEST_F(ComputerTest, RunsItself) {
+    EXPECT_THAT(computer.launchedApplications(), Contains(fs::read_symlink("/proc/self/exe")));
+}
+
+TEST_F(ComputerTest, InstallsIntoTheHomeFolderWithItsLinksResolved) {
+    folder.makeFolder("real home");
+    folder.link("home", (folder / "real home").string());
+    ::setenv("HOME", (folder / "home").c_str(), 1);
+    EXPECT_EQ(computer.applicationsFolder(), fs::canonical(folder / "real home") / "Applications");
+}
+
+TEST_F(ComputerTest, TakesTheHomeFolderOfThePasswordDatabaseWhenNoneIsSet) {
+    const auto* entry = ::getpwuid(::getuid());
+    if (entry == nullptr) {
+        GTEST_SKIP() << "this user is not in the password database";
+    }
+    const auto expected = fs::weakly_canonical(fs::path(entry->pw_dir) / "Applications");
+    ::unsetenv("HOME");
+    EXPECT_EQ(computer.applicationsFolder(), expected);
+    ::setenv("HOME", "not absolute", 1);
+    EXPECT_EQ(computer.applicationsFolder(), expected);
+}
+
+TEST_F(ComputerTest, CopiesAndRemovesWhileTheEventLoopRuns) {
+    folder.write("bundle/file", "data");
+    bool loopRan = false;
+    QTimer::singleShot(0, [&] { loopRan = true; });
+    EXPECT_TRUE(computer.copyItemAtPath(folder / "bundle", folder / "copy"));
+    EXPECT_TRUE(loopRan);
+    EXPECT_EQ(folder.read("copy/file"), "data");
+    EXPECT_EQ(computer.fileModificationDate(folder / "bundle"),
+              computer.fileModificationDate(folder / "copy"));
+    EXPECT_TRUE(computer.removeItemAtPath(folder / "copy"));
+    EXPECT_FALSE(computer.fileExistsAtPath(folder / "copy"));
+    EXPECT_FALSE(computer.removeItemAtPath(folder / "copy"));
+}
+
+TEST_F(ComputerTest, TellsWhatExistsAndWhatCanBeWritten) {
+    folder.write("file", "");
+    EXPECT_TRUE(computer.fileExistsAtPath(folder / "file"));
+    EXPECT_TRUE(computer.isWritableFileAtPath(folder / "file"));
+    EXPECT_FALSE(computer.fileExistsAtPath(folder / "nothing"));
+    EXPECT_FALSE(computer.isWritableFileAtPath(folder / "nothing"));
+    EXPECT_EQ(computer.fileModificationDate(folder / "nothing"), std::nullopt);
+}
+
+TEST_F(ComputerTest, UnlocksForTheOneFlagThatItKnows) {
+    folder.write("file", "");
+    fs::permissions(folder / "file", fs::perms(0444));
+    EXPECT_EQ(computer.chflags("uchg", folder / "file"), 1);
+    EXPECT_EQ(computer.chflags("nouchg", folder / "file"), 0);
+    EXPECT_EQ(computer.chflags("nouchg", folder / "nothing"), 1);
+    EXPECT_NE(fs::status(folder / "file").permissions() & fs::perms::owner_write, fs::perms::none);
+}
+
+TEST_F(ComputerTest, SaysWhenTheBundleCannotBeStarted) {
+    EXPECT_EQ(computer.open(folder / "Nothing.app"), 1);
+    folder.write("Broken.app/platform_tests", "no program");
+    EXPECT_EQ(computer.open(folder / "Broken.app"), 1);
+}
+
+/// Waits, on the event loop, until a file has come into a folder by renaming.
+void waitForFile(const fs::path& file) {
+    QFileSystemWatcher watcher({QString::fromStdString(file.parent_path().string())});
+    QEventLoop loop;
+    QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &loop, [&] {
+        if (fs::exists(file)) {
+            loop.quit();
+        }
+    });
+    QTimer::singleShot(std::chrono::seconds(60), &loop, &QEventLoop::quit);
+    if (!fs::exists(file)) {
+        loop.exec();
+    }
+}
+
+TEST_F(ComputerTest, StartsTheProgramFreeOfEverythingThatWouldKeepAVolumeBusy) {
+    const auto report = (folder / "report").string();
+    folder.write("volume/Zelto Ü.app/platform_tests",
+                 "#!/bin/sh\n"
+                 "{ pwd; ls -l /proc/$$/fd | grep -c volume; echo \"[$LD_LIBRARY_PATH]\"; "
+                 "echo \"$0\"; } > '" +
+                     report + ".part' 2>&1\nmv '" + report + ".part' '" + report + "'\n");
+    const auto bundle = folder / "volume/Zelto Ü.app";
+    fs::permissions(bundle / "platform_tests", fs::perms(0755));
+    folder.write("volume/open file", "");
+    // Deliberately without O_CLOEXEC: it would be inherited.
+    const int leaked = ::open((folder / "volume/open file").c_str(), O_RDONLY);
+    ASSERT_GE(leaked, 0);
+    ::setenv("LD_LIBRARY_PATH", (folder / "volume").c_str(), 1);
+
+    EXPECT_EQ(computer.open(bundle), 0);
+    waitForFile(report);
+
+    ::unsetenv("LD_LIBRARY_PATH");
+    ::close(leaked);
+    // One descriptor does lead there: the script that the shell is reading.
+    EXPECT_EQ(folder.read("report"), "/\n1\n[]\n" + (bundle / "platform_tests").string() + "\n");
+}
+
+} // namespace
+} // namespace zelto::linux_platform

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "tests/platform/TemporaryFolder.h"
+
+#include <string>
+
+namespace zelto::tests {
+
+/// A sysfs that the tests write themselves, laid out as the kernel lays out its own.
+class SysfsTree {
+public:
+    [[nodiscard]] const std::filesystem::path& path() const { return m_folder.path(); }
+    [[nodiscard]] const TemporaryFolder& folder() const { return m_folder; }
+
+    /// A device's folder below "devices", with the link to its subsystem.
+    void addDevice(const std::string& place, const std::string& subsystem) const {
+        m_folder.write("devices/" + place + "/uevent", "");
+        m_folder.link("devices/" + place + "/subsystem", "/nowhere/" + subsystem);
+    }
+    void set(const std::string& place, const std::string& attribute,
+             const std::string& value) const {
+        m_folder.write("devices/" + place + "/" + attribute, value + "\n");
+    }
+
+    void addUsbDevice(const std::string& place, unsigned bus, unsigned number,
+                      const std::string& vendor, const std::string& product,
+                      const std::string& serial) const {
+        addDevice(place, "usb");
+        set(place, "busnum", std::to_string(bus));
+        set(place, "devnum", std::to_string(number));
+        set(place, "idVendor", vendor);
+        set(place, "idProduct", product);
+        if (!serial.empty()) {
+            set(place, "serial", serial);
+        }
+        m_folder.link("bus/usb/devices/" + std::filesystem::path(place).filename().string(),
+                      (m_folder.path() / "devices" / place).string());
+    }
+
+    /// The storage unit `lun` of a USB device, with its disk. Returns the disk's place.
+    std::string addDisk(const std::string& usbPlace, unsigned lun, const std::string& name,
+                        const std::string& model, unsigned long sectors) const {
+        const auto interface =
+            usbPlace + "/" + std::filesystem::path(usbPlace).filename().string() + ":1.0";
+        const auto unit = interface + "/host0/target0:0:0/0:0:0:" + std::to_string(lun);
+        for (const auto& [place, subsystem] : {std::pair{interface, "usb"},
+                                               {interface + "/host0", "scsi"},
+                                               {interface + "/host0/target0:0:0", "scsi"},
+                                               {unit, "scsi"}}) {
+            if (!std::filesystem::exists(m_folder / ("devices/" + place + "/uevent"))) {
+                addDevice(place, subsystem);
+            }
+        }
+        set(unit, "vendor", "KESTRIN ");
+        set(unit, "model", model);
+        const auto disk = unit + "/block/" + name;
+        addDevice(disk, "block");
+        m_folder.link("devices/" + disk + "/device", "../../../0:0:0:" + std::to_string(lun));
+        set(disk, "size", std::to_string(sectors));
+        set(disk, "dev", "8:16");
+        return disk;
+    }
+
+    void addPartition(const std::string& disk, const std::string& name, unsigned number) const {
+        addDevice(disk + "/" + name, "block");
+        set(disk + "/" + name, "partition", std::to_string(number));
+        set(disk + "/" + name, "dev", "8:17");
+        set(disk + "/" + name, "size", "100");
+    }
+
+private:
+    TemporaryFolder m_folder;
+};
+
+} // namespace zelto::tests
