@@ -35,10 +35,3 @@ private:
 };
 
 } // namespace zelto::linux_platform
-
-namespace zelto {
-
-/// The only name that `main` needs from here.
-using linux_platform::LinuxPlatform;
-
-} // namespace zelto

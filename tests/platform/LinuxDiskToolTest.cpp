@@ -1,0 +1,303 @@
+#include "platform/linux/LinuxDiskTool.h"
+#include "platform/linux/LinuxMountTable.h"
+#include "tests/platform/FakeUDisks.h"
+
+#include <QDBusArgument>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zelto::linux_platform {
+namespace {
+
+using ::testing::ElementsAre;
+using tests::FakeUDisks;
+
+constexpr auto Disk = FakeUDisks::DiskPath;
+constexpr auto Partition = FakeUDisks::PartitionPath;
+
+class DiskToolTest : public ::testing::Test {
+protected:
+    [[nodiscard]] std::vector<std::string> calls() const {
+        std::vector<std::string> names;
+        for (const auto& call : udisks.calls()) {
+            names.push_back(call.toStdString());
+        }
+        return names;
+    }
+    [[nodiscard]] int run(std::vector<std::string> arguments) { return tool.run(arguments); }
+    [[nodiscard]] int erase() { return run({"eraseDisk", "MS-DOS", "ZELTO TOOL", "MBR", "sdb"}); }
+
+    /// A tool that does not wait for properties that never come.
+    [[nodiscard]] LinuxDiskTool impatientTool() {
+        return {[this] { return client; }, waiting, mounts, "/proc", std::chrono::milliseconds(0)};
+    }
+
+    tests::PrivateBus bus;
+    QDBusConnection client = bus.connection("client");
+    FakeUDisks udisks{bus.connection("service")};
+    Waiting waiting;
+    LinuxMountTable mounts;
+    LinuxDiskTool tool{[this] { return client; }, waiting, mounts};
+};
+
+TEST_F(DiskToolTest, UnmountsOneVolumeWithoutForce) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.script("Unmount", [&](const QDBusMessage& call) {
+        EXPECT_TRUE(qdbus_cast<QVariantMap>(call.arguments().at(0)).isEmpty());
+        return udisks.obey(call);
+    });
+    EXPECT_EQ(run({"umount", "sdb1"}), 0);
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount"));
+}
+
+TEST_F(DiskToolTest, UnmountsAVolumeThatIsMountedInSeveralPlaces) {
+    udisks.addPartition({"/media/a/X", "/mnt", "/srv"});
+    EXPECT_EQ(run({"umount", "sdb1"}), 0);
+    EXPECT_THAT(udisks.mountPoints(Partition), ::testing::IsEmpty());
+    EXPECT_EQ(calls().size(), 3U);
+}
+
+TEST_F(DiskToolTest, IsDoneWithAVolumeThatIsNotMounted) {
+    udisks.addPartition();
+    EXPECT_EQ(run({"umount", "sdb1"}), 0);
+    EXPECT_TRUE(calls().empty());
+}
+
+TEST_F(DiskToolTest, IsDoneWhenSomebodyElseUnmountedFirst) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.script("Unmount", [&](const QDBusMessage& call) {
+        udisks.setMountPoints(Partition, {});
+        return udisks.obey(call);
+    });
+    EXPECT_EQ(run({"umount", "sdb1"}), 0);
+}
+
+TEST_F(DiskToolTest, WaitsForPropertiesThatComeLate) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.script("Unmount", [&](const QDBusMessage& call) {
+        udisks.afterReads(1, [&] { udisks.setMountPoints(Partition, {}); });
+        return call.createReply();
+    });
+    EXPECT_EQ(run({"umount", "sdb1"}), 0);
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount"));
+}
+
+TEST_F(DiskToolTest, BelievesNotMountedAlsoWhileThePropertyIsStale) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.refuse("Unmount", "NotMounted");
+    EXPECT_EQ(impatientTool().run({"umount", "sdb1"}), 0);
+}
+
+TEST_F(DiskToolTest, FailsOnABusyVolumeAndTriesOnce) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.refuse("Unmount", "DeviceBusy");
+    EXPECT_EQ(run({"umount", "sdb1"}), 1);
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount"));
+}
+
+TEST_F(DiskToolTest, FailsWhenTheUserMayNotOrWillNot) {
+    for (const auto* error :
+         {"NotAuthorized", "NotAuthorizedCanObtain", "NotAuthorizedDismissed"}) {
+        udisks.addPartition({"/media/a/X"});
+        udisks.refuse("Unmount", error);
+        EXPECT_EQ(run({"umount", "sdb1"}), 1) << error;
+    }
+}
+
+TEST_F(DiskToolTest, FailsWhenTheServiceOnlySaysThatItUnmounts) {
+    udisks.addPartition({"/media/a/X"});
+    for (int tries = 0; tries < 2; ++tries) {
+        udisks.script("Unmount", [](const QDBusMessage& call) { return call.createReply(); });
+    }
+    EXPECT_EQ(impatientTool().run({"umount", "sdb1"}), 1);
+}
+
+TEST_F(DiskToolTest, FailsWithoutTheServiceOrTheDevice) {
+    EXPECT_EQ(run({"umount", "sdz1"}), 1);
+    EXPECT_EQ(run({"eject", "sdz"}), 1);
+    EXPECT_EQ(run({"eraseDisk", "MS-DOS", "X", "MBR", "sdz"}), 1);
+    udisks.vanish();
+    EXPECT_EQ(run({"umount", "sdb1"}), 1);
+    EXPECT_EQ(run({"eject", "sdb"}), 1);
+    EXPECT_EQ(erase(), 1);
+}
+
+TEST_F(DiskToolTest, FailsWithoutABus) {
+    LinuxDiskTool lost([] { return QDBusConnection("none"); }, waiting, mounts);
+    EXPECT_EQ(lost.run({"umount", "sdb1"}), 1);
+}
+
+TEST_F(DiskToolTest, FailsWhenTheServiceVanishesInTheMiddleOfACall) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.script("Unmount", [&](const QDBusMessage&) -> std::optional<QDBusMessage> {
+        bus.breakDown();
+        return std::nullopt;
+    });
+    EXPECT_EQ(run({"umount", "sdb1"}), 1);
+}
+
+TEST_F(DiskToolTest, RefusesArgumentsThatAreNotItsOwn) {
+    EXPECT_EQ(run({}), 64);
+    EXPECT_EQ(run({"umount"}), 64);
+    EXPECT_EQ(run({"umount", "-f", "sdb1"}), 64);
+    EXPECT_EQ(run({"eraseDisk", "APFS", "X", "MBR", "sdb"}), 64);
+    EXPECT_EQ(run({"eraseDisk", "MS-DOS", "X", "GPT", "sdb"}), 64);
+    EXPECT_EQ(run({"eraseDisk", "MS-DOS", "LONGER THAN FAT", "MBR", "sdb"}), 64);
+    EXPECT_TRUE(calls().empty());
+}
+
+TEST_F(DiskToolTest, EjectsAfterUnmountingTheWholeDiskAndNeverTurnsThePowerOff) {
+    udisks.addPartition({"/media/a/X"});
+    EXPECT_EQ(run({"eject", "sdb1"}), 0);
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount", "ZELTO.Eject"));
+}
+
+TEST_F(DiskToolTest, DoesNotEjectADiskThatIsBusy) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.refuse("Unmount", "DeviceBusy");
+    EXPECT_EQ(run({"eject", "sdb1"}), 1);
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount"));
+}
+
+TEST_F(DiskToolTest, UnmountsAgainWhatTheDesktopMountsBeforeTheEjection) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.script("Eject", [&](const QDBusMessage& call) {
+        udisks.setMountPoints(Partition, {"/media/a/X"});
+        return udisks.obey(call);
+    });
+    EXPECT_EQ(run({"eject", "sdb"}), 0);
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount", "ZELTO.Eject", "sdb1.Unmount", "ZELTO.Eject"));
+}
+
+TEST_F(DiskToolTest, CountsAnEjectionAsDoneWhenTheMediumIsGoneAllTheSame) {
+    udisks.script("Eject", [&](const QDBusMessage& call) {
+        udisks.set(FakeUDisks::DrivePath, "Drive", "MediaAvailable", false);
+        return call.createErrorReply("org.freedesktop.UDisks2.Error.Failed", "no medium found");
+    });
+    EXPECT_EQ(run({"eject", "sdb"}), 0);
+}
+
+TEST_F(DiskToolTest, ErasesADiskAndLeavesItsNewVolumeMounted) {
+    udisks.addPartition({"/media/a/OLD"});
+    EXPECT_EQ(erase(), 0);
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount", "sdb.Format", "sdb.CreatePartition",
+                                     "sdb1.Format", "sdb1.Mount"));
+    EXPECT_EQ(udisks.get(Partition, "Block", "IdLabel"), "ZELTO TOOL");
+    EXPECT_EQ(udisks.mountPoints(Partition).size(), 1);
+}
+
+TEST_F(DiskToolTest, PartitionsFromTheFirstMebibyteOn) {
+    udisks.script("CreatePartition", [&](const QDBusMessage& call) {
+        EXPECT_EQ(call.arguments().at(0).toULongLong(), 1'048'576U);
+        EXPECT_EQ(call.arguments().at(1).toULongLong(), 19U * 1'048'576U);
+        EXPECT_EQ(call.arguments().at(2).toString(), "0x0e");
+        return udisks.obey(call);
+    });
+    EXPECT_EQ(erase(), 0);
+}
+
+TEST_F(DiskToolTest, UnmountsTheOldVolumeThatTheDesktopMountsInBetween) {
+    udisks.script("CreatePartition", [&](const QDBusMessage& call) {
+        auto reply = udisks.obey(call);
+        udisks.setMountPoints(Partition, {"/media/a/OLD"});
+        return reply;
+    });
+    udisks.script("Format", [&](const QDBusMessage& call) { return udisks.obey(call); });
+    udisks.script("Format", [&](const QDBusMessage& call) {
+        udisks.setMountPoints(Partition, {"/media/a/OLD"});
+        return udisks.obey(call);
+    });
+    EXPECT_EQ(erase(), 0);
+    EXPECT_THAT(calls(), ElementsAre("sdb.Format", "sdb.CreatePartition", "sdb1.Unmount",
+                                     "sdb1.Format", "sdb1.Unmount", "sdb1.Format", "sdb1.Mount"));
+}
+
+TEST_F(DiskToolTest, GivesUpAgainstADesktopThatMountsForEver) {
+    udisks.addPartition({"/media/a/OLD"});
+    for (int tries = 0; tries < 5; ++tries) {
+        udisks.script("Format", [&](const QDBusMessage& call) {
+            udisks.setMountPoints(Partition, {"/media/a/OLD"});
+            return udisks.obey(call);
+        });
+    }
+    EXPECT_EQ(erase(), 1);
+}
+
+TEST_F(DiskToolTest, ReadsTheStateAgainWhenAStepTimedOutButWasDone) {
+    const auto doneButTimedOut = [&](const QDBusMessage& call) {
+        udisks.obey(call);
+        return call.createErrorReply("org.freedesktop.UDisks2.Error.Failed",
+                                     "Timed out waiting for object");
+    };
+    udisks.addPartition({"/media/a/OLD"});
+    for (const auto* method : {"Unmount", "Format", "CreatePartition", "Format", "Mount"}) {
+        udisks.script(method, doneButTimedOut);
+    }
+    EXPECT_EQ(erase(), 0);
+    EXPECT_EQ(udisks.get(Partition, "Block", "IdLabel"), "ZELTO TOOL");
+}
+
+TEST_F(DiskToolTest, IsNotFooledByTheOldVolumeOfTheSameName) {
+    udisks.script("CreatePartition", [&](const QDBusMessage& call) {
+        udisks.addPartition({}, "ZELTO TOOL", "AAAA-0001");
+        return call.createReply(QVariant::fromValue(QDBusObjectPath(Partition)));
+    });
+    udisks.script("Format", [&](const QDBusMessage& call) { return udisks.obey(call); });
+    udisks.refuse("Format", "Failed", "mkfs.vfat is not installed");
+    EXPECT_EQ(erase(), 1);
+    EXPECT_THAT(udisks.mountPoints(Partition), ::testing::IsEmpty());
+}
+
+TEST_F(DiskToolTest, IsContentWithAVolumeThatTheDesktopMountedFirst) {
+    udisks.script("Mount", [&](const QDBusMessage& call) {
+        udisks.setMountPoints(Partition, {"/media/a/ZELTO TOOL"});
+        return udisks.obey(call);
+    });
+    EXPECT_EQ(erase(), 0);
+}
+
+TEST_F(DiskToolTest, StopsErasingAtTheFirstRefusal) {
+    for (const auto* method : {"Format", "CreatePartition", "Mount"}) {
+        udisks.refuse(method, "NotAuthorizedDismissed");
+        EXPECT_EQ(erase(), 1) << method;
+    }
+}
+
+TEST_F(DiskToolTest, ReadsPropertiesOfTheWrongTypeAsEmpty) {
+    udisks.addPartition();
+    udisks.set(Partition, "Filesystem", "MountPoints", 7);
+    udisks.set(Partition, "Partition", "Table", QString("no path"));
+    udisks.set(Disk, "Block", "Size", QStringList{"x"});
+    EXPECT_EQ(run({"umount", "sdb1"}), 0);
+    EXPECT_EQ(erase(), 1);
+}
+
+TEST_F(DiskToolTest, ShowsThatWorkIsUnderWayOncePerRun) {
+    int shown = 0;
+    const Waiting showing([&] {
+        ++shown;
+        return std::make_shared<int>();
+    });
+    LinuxDiskTool shower([this] { return client; }, showing, mounts);
+    udisks.addPartition({"/media/a/OLD"});
+    EXPECT_EQ(shower.run({"eraseDisk", "MS-DOS", "ZELTO TOOL", "MBR", "sdb"}), 0);
+    EXPECT_EQ(shown, 1);
+}
+
+TEST_F(DiskToolTest, NamesPartitionsAsTheKernelDoes) {
+    EXPECT_EQ(tool.partitionName("sdb", 1), "sdb1");
+    EXPECT_EQ(tool.partitionName("nvme0n1", 2), "nvme0n1p2");
+    EXPECT_EQ(tool.partitionName("mmcblk0", 10), "mmcblk0p10");
+}
+
+TEST(FatPartitionPlan, FitsTheDisk) {
+    EXPECT_TRUE(planFatPartition(0).type.isEmpty());
+    EXPECT_TRUE(planFatPartition(2'097'151).type.isEmpty());
+    EXPECT_EQ(planFatPartition(2'097'152).size, 1'048'576U);
+    EXPECT_EQ(planFatPartition(512ULL << 20U).type, "0x0e");
+    EXPECT_EQ(planFatPartition(513ULL << 20U).type, "0x0c");
+}
+
+} // namespace
+} // namespace zelto::linux_platform
