@@ -179,7 +179,7 @@ bool FatTable::append(std::uint32_t last, std::uint32_t first) {
     return set(last, first) && flush();
 }
 
-void FatTable::free(const std::vector<std::uint32_t>& clusters) {
+void FatTable::release(const std::vector<std::uint32_t>& clusters) {
     const std::uint32_t before = freeClusters();
     std::uint32_t freed = 0;
     for (const std::uint32_t cluster : clusters) {

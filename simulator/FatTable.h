@@ -20,7 +20,7 @@ public:
     [[nodiscard]] std::optional<std::vector<std::uint32_t>> allocate(std::size_t count);
     /// Hangs a chain behind the end of another.
     [[nodiscard]] bool append(std::uint32_t last, std::uint32_t first);
-    void free(const std::vector<std::uint32_t>& clusters);
+    void release(const std::vector<std::uint32_t>& clusters);
     [[nodiscard]] std::uint32_t freeClusters();
     /// Notes the number of free clusters where FAT32 keeps it.
     [[nodiscard]] bool writeInfo();

@@ -164,7 +164,7 @@ bool FatVolume::addTo(FolderId parent, const FatItem& added,
     }
     if (!writeClusters(*clusters, bytes) || !FatFolder::add(*listing, entry) ||
         !writeFolder(parent, std::move(*listing))) {
-        m_table.free(*clusters);
+        m_table.release(*clusters);
         return false;
     }
     return m_table.writeInfo();
@@ -219,7 +219,7 @@ bool FatVolume::removeFrom(FolderId parent, const FatItem& removed, unsigned dep
     if (!writeFolder(parent, std::move(*listing))) {
         return false;
     }
-    m_table.free(m_table.chain(removed.firstCluster));
+    m_table.release(m_table.chain(removed.firstCluster));
     return m_table.writeInfo();
 }
 
