@@ -89,6 +89,16 @@ TEST(SteadyLabelTest, TheSetUpWindowDoesNotMoveWhileItsTextBlinks) {
     EXPECT_EQ(form.ZeltoSettingText->geometry(), label);
 }
 
+TEST(SteadyLabelTest, KeepsTheRoomOfItsLargestTextAndOfOneLineAtLeast) {
+    SteadyLabel label;
+    EXPECT_GE(label.sizeHint().height(), label.fontMetrics().height());
+    label.setText(QStringLiteral("a text that comes and goes"));
+    const QSize filled = label.sizeHint();
+    label.setText(QString());
+    EXPECT_EQ(label.sizeHint(), filled);
+    EXPECT_EQ(label.minimumSizeHint(), filled);
+}
+
 TEST(NumberFieldTest, IsAsWideAsItsDigitsAndRefusesNothing) {
     NumberField narrow;
     NumberField wide;
