@@ -188,7 +188,10 @@ int VirtualFiles::chflags(const std::string& flag, const std::filesystem::path& 
 
 void VirtualFiles::installBundle(const std::filesystem::path& bundle, FileTime modified) {
     const Place at = place(bundle);
-    makeParents({at.store, at.path / "any"});
+    makeParents(at);
+    if (!at.store->info(at.path)) {
+        static_cast<void>(at.store->makeFolder(at.path, modified));
+    }
     for (const auto& [name, bytes] : bundleFiles()) {
         const Place file{at.store, at.path / name};
         makeParents(file);

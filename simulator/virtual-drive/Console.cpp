@@ -177,8 +177,7 @@ bool Console::listen(const std::filesystem::path& path, std::string& error) {
         error = "another program serves this socket";
         return false;
     }
-    std::error_code ignored;
-    if (errno == ECONNREFUSED && std::filesystem::is_socket(path, ignored)) {
+    if (errno == ECONNREFUSED) {
         ::unlink(path.c_str()); // left behind by a program that was killed
     }
     FileDescriptor listener(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "tests/support/ControllerBench.h"
+#include "tests/support/ForgedReplies.h"
+#include "ui/Strings.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zelto {
+
+/// What the tests of the session share: a bench, and drives that lie.
+class SessionTest : public testing::Test {
+protected:
+    static constexpr std::uint8_t StatusRequestCode = 0xC0;
+    static constexpr std::uint8_t TimeRequestCode = 0xBA;
+    static constexpr std::uint8_t AreasRequestCode = 0xC2;
+    static constexpr std::uint8_t AuthenticateCode = 0xB3;
+    static constexpr std::uint8_t LogoutCode = 0xB4;
+    static constexpr std::uint8_t HintReadCode = 0xB6;
+    static constexpr std::uint8_t SetClockCode = 0xBB;
+
+    SessionTest() {
+        m_bench.computer.usb.setHandleWrapper(
+            [forgeries = m_forgeries](std::unique_ptr<UsbDeviceInterface> handle) {
+                return std::make_unique<ForgedReplies>(std::move(handle), forgeries);
+            });
+    }
+
+    /// From now on the drives' answers to this request are changed on the way.
+    void forge(std::uint8_t requestCode, ForgedReplies::Forgery forgery) {
+        (*m_forgeries)[requestCode] = std::move(forgery);
+    }
+    void forgeSecurityByte(std::uint8_t security) {
+        forge(StatusRequestCode, [security](std::span<std::uint8_t> data, IOReturn& result) {
+            data[33] = security;
+            result = kIOReturnSuccess;
+        });
+    }
+    void forgeResult(std::uint8_t requestCode, IOReturn forged) {
+        forge(requestCode,
+              [forged](std::span<std::uint8_t>, IOReturn& result) { result = forged; });
+    }
+
+    void logInWith(const QString& password) {
+        m_bench.type("AuthenticateTextField", password);
+        m_bench.press("AuthenticateSubmit");
+    }
+
+    /// The texts of the alerts so far.
+    [[nodiscard]] std::vector<QString> alerts() const { return m_bench.alertTexts(); }
+
+    std::shared_ptr<ForgedReplies::Forgeries> m_forgeries =
+        std::make_shared<ForgedReplies::Forgeries>();
+    ControllerBench m_bench;
+};
+
+} // namespace zelto

@@ -1,0 +1,244 @@
+#include "digest/SHA256.h"
+#include "tests/controller/SessionBench.h"
+
+namespace zelto {
+namespace {
+
+using simulator::LogLine;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+class SessionLogInTest : public SessionTest {
+protected:
+    void begin(const simulator::DriveSetup& setup = {}) {
+        m_drive = m_bench.plugPreparedDrive(setup);
+        m_bench.start();
+        ASSERT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+    }
+    [[nodiscard]] std::vector<std::uint8_t> lastPayload() const {
+        return m_bench.computer.log.latest("TKVR21_Authenticate")->data;
+    }
+
+    ControllerBench::Drive m_drive;
+};
+
+TEST_F(SessionLogInTest, OpensEmptyWithSubmitOff) {
+    begin();
+    EXPECT_EQ(m_bench.text("AuthenticateTextField"), QString());
+    EXPECT_FALSE(m_bench.isEnabled("AuthenticateSubmit"));
+    EXPECT_EQ(m_bench.text("AuthenticateMessage"), localized("IDS_ENTER_1ST_PASSWORD"));
+}
+
+TEST_F(SessionLogInTest, AcceptsOneToThirtyTwoSingleByteCharacters) {
+    begin();
+    struct Row {
+        int line;
+        QString text;
+        bool accepted;
+    };
+    const Row rows[] = {
+        {__LINE__, QString(), false},
+        {__LINE__, QStringLiteral("a"), true},
+        {__LINE__, QString(32, u'x'), true},
+        {__LINE__, QString(33, u'x'), false},
+        {__LINE__, QStringLiteral("with blanks and ~!@#"), true},
+        {__LINE__, QStringLiteral("gr\u00fc\u00df"), false},
+        {__LINE__, QStringLiteral("\u0645\u0631\u062d\u0628\u0627"), false},
+        {__LINE__, QString::fromUcs4(U"\U0001F511"), false},
+        {__LINE__, QString(100000, u'x'), false},
+    };
+    for (const Row& row : rows) {
+        m_bench.type("AuthenticateTextField", row.text);
+        EXPECT_EQ(m_bench.isEnabled("AuthenticateSubmit"), row.accepted) << "line " << row.line;
+    }
+}
+
+TEST_F(SessionLogInTest, ThePayloadIsTheStepFlagAZeroAndTheDigestOfTheCharactersAlone) {
+    begin();
+    logInWith("abc");
+    // FIPS 180-4's digest of the three bytes 0x61 0x62 0x63.
+    const std::vector<std::uint8_t> expected{0x01, 0x00, 0xBA, 0x78, 0x16, 0xBF, 0x8F, 0x01, 0xCF,
+                                             0xEA, 0x41, 0x41, 0x40, 0xDE, 0x5D, 0xAE, 0x22, 0x23,
+                                             0xB0, 0x03, 0x61, 0xA3, 0x96, 0x17, 0x7A, 0x9C, 0xB4,
+                                             0x10, 0xFF, 0x61, 0xF2, 0x00, 0x15, 0xAD};
+    EXPECT_EQ(lastPayload(), expected);
+}
+
+TEST_F(SessionLogInTest, OnePasswordLeadsToTheUnlockingWindow) {
+    begin();
+    logInWith("first");
+    EXPECT_EQ(m_bench.visibleWindow(), "UnlockingWindow");
+    EXPECT_THAT(alerts(), IsEmpty());
+}
+
+TEST_F(SessionLogInTest, TwoPasswordsAskTwiceAndLeadToTheUnlockedWindow) {
+    begin({.secondPassword = "second"});
+    logInWith("first");
+    EXPECT_EQ(lastPayload()[0], 1) << "first step";
+    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+    EXPECT_EQ(m_bench.text("AuthenticateMessage"), localized("IDS_ENTER_2ND_PASSWORD"));
+    EXPECT_EQ(m_bench.text("AuthenticateTextField"), QString());
+    EXPECT_FALSE(m_bench.isEnabled("AuthenticateSubmit"));
+    logInWith("second");
+    EXPECT_EQ(lastPayload()[0], 0) << "further step";
+    EXPECT_EQ(lastPayload()[1], 0);
+    EXPECT_EQ(m_bench.visibleWindow(), "UnlockedWindow");
+}
+
+TEST_F(SessionLogInTest, AFurtherStepForTheFirstPasswordLeadsToTheUnlockedWindow) {
+    forgeSecurityByte(0x03);
+    begin();
+    EXPECT_EQ(m_bench.text("AuthenticateMessage"), localized("IDS_ENTER_1ST_PASSWORD"));
+    forgeResult(AuthenticateCode, kIOReturnSuccess);
+    logInWith("first");
+    EXPECT_EQ(m_bench.visibleWindow(), "UnlockedWindow");
+}
+
+TEST_F(SessionLogInTest, AWrongPasswordIsSaidBetweenTwoPausesAndTheTextStays) {
+    begin();
+    m_bench.computer.log.clear();
+    logInWith("wrong");
+    EXPECT_THAT(m_bench.computer.log.story(),
+                ElementsAre("TKVR21_Authenticate", "sleep 1", "TKVR21_GetDeviceStatus",
+                            testing::StartsWith("alert"), "sleep 1"));
+    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_AUTHENTICATE_FAILED")));
+    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+    EXPECT_EQ(m_bench.text("AuthenticateTextField"), QStringLiteral("wrong"));
+    EXPECT_TRUE(m_bench.isEnabled("AuthenticateSubmit"));
+}
+
+TEST_F(SessionLogInTest, SenseKeyTwoCountsAsAWrongPasswordToo) {
+    begin();
+    forge(StatusRequestCode, [](std::span<std::uint8_t> data, IOReturn&) { data[13] = 2; });
+    logInWith("wrong");
+    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_AUTHENTICATE_FAILED")));
+}
+
+TEST_F(SessionLogInTest, ARefusalForAnotherReasonIsSilent) {
+    forge(StatusRequestCode, [](std::span<std::uint8_t> data, IOReturn&) {
+        if (data[13] != 0) {
+            data[14] = 0x24;
+            data[15] = 0x00;
+        }
+    });
+    begin();
+    logInWith("wrong");
+    EXPECT_THAT(alerts(), IsEmpty());
+    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+    EXPECT_FALSE(m_bench.hasQuit());
+}
+
+TEST_F(SessionLogInTest, ARefusalByADriveThatHasLockedItselfForGoodEndsTheApplication) {
+    forge(StatusRequestCode, [](std::span<std::uint8_t> data, IOReturn&) {
+        if (data[13] != 0) {
+            data[14] = 0x74;
+            data[15] = 0x00;
+            data[33] = 0x05;
+        }
+    });
+    begin();
+    logInWith("wrong");
+    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_ZELTO_DRIVE_LOST")));
+    EXPECT_EQ(m_bench.visibleWindow(), "");
+    EXPECT_TRUE(m_bench.hasQuit());
+}
+
+TEST_F(SessionLogInTest, TheLastWrongSecondPasswordLosesTheDrive) {
+    begin({.secondPassword = "second", .trials = 2});
+    logInWith("first");
+    logInWith("wrong 1");
+    logInWith("wrong 2");
+    EXPECT_EQ(m_drive->drive().state(m_bench.computer.clock.now()), SecurityState::StateFullLock);
+    EXPECT_EQ(alerts().size(), 2U);
+}
+
+TEST_F(SessionLogInTest, AnUnreadableStatusAfterARefusalIsReported) {
+    begin();
+    forgeResult(StatusRequestCode, kIOReturnTimeout);
+    logInWith("wrong");
+    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_COMMAND_FAIL")));
+    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+}
+
+TEST_F(SessionLogInTest, ADriveThatIsGoneIsSaidAndEndsTheApplication) {
+    begin();
+    m_bench.unplug(m_drive);
+    m_bench.computer.log.clear();
+    logInWith("first");
+    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
+    EXPECT_THAT(m_bench.commands(), ElementsAre("TKVR21_Authenticate"));
+    EXPECT_TRUE(m_bench.hasQuit());
+}
+
+TEST_F(SessionLogInTest, CancelAndTheTitleBarEndTheApplication) {
+    begin();
+    m_bench.press("AuthenticateCancel");
+    EXPECT_TRUE(m_bench.hasQuit());
+    m_bench.start();
+    EXPECT_FALSE(m_bench.hasQuit());
+    m_bench.app().AuthenticateWindow.close();
+    EXPECT_TRUE(m_bench.hasQuit());
+}
+
+// --- The remaining time on the log-in window ---------------------------------------------------
+
+TEST_F(SessionLogInTest, ShowsTheRemainingTimeWhenTheUserChoseSoAndAPeriodRuns) {
+    begin({.autoClearSeconds = 90061, .showsRemainingTime = true});
+    EXPECT_NE(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
+    m_bench.tick();
+    EXPECT_TRUE(m_bench.text("AuthenticateRemainingTimeText").startsWith(u"1 "));
+}
+
+TEST_F(SessionLogInTest, ShowsNoRemainingTimeWithoutTheChoice) {
+    begin({.autoClearSeconds = 90061, .showsRemainingTime = false});
+    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
+    m_bench.tick();
+    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeText"), QString());
+}
+
+TEST_F(SessionLogInTest, ShowsNoRemainingTimeWithoutAPeriod) {
+    begin({.autoClearSeconds = 0, .showsRemainingTime = true});
+    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
+}
+
+TEST_F(SessionLogInTest, ShowsNoRemainingTimeWhenTheChoiceCannotBeRead) {
+    forgeResult(HintReadCode, kIOReturnTimeout);
+    begin({.autoClearSeconds = 90061, .showsRemainingTime = true});
+    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
+}
+
+TEST_F(SessionLogInTest, ShowsNoRemainingTimeWhenThePeriodCannotBeRead) {
+    forgeResult(TimeRequestCode, kIOReturnTimeout);
+    begin({.autoClearSeconds = 90061, .showsRemainingTime = true});
+    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
+}
+
+// --- The digest --------------------------------------------------------------------------------
+
+using SessionLogInDeathTest = SessionLogInTest;
+
+TEST_F(SessionLogInDeathTest, DigestingMoreThanThirtyTwoCharactersIsAProgrammingError) {
+    begin();
+    PasswordDigest digest{};
+    EXPECT_DEATH(m_bench.app().SetPasswordData(QString(33, u'x'), digest),
+                 "passwordString length.<=32");
+}
+
+TEST_F(SessionLogInTest, DigestsThirtyTwoCharacters) {
+    begin();
+    PasswordDigest digest{};
+    m_bench.app().SetPasswordData(QString(32, u'x'), digest);
+    SHA256 sha;
+    sha.Init();
+    const std::string text(32, 'x');
+    const std::vector<std::uint8_t> bytes(text.begin(), text.end());
+    sha.Input(bytes.data(), 32);
+    PasswordDigest expected{};
+    sha.Get(expected.data());
+    EXPECT_EQ(digest, expected);
+}
+
+} // namespace
+} // namespace zelto
