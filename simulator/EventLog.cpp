@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 namespace zelto::simulator {
 
@@ -33,9 +32,9 @@ std::size_t EventLog::count(const std::string& text) const {
 }
 
 const LogLine* EventLog::latest(const std::string& text) const {
-    const auto backwards = std::views::reverse(m_lines);
-    const auto found = std::ranges::find(backwards, text, &LogLine::text);
-    return found == backwards.end() ? nullptr : &*found;
+    const auto found = std::find_if(m_lines.rbegin(), m_lines.rend(),
+                                    [&](const LogLine& line) { return line.text == text; });
+    return found == m_lines.rend() ? nullptr : &*found;
 }
 
 namespace {

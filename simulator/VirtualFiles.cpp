@@ -121,7 +121,8 @@ std::optional<VirtualFiles::Tree> VirtualFiles::read(const Place& from, unsigned
         if (!child) {
             return std::nullopt;
         }
-        tree.children.emplace_back(name, std::move(*child));
+        child->name = name;
+        tree.children.push_back(std::move(*child));
     }
     return tree;
 }
@@ -131,8 +132,8 @@ bool VirtualFiles::write(const Tree& tree, const Place& to) {
         return to.store->writeFile(to.path, tree.bytes, tree.info.modified);
     }
     return to.store->makeFolder(to.path, tree.info.modified) &&
-           std::ranges::all_of(tree.children, [&](const auto& child) {
-               return write(child.second, {to.store, to.path / child.first});
+           std::ranges::all_of(tree.children, [&](const Tree& child) {
+               return write(child, {to.store, to.path / child.name});
            });
 }
 

@@ -52,9 +52,10 @@ private:
     };
     /// A file or folder, taken out of its store.
     struct Tree {
+        std::string name;
         FileInfo info;
         FileStore::Bytes bytes;
-        std::vector<std::pair<std::string, Tree>> children;
+        std::vector<Tree> children;
     };
 
     [[nodiscard]] Place place(const std::filesystem::path& path) const;
