@@ -205,10 +205,10 @@ void VirtualFiles::installBundle(const std::filesystem::path& bundle, FileTime m
 
 bool VirtualFiles::sameContents(const Tree& one, const Tree& other) {
     return one.info.isFolder == other.info.isFolder && one.bytes == other.bytes &&
-           std::ranges::equal(
-               one.children, other.children, [](const auto& left, const auto& right) {
-                   return left.first == right.first && sameContents(left.second, right.second);
-               });
+           std::ranges::equal(one.children, other.children,
+                              [](const Tree& left, const Tree& right) {
+                                  return left.name == right.name && sameContents(left, right);
+                              });
 }
 
 bool VirtualFiles::areEqual(const std::filesystem::path& one,
