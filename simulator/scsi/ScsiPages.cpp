@@ -30,11 +30,17 @@ std::string productOf(const UnitIdentity& unit) {
 Bytes inquiryData(std::uint8_t peripheral, std::string_view product) {
     constexpr std::uint8_t Removable = 0x80;
     constexpr std::uint8_t ResponseFormat = 0x02;
-    constexpr std::uint8_t AdditionalLength = 36 - 5;
+    constexpr std::size_t Size = 74;
+    constexpr std::uint8_t AdditionalLength = Size - 5;
     Bytes bytes{peripheral, Removable, Spc4, ResponseFormat, AdditionalLength, 0, 0, 0};
     appendPadded(bytes, Vendor, 8);
     appendPadded(bytes, product, 16);
     appendPadded(bytes, Revision, 4);
+    bytes.resize(Size);
+    // Version descriptors (SPC-4, 6.6.2): the standards that the unit keeps to.
+    record::put(bytes, {58, 2}, 0x0460); // SPC-4
+    record::put(bytes, {60, 2}, 0x04C0); // SBC-3
+    record::put(bytes, {62, 2}, 0x1730); // USB Mass Storage Bulk-Only Transport 1.0
     return bytes;
 }
 

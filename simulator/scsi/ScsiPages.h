@@ -17,7 +17,7 @@ struct UnitIdentity {
     std::string serial;
 };
 
-/// Standard INQUIRY data, 36 bytes: a removable disk.
+/// Standard INQUIRY data, 74 bytes: a removable disk.
 [[nodiscard]] std::vector<std::uint8_t> standardInquiry(const UnitIdentity& unit);
 /// The same for a unit number that the drive does not have (SPC-4, 6.6.2: qualifier 011b).
 [[nodiscard]] std::vector<std::uint8_t> absentUnitInquiry();

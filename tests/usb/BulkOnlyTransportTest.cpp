@@ -105,10 +105,10 @@ TEST_F(BulkOnly, Case4WithACommandThatFails) {
 
 TEST_F(BulkOnly, Case5HostReadsMoreThanTheUnitSendsInAShortPacket) {
     send(commandWrapper(5, 192, ToHost, 0, {0x12, 0, 0, 0, 192, 0}));
-    EXPECT_EQ(in(192), complete(36));
+    EXPECT_EQ(in(192), complete(74));
     EXPECT_EQ(in(13), Stall);
     EXPECT_EQ(clearHalt(0x81), Done);
-    expectStatus(5, 192 - 36, 0);
+    expectStatus(5, 192 - 74, 0);
 }
 
 TEST_F(BulkOnly, Case5HostReadsMoreThanTheUnitSendsInWholePackets) {

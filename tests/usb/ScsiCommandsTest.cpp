@@ -12,7 +12,7 @@ TEST_F(ScsiCommands, InquiryTellsVendorProductAndRevision) {
     const Outcome outcome = run({0x12, 0, 0, 0, 36, 0});
     EXPECT_TRUE(outcome.isGood);
     EXPECT_THAT(outcome.data,
-                ElementsAre(0x00, 0x80, 0x06, 0x02, 0x1F, 0x00, 0x00, 0x00, //
+                ElementsAre(0x00, 0x80, 0x06, 0x02, 0x45, 0x00, 0x00, 0x00, //
                             'K', 'E', 'S', 'T', 'R', 'I', 'N', ' ',         //
                             'Z', 'E', 'L', 'T', 'O', ' ', 'D', 'I',         //
                             'S', 'K', '2', ' ', ' ', ' ', ' ', ' ', '0', '1', '0', '0'));
@@ -21,8 +21,16 @@ TEST_F(ScsiCommands, InquiryTellsVendorProductAndRevision) {
 TEST_F(ScsiCommands, InquiryIsCutToTheAllocationLength) {
     EXPECT_EQ(run({0x12, 0, 0, 0, 5, 0}).data.size(), 5U);
     EXPECT_EQ(run({0x12, 0, 0, 0, 35, 0}).data.size(), 35U);
-    EXPECT_EQ(run({0x12, 0, 0, 0, 37, 0}).data.size(), 36U);
-    EXPECT_EQ(run({0x12, 0, 0, 0xFF, 0xFF, 0}).data.size(), 36U);
+    EXPECT_EQ(run({0x12, 0, 0, 0, 75, 0}).data.size(), 74U);
+    EXPECT_EQ(run({0x12, 0, 0, 0xFF, 0xFF, 0}).data.size(), 74U);
+}
+
+TEST_F(ScsiCommands, InquiryNamesTheStandards) {
+    const Bytes data = run({0x12, 0, 0, 0, 255, 0}).data;
+    ASSERT_EQ(data.size(), 74U);
+    EXPECT_THAT(std::span(data).subspan(36, 30),
+                ElementsAre(0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, //
+                            0x04, 0x60, 0x04, 0xC0, 0x17, 0x30, 0x00, 0x00));
 }
 
 TEST_F(ScsiCommands, InquiryWithAllocationLengthZeroSucceedsWithoutData) {
