@@ -177,7 +177,8 @@ bool Console::listen(const std::filesystem::path& path, std::string& error) {
         error = "another program serves this socket";
         return false;
     }
-    if (errno == ECONNREFUSED) {
+    std::error_code ignored;
+    if (errno == ECONNREFUSED && std::filesystem::is_socket(path, ignored)) {
         ::unlink(path.c_str()); // left behind by a program that was killed
     }
     FileDescriptor listener(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));

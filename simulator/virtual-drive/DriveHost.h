@@ -63,8 +63,12 @@ public:
     [[nodiscard]] std::string describe();
     [[nodiscard]] bool isPlugged() const { return m_presence != Presence::Unplugged; }
 
-    /// A connection that has the device, as the kernel's would; for measuring and testing.
+    // For measuring and testing.
+
+    /// A connection that has the device, as the kernel's would.
     void adopt(FileDescriptor socket) { m_server.adopt(std::move(socket)); }
+    /// The device without a bus around it.
+    [[nodiscard]] StorageDevice& deviceOnBus() { return m_device; }
 
 private:
     enum class Presence : std::uint8_t {
