@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t LargestControl = 0xFFFF;
 /// Small packets that may collect beside one that is as large as can be.
-constexpr std::size_t Slack = 256 * 1024;
+constexpr std::size_t Slack = 0x40000;
 constexpr std::size_t InputCapacity = Usbip::CommandSize + UsbipSession::MaximumTransfer + Slack;
 constexpr std::size_t OutputCapacity = Usbip::CommandSize + UsbipSession::MaximumTransfer + Slack;
 
