@@ -1,6 +1,6 @@
 #include "simulator/demo/DemoWorld.h"
 
-#include "simulator/Person.h"
+#include "simulator/play/Person.h"
 
 #include <QApplication>
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/PreparedDrive.h"
-#include "simulator/UtilityProcess.h"
+#include "simulator/play/PreparedDrive.h"
+#include "simulator/play/UtilityProcess.h"
 #include "ui/AlertPresenter.h"
 
 #include <QObject>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "simulator/Person.h"
-#include "simulator/PreparedDrive.h"
-#include "simulator/UtilityProcess.h"
 #include "simulator/demo/StoryAlerts.h"
+#include "simulator/play/Person.h"
+#include "simulator/play/PreparedDrive.h"
+#include "simulator/play/UtilityProcess.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/DriveModel.h"
+#include "simulator/drive/DriveModel.h"
 
 #include <cstdint>
 #include <optional>

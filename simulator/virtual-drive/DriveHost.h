@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/VirtualDrive.h"
+#include "simulator/drive/VirtualDrive.h"
 #include "simulator/usb/ControlFaults.h"
 #include "simulator/usb/StorageDevice.h"
 #include "simulator/usbip/UsbipServer.h"

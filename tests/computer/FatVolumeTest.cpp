@@ -1,5 +1,5 @@
-#include "simulator/FatVolume.h"
-#include "simulator/PartitionTable.h"
+#include "simulator/fat/FatVolume.h"
+#include "simulator/fat/PartitionTable.h"
 #include "tests/computer/MemoryDisk.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "simulator/FaultyDevice.h"
+#include "simulator/computer/FaultyDevice.h"
 
 #include <gtest/gtest.h>
 

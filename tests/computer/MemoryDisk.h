@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/BlockDevice.h"
-#include "simulator/SectorStore.h"
+#include "simulator/drive/SectorStore.h"
+#include "simulator/fat/BlockDevice.h"
 
 namespace zelto::simulator {
 

@@ -1,7 +1,7 @@
 #include "device/VendorRequest.h"
 #include "device/ZELTOctrl.h"
-#include "simulator/OtherUsbDevices.h"
-#include "simulator/VirtualComputer.h"
+#include "simulator/computer/OtherUsbDevices.h"
+#include "simulator/computer/VirtualComputer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "simulator/OtherUsbDevices.h"
-#include "simulator/VirtualComputer.h"
+#include "simulator/computer/OtherUsbDevices.h"
+#include "simulator/computer/VirtualComputer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

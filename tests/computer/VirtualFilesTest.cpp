@@ -1,4 +1,4 @@
-#include "simulator/VirtualComputer.h"
+#include "simulator/computer/VirtualComputer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "simulator/ScriptedAlerts.h"
-#include "simulator/VirtualComputer.h"
+#include "simulator/computer/ScriptedAlerts.h"
+#include "simulator/computer/VirtualComputer.h"
 
 #include <gtest/gtest.h>
 

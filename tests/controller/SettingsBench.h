@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/AppDelegate.h"
-#include "simulator/DriveOnBus.h"
-#include "simulator/FaultyDevice.h"
-#include "simulator/ScriptedAlerts.h"
-#include "simulator/VirtualComputer.h"
+#include "simulator/computer/DriveOnBus.h"
+#include "simulator/computer/FaultyDevice.h"
+#include "simulator/computer/ScriptedAlerts.h"
+#include "simulator/computer/VirtualComputer.h"
 #include "ui/Strings.h"
 
 #include <QAbstractButton>

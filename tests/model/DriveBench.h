@@ -1,8 +1,8 @@
 #pragma once
 
 #include "device/VendorRequest.h"
-#include "simulator/DriveModel.h"
-#include "simulator/SenseCodes.h"
+#include "simulator/drive/DriveModel.h"
+#include "simulator/drive/SenseCodes.h"
 
 #include <algorithm>
 #include <array>

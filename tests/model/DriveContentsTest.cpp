@@ -1,4 +1,4 @@
-#include "simulator/DriveContents.h"
+#include "simulator/drive/DriveContents.h"
 
 #include "tests/model/TemporaryFolder.h"
 

@@ -1,4 +1,4 @@
-#include "simulator/DriveState.h"
+#include "simulator/drive/DriveState.h"
 
 #include "digest/SHA256.h"
 #include "tests/model/DriveBench.h"

@@ -1,4 +1,4 @@
-#include "simulator/DriveState.h"
+#include "simulator/drive/DriveState.h"
 #include "tests/model/DriveBench.h"
 
 #include <gtest/gtest.h>

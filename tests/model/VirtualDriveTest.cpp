@@ -1,4 +1,4 @@
-#include "simulator/VirtualDrive.h"
+#include "simulator/drive/VirtualDrive.h"
 
 #include "tests/model/DriveBench.h"
 #include "tests/model/TemporaryFolder.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/ScriptedAlerts.h"
+#include "simulator/computer/ScriptedAlerts.h"
 
 namespace zelto {
 using simulator::ScriptedAlerts;

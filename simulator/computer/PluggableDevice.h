@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/UsbDevice.h"
+#include "simulator/drive/DriveModel.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace zelto::simulator {
+
+/// What a USB device says about itself while it is being enumerated.
+struct UsbDescription {
+    std::uint16_t idVendor = 0;
+    std::uint16_t idProduct = 0;
+    std::uint16_t bcdDevice = 0x0100;
+    /// 0: there is no serial number string.
+    std::uint8_t iSerialNumber = 3;
+    std::string product;
+    std::string serial;
+    /// What the device answers when asked for its serial number string; by default the descriptor
+    /// of `serial`. A drive that lies about its length sets its own.
+    std::optional<std::vector<std::uint8_t>> serialDescriptor;
+    /// How an attempt to open the device ends.
+    IOReturn openResult = kIOReturnSuccess;
+};
+
+/// The medium that a storage unit shows.
+struct MediumInfo {
+    std::uint64_t sectorCount = 0;
+    /// Another number for another medium: a new size, a new key, a new start.
+    std::uint64_t generation = 0;
+};
+
+/// Something with a USB plug.
+class PluggableDevice {
+public:
+    PluggableDevice() = default;
+    PluggableDevice(const PluggableDevice&) = delete;
+    PluggableDevice& operator=(const PluggableDevice&) = delete;
+    virtual ~PluggableDevice() = default;
+
+    [[nodiscard]] virtual const UsbDescription& description() const = 0;
+    virtual void powerUp(Moment now) = 0;
+    virtual void powerOff(Moment now) = 0;
+
+    /// A vendor request; standard requests are answered from the description.
+    [[nodiscard]] virtual IOReturn control(IOUSBDevRequest& request, Moment now) = 0;
+    /// True once after the device was asked to leave the bus and come back.
+    [[nodiscard]] virtual bool takeReconnect() { return false; }
+
+    [[nodiscard]] virtual std::size_t unitCount() const { return 0; }
+    /// VENDOR, blank, MODEL.
+    [[nodiscard]] virtual std::string unitName(std::size_t unit) const = 0;
+    [[nodiscard]] virtual std::optional<MediumInfo> medium(std::size_t unit, Moment now) = 0;
+    [[nodiscard]] virtual bool read(std::size_t unit, std::uint64_t firstSector,
+                                    std::span<std::uint8_t> into, Moment now) = 0;
+    [[nodiscard]] virtual bool write(std::size_t unit, std::uint64_t firstSector,
+                                     std::span<const std::uint8_t> from, Moment now) = 0;
+};
+
+} // namespace zelto::simulator

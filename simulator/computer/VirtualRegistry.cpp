@@ -1,0 +1,155 @@
+#include "simulator/computer/VirtualRegistry.h"
+
+namespace zelto::simulator {
+
+namespace {
+
+using NodePointer = std::shared_ptr<RegistryNode>;
+
+const std::string ServicePlane = "IOService";
+
+class Entry : public RegistryEntry {
+public:
+    explicit Entry(NodePointer node) : m_node(std::move(node)) {}
+
+    [[nodiscard]] std::optional<std::string>
+    IORegistryEntryGetNameInPlane(const std::string& plane) const override {
+        return m_node->nameFails || plane != ServicePlane ? std::nullopt
+                                                          : std::optional(m_node->name);
+    }
+    [[nodiscard]] std::optional<std::string> IOObjectGetClass() const override {
+        return m_node->classFails ? std::nullopt : std::optional(m_node->className);
+    }
+    [[nodiscard]] bool IOObjectConformsTo(const std::string& className) const override {
+        return className == m_node->className || className == "IORegistryEntry" ||
+               (m_node->isService && className == "IOService");
+    }
+    [[nodiscard]] std::optional<RegistryProperties>
+    IORegistryEntryCreateCFProperties() const override {
+        return m_node->propertiesFail ? std::nullopt : std::optional(m_node->properties);
+    }
+    [[nodiscard]] std::unique_ptr<RegistryIterator>
+    IORegistryEntryGetChildIterator(const std::string& plane) const override;
+
+private:
+    NodePointer m_node;
+};
+
+class Iterator : public RegistryIterator {
+public:
+    explicit Iterator(NodePointer parent) : m_parent(std::move(parent)) {}
+
+    [[nodiscard]] std::unique_ptr<RegistryEntry> IOIteratorNext() override {
+        const auto& children = m_parent->children;
+        switch (m_parent->endless) {
+        case RegistryNode::Endless::No:
+            break;
+        case RegistryNode::Endless::Children:
+            return std::make_unique<Entry>(children.empty() ? std::make_shared<RegistryNode>()
+                                                            : children[m_next++ % children.size()]);
+        case RegistryNode::Endless::Depth:
+            return m_next++ == 0 ? std::make_unique<Entry>(m_parent) : nullptr;
+        }
+        return m_next < children.size() ? std::make_unique<Entry>(children[m_next++]) : nullptr;
+    }
+
+private:
+    NodePointer m_parent;
+    std::size_t m_next = 0;
+};
+
+std::unique_ptr<RegistryIterator>
+Entry::IORegistryEntryGetChildIterator(const std::string& plane) const {
+    return m_node->childrenFail || plane != ServicePlane ? nullptr
+                                                         : std::make_unique<Iterator>(m_node);
+}
+
+NodePointer makeNode(std::string name, std::string className) {
+    auto node = std::make_shared<RegistryNode>();
+    node->name = std::move(name);
+    node->className = std::move(className);
+    return node;
+}
+
+NodePointer mediaNode(std::string name, const std::string& bsdName) {
+    NodePointer node = makeNode(std::move(name), "IOMedia");
+    node->properties = {{"Removable", std::monostate()}, {"BSD Name", bsdName}};
+    return node;
+}
+
+NodePointer diskNode(const VirtualDisk& disk) {
+    NodePointer node = mediaNode(disk.unitName + " Media", disk.bsdName);
+    for (const Partition& partition : disk.partitions) {
+        node->children.push_back(mediaNode("Untitled " + std::to_string(partition.number),
+                                           disk.partitionName(partition.number)));
+    }
+    return node;
+}
+
+} // namespace
+
+NodePointer VirtualRegistry::deviceNode(const Attachment& attachment) const {
+    const UsbDescription& description = attachment.device->description();
+    NodePointer node = makeNode(description.product, "IOUSBDevice");
+    node->properties = {{"sessionID", std::monostate()},
+                        {"idProduct", std::int64_t{description.idProduct}},
+                        {"bcdDevice", std::int64_t{description.bcdDevice}},
+                        {"idVendor", std::int64_t{description.idVendor}}};
+    if (description.iSerialNumber != 0) {
+        node->properties.emplace_back("USB Serial Number", description.serial);
+    }
+    const NodePointer interface = makeNode("IOUSBInterface@0", "IOUSBInterface");
+    node->children.push_back(interface);
+    for (std::size_t unit = 0; unit < attachment.device->unitCount(); ++unit) {
+        const NodePointer logicalUnit =
+            makeNode("IOSCSILogicalUnitNub@" + std::to_string(unit), "IOSCSILogicalUnitNub");
+        interface->children.push_back(logicalUnit);
+        for (const auto& disk : m_disks.all()) {
+            if (disk->attachment.get() == &attachment && disk->unit == unit) {
+                logicalUnit->children.push_back(diskNode(*disk));
+            }
+        }
+    }
+    return node;
+}
+
+NodePointer VirtualRegistry::tree() const {
+    NodePointer root = makeNode("Root", "IORegistryEntry");
+    root->isService = false;
+    const NodePointer computer = makeNode("VirtualComputer", "IOPlatformExpertDevice");
+    root->children.push_back(computer);
+    const NodePointer controller = makeNode("EHC1", "IOUSBController");
+    computer->children.push_back(controller);
+    const NodePointer hub = makeNode("Root Hub", "IOUSBHubDevice");
+    controller->children.push_back(hub);
+    for (const auto& attachment : m_bus.attachments()) {
+        hub->children.push_back(deviceNode(*attachment));
+    }
+    root->children.push_back(makeNode("IOResources", "IOService"));
+    return root;
+}
+
+std::unique_ptr<RegistryEntry> VirtualRegistry::IORegistryGetRootEntry() {
+    if (m_missing) {
+        return nullptr;
+    }
+    NodePointer root = tree();
+    if (m_edit) {
+        m_edit(*root);
+    }
+    return std::make_unique<Entry>(std::move(root));
+}
+
+RegistryNode* VirtualRegistry::findNode(RegistryNode& from, const std::string& name) {
+    if (from.name == name) {
+        return &from;
+    }
+    for (const NodePointer& child : from.children) {
+        if (RegistryNode* const found = findNode(*child, name)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace zelto::simulator

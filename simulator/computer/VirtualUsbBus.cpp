@@ -1,0 +1,277 @@
+#include "simulator/computer/VirtualUsbBus.h"
+
+#include <algorithm>
+
+namespace zelto::simulator {
+
+namespace {
+
+constexpr std::uint8_t StandardToHost = 0x80;
+constexpr std::uint8_t VendorToHost = 0xC0;
+constexpr std::uint8_t GetDescriptor = 6;
+constexpr std::uint8_t StringDescriptor = 3;
+
+/// A string descriptor as USB 2.0, 9.6.7 has it: bLength, bDescriptorType, UTF-16LE.
+std::vector<std::uint8_t> makeStringDescriptor(const std::string& text) {
+    constexpr std::size_t LongestText = 126;
+    const std::string shown = text.substr(0, LongestText);
+    std::vector<std::uint8_t> descriptor{static_cast<std::uint8_t>(2 + 2 * shown.size()),
+                                         StringDescriptor};
+    for (const char letter : shown) {
+        descriptor.push_back(static_cast<std::uint8_t>(letter));
+        descriptor.push_back(0);
+    }
+    return descriptor;
+}
+
+class Handle : public UsbDeviceInterface {
+public:
+    Handle(VirtualUsbBus& bus, std::shared_ptr<Attachment> attachment)
+        : m_bus(bus),
+          m_attachment(std::move(attachment)),
+          m_description(m_attachment->device->description()) {}
+
+    [[nodiscard]] std::uint16_t GetDeviceVendor() const override { return m_description.idVendor; }
+    [[nodiscard]] std::uint16_t GetDeviceProduct() const override {
+        return m_description.idProduct;
+    }
+    [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override {
+        return m_description.bcdDevice;
+    }
+    [[nodiscard]] IOReturn USBDeviceOpen() override {
+        if (!m_attachment->isAttached) {
+            return kIOReturnNoDevice;
+        }
+        m_isOpen = m_description.openResult == kIOReturnSuccess;
+        return m_description.openResult;
+    }
+    [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override {
+        return m_description.iSerialNumber;
+    }
+    [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override {
+        return m_isOpen ? m_bus.request(*m_attachment, request) : kIOReturnNotOpen;
+    }
+
+private:
+    VirtualUsbBus& m_bus;
+    std::shared_ptr<Attachment> m_attachment;
+    UsbDescription m_description;
+    bool m_isOpen = false;
+};
+
+class Service : public UsbService {
+public:
+    Service(VirtualUsbBus& bus, std::shared_ptr<Attachment> attachment)
+        : m_bus(bus), m_attachment(std::move(attachment)) {}
+
+    [[nodiscard]] std::unique_ptr<UsbDeviceInterface> IOCreatePlugInInterfaceForService() override {
+        return m_attachment->isAttached ? m_bus.makeHandle(m_attachment) : nullptr;
+    }
+
+private:
+    VirtualUsbBus& m_bus;
+    std::shared_ptr<Attachment> m_attachment;
+};
+
+bool matches(const UsbMatching& matching, const UsbDescription& description) {
+    return matching.idVendor == description.idVendor && matching.idProduct == description.idProduct;
+}
+
+} // namespace
+
+void VirtualUsbBus::notifyChanged() const {
+    if (m_changed) {
+        m_changed();
+    }
+}
+
+void VirtualUsbBus::plug(const Device& device) {
+    if (isPlugged(device)) {
+        return;
+    }
+    device->powerUp(m_clock.now());
+    const auto attachment = std::make_shared<Attachment>(Attachment{.device = device});
+    m_attachments.push_back(attachment);
+    notifyChanged();
+    announce(UsbEvent::FirstMatch, attachment);
+}
+
+void VirtualUsbBus::unplug(const Device& device) {
+    m_comingBack.erase(device);
+    const auto found = std::ranges::find(m_attachments, device,
+                                         [](const auto& attachment) { return attachment->device; });
+    if (found == m_attachments.end()) {
+        return;
+    }
+    const std::shared_ptr<Attachment> attachment = *found;
+    attachment->isAttached = false;
+    m_attachments.erase(found);
+    device->powerOff(m_clock.now());
+    notifyChanged();
+    announce(UsbEvent::Terminate, attachment);
+}
+
+void VirtualUsbBus::replug(const Device& device) {
+    unplug(device);
+    plug(device);
+}
+
+bool VirtualUsbBus::isPlugged(const Device& device) const {
+    return std::ranges::any_of(
+        m_attachments, [&](const auto& attachment) { return attachment->device == device; });
+}
+
+void VirtualUsbBus::endProcess() {
+    m_iterators.clear();
+    m_port = 0;
+}
+
+bool VirtualUsbBus::delivers(const Iterator& iterator) const {
+    return !iterator.isReleased && iterator.port != 0 && iterator.port == m_port;
+}
+
+void VirtualUsbBus::announce(UsbEvent event, const std::shared_ptr<Attachment>& attachment) {
+    for (auto& [id, iterator] : m_iterators) {
+        if (iterator.event != event || !delivers(iterator) ||
+            !matches(iterator.matching, attachment->device->description())) {
+            continue;
+        }
+        iterator.pending.push_back(attachment);
+        if (iterator.isArmed) {
+            iterator.isArmed = false;
+            m_application.performLater([this, object = id] { callOut(object); });
+        }
+    }
+}
+
+void VirtualUsbBus::callOut(IOObject id) {
+    const auto found = m_iterators.find(id);
+    if (found != m_iterators.end() && delivers(found->second)) {
+        const Callback callback = found->second.callback;
+        callback(id);
+    }
+}
+
+IOObject VirtualUsbBus::IONotificationPortCreate() {
+    m_port = m_offersPort && m_hasService ? ++m_lastObject : 0;
+    return m_port;
+}
+
+void VirtualUsbBus::IONotificationPortDestroy(IOObject port) noexcept {
+    m_port = port == m_port ? 0 : m_port;
+}
+
+IOObject VirtualUsbBus::IOServiceAddMatchingNotification(IOObject port, UsbEvent event,
+                                                         const UsbMatching& matching,
+                                                         Callback callback) {
+    if (!m_hasService) {
+        return 0;
+    }
+    Iterator iterator;
+    iterator.port = port;
+    iterator.event = event;
+    iterator.matching = matching;
+    iterator.callback = std::move(callback);
+    for (const auto& attachment : m_attachments) {
+        if (event == UsbEvent::FirstMatch && matches(matching, attachment->device->description())) {
+            iterator.pending.push_back(attachment);
+        }
+    }
+    m_iterators.emplace(++m_lastObject, std::move(iterator));
+    return m_lastObject;
+}
+
+std::unique_ptr<UsbService> VirtualUsbBus::IOIteratorNext(IOObject id) {
+    const auto found = m_iterators.find(id);
+    if (found == m_iterators.end() || found->second.isReleased) {
+        return nullptr;
+    }
+    Iterator& iterator = found->second;
+    if (iterator.pending.empty()) {
+        iterator.isArmed = true;
+        return nullptr;
+    }
+    const std::shared_ptr<Attachment> attachment = iterator.pending.front();
+    iterator.pending.pop_front();
+    return std::make_unique<Service>(*this, attachment);
+}
+
+void VirtualUsbBus::IOObjectRelease(IOObject id) noexcept {
+    // Only marked: the map's memory must not be touched from a signal handler.
+    const auto found = m_iterators.find(id);
+    if (found != m_iterators.end()) {
+        found->second.isReleased = true;
+    }
+}
+
+std::unique_ptr<UsbDeviceInterface>
+VirtualUsbBus::makeHandle(const std::shared_ptr<Attachment>& attachment) {
+    std::unique_ptr<UsbDeviceInterface> handle = std::make_unique<Handle>(*this, attachment);
+    return m_wrapper ? m_wrapper(std::move(handle)) : std::move(handle);
+}
+
+IOReturn VirtualUsbBus::standardRequest(const Attachment& attachment, IOUSBDevRequest& request) {
+    const UsbDescription& description = attachment.device->description();
+    const bool asksForSerial =
+        request.bRequest == GetDescriptor && description.iSerialNumber != 0 &&
+        request.wValue == (StringDescriptor << 8U | description.iSerialNumber);
+    if (!asksForSerial) {
+        return kIOUSBPipeStalled;
+    }
+    const std::vector<std::uint8_t> descriptor =
+        description.serialDescriptor.value_or(makeStringDescriptor(description.serial));
+    const std::size_t length = std::min<std::size_t>(descriptor.size(), request.wLength);
+    std::copy_n(descriptor.begin(), length, request.pData);
+    request.wLenDone = static_cast<std::uint32_t>(length);
+    return kIOReturnSuccess;
+}
+
+IOReturn VirtualUsbBus::request(Attachment& attachment, IOUSBDevRequest& request) {
+    if (request.wLength > 0 && request.pData == nullptr) {
+        return kIOReturnBadArgument;
+    }
+    if (request.bmRequestType == StandardToHost) {
+        return attachment.isAttached ? standardRequest(attachment, request) : kIOReturnNoDevice;
+    }
+    if (m_beforeRequest) {
+        m_beforeRequest(request);
+    }
+    LogLine line;
+    line.text = commandName(request);
+    line.serial = attachment.device->description().serial;
+    const bool toHost = request.bmRequestType == VendorToHost;
+    if (!toHost && request.wLength > 0) {
+        line.data.assign(request.pData, request.pData + request.wLength);
+    }
+    line.result = attachment.isAttached ? attachment.device->control(request, m_clock.now())
+                                        : kIOReturnNoDevice;
+    if (toHost && line.result == kIOReturnSuccess) {
+        line.data.assign(request.pData, request.pData + request.wLenDone);
+    }
+    line.setup = request;
+    line.setup.pData = nullptr;
+    const IOReturn result = line.result;
+    m_log.note(std::move(line));
+    if (attachment.isAttached) {
+        const Device device = attachment.device;
+        notifyChanged();
+        if (device->takeReconnect()) {
+            reconnect(device);
+        }
+    }
+    return result;
+}
+
+void VirtualUsbBus::reconnect(const Device& device) {
+    unplug(device);
+    if (m_reconnectDelay) {
+        m_comingBack.insert(device);
+        m_clock.after(*m_reconnectDelay, [this, device] {
+            if (m_comingBack.erase(device) > 0) {
+                plug(device);
+            }
+        });
+    }
+}
+
+} // namespace zelto::simulator

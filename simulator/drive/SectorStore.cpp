@@ -1,0 +1,167 @@
+#include "simulator/drive/SectorStore.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace zelto::simulator {
+namespace {
+
+std::string reasonOf(int error) {
+    return std::generic_category().message(error);
+}
+
+/// Makes a new file as long as the drive, all of it a hole; an older one has to be that long.
+bool hasOrGetsSize(int descriptor, std::uint64_t size, std::string& error) {
+    struct stat status {};
+    if (::fstat(descriptor, &status) != 0) {
+        error = reasonOf(errno);
+        return false;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        error = "it is not a regular file";
+        return false;
+    }
+    if (status.st_size == 0 && ::ftruncate(descriptor, static_cast<off_t>(size)) != 0) {
+        error = reasonOf(errno);
+        return false;
+    }
+    if (status.st_size != 0 && static_cast<std::uint64_t>(status.st_size) != size) {
+        error = "its size is not that of the drive";
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool SectorStore::holds(std::uint64_t sector, std::size_t size) const {
+    return size % SectorSize == 0 && sector <= sectorCount() &&
+           size / SectorSize <= sectorCount() - sector;
+}
+
+// --- In memory ---------------------------------------------------------------------------------
+
+MemorySectorStore::MemorySectorStore(std::uint64_t sectorCount) : m_sectorCount(sectorCount) {}
+
+bool MemorySectorStore::read(std::uint64_t sector, std::span<std::uint8_t> bytes) {
+    if (!holds(sector, bytes.size())) {
+        return false;
+    }
+    constexpr std::uint64_t BlockSectors = BlockSize / SectorSize;
+    while (!bytes.empty()) {
+        const std::size_t offset = sector % BlockSectors * SectorSize;
+        const std::size_t size = std::min(bytes.size(), BlockSize - offset);
+        if (const auto block = m_blocks.find(sector / BlockSectors); block != m_blocks.end()) {
+            std::memcpy(bytes.data(), &block->second[offset], size);
+        } else {
+            std::memset(bytes.data(), 0, size);
+        }
+        sector += size / SectorSize;
+        bytes = bytes.subspan(size);
+    }
+    return true;
+}
+
+bool MemorySectorStore::write(std::uint64_t sector, std::span<const std::uint8_t> bytes) {
+    if (!holds(sector, bytes.size())) {
+        return false;
+    }
+    constexpr std::uint64_t BlockSectors = BlockSize / SectorSize;
+    while (!bytes.empty()) {
+        const std::size_t offset = sector % BlockSectors * SectorSize;
+        const std::size_t size = std::min(bytes.size(), BlockSize - offset);
+        auto& block = m_blocks[sector / BlockSectors];
+        if (!block) {
+            block = std::make_unique<std::uint8_t[]>(BlockSize);
+        }
+        std::memcpy(&block[offset], bytes.data(), size);
+        sector += size / SectorSize;
+        bytes = bytes.subspan(size);
+    }
+    return true;
+}
+
+bool MemorySectorStore::discardAll() {
+    m_blocks.clear();
+    return true;
+}
+
+// --- In a file ---------------------------------------------------------------------------------
+
+std::unique_ptr<FileSectorStore> FileSectorStore::open(const std::filesystem::path& path,
+                                                       std::uint64_t sectorCount,
+                                                       std::string& error) {
+    constexpr mode_t OwnerOnly = 0600;
+    const int descriptor =
+        ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, OwnerOnly);
+    if (descriptor < 0) {
+        error = path.string() + ": " + reasonOf(errno);
+        return nullptr;
+    }
+    std::unique_ptr<FileSectorStore> store(new FileSectorStore(descriptor, sectorCount));
+    std::string reason;
+    if (hasOrGetsSize(descriptor, sectorCount * SectorSize, reason)) {
+        return store;
+    }
+    error = path.string() + ": " + reason;
+    return nullptr;
+}
+
+FileSectorStore::~FileSectorStore() {
+    ::close(m_descriptor);
+}
+
+bool FileSectorStore::read(std::uint64_t sector, std::span<std::uint8_t> bytes) {
+    if (!holds(sector, bytes.size())) {
+        return false;
+    }
+    auto offset = static_cast<off_t>(sector * SectorSize);
+    while (!bytes.empty()) {
+        const ssize_t done = ::pread(m_descriptor, bytes.data(), bytes.size(), offset);
+        // The end of the file, too, is a failure: somebody has cut the image.
+        if (done <= 0) {
+            if (done < 0 && errno == EINTR) {
+                continue;
+            }
+            return false;
+        }
+        bytes = bytes.subspan(static_cast<std::size_t>(done));
+        offset += done;
+    }
+    return true;
+}
+
+bool FileSectorStore::write(std::uint64_t sector, std::span<const std::uint8_t> bytes) {
+    if (!holds(sector, bytes.size())) {
+        return false;
+    }
+    auto offset = static_cast<off_t>(sector * SectorSize);
+    while (!bytes.empty()) {
+        const ssize_t done = ::pwrite(m_descriptor, bytes.data(), bytes.size(), offset);
+        if (done <= 0) {
+            if (done < 0 && errno == EINTR) {
+                continue;
+            }
+            return false;
+        }
+        bytes = bytes.subspan(static_cast<std::size_t>(done));
+        offset += done;
+    }
+    return true;
+}
+
+bool FileSectorStore::flush() {
+    return ::fdatasync(m_descriptor) == 0;
+}
+
+bool FileSectorStore::discardAll() {
+    return ::ftruncate(m_descriptor, 0) == 0 &&
+           ::ftruncate(m_descriptor, static_cast<off_t>(m_sectorCount * SectorSize)) == 0;
+}
+
+} // namespace zelto::simulator
