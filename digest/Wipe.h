@@ -35,7 +35,8 @@ concept WipeableRecord =
 template <WipeableRange Range>
 void wipe(Range&& range) noexcept {
     detail::zeroMemory(std::ranges::data(range),
-                       std::ranges::size(range) * sizeof(std::ranges::range_value_t<Range>));
+                       static_cast<std::size_t>(std::ranges::size(range)) *
+                           sizeof(std::ranges::range_value_t<Range>));
 }
 
 /// The same for a record.

@@ -69,15 +69,15 @@ For support: sense key %1, code %2, qualifier %3.</translation>
     </message>
     <message id="IDS_DAYS">
         <source></source>
-        <translation>days</translation>
+        <translation>d</translation>
     </message>
     <message id="IDS_HOURS">
         <source></source>
-        <translation>hours</translation>
+        <translation>h</translation>
     </message>
     <message id="IDS_MIN">
         <source></source>
-        <translation>minutes</translation>
+        <translation>min</translation>
     </message>
     <message id="IDS_TIME_SYNC_COMPLETE">
         <source></source>
