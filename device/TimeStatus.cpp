@@ -58,6 +58,30 @@ CurrentTime::Bytes encodeCurrentTime(const CurrentTime& time) {
     return bytes;
 }
 
+std::optional<std::chrono::sys_seconds> momentOf(const CurrentTime& clock) {
+    using namespace std::chrono;
+    const year_month_day date{year{clock.year}, month{clock.month}, day{clock.day}};
+    if (!date.ok() || clock.hour > 23 || clock.minute > 59 || clock.second > 59) {
+        return std::nullopt;
+    }
+    return sys_days{date} + hours{clock.hour} + minutes{clock.minute} + seconds{clock.second};
+}
+
+CurrentTime clockAt(std::chrono::sys_seconds moment) {
+    using namespace std::chrono;
+    const auto midnight = floor<days>(moment);
+    const year_month_day date{midnight};
+    const hh_mm_ss time{moment - midnight};
+    return {
+        .year = static_cast<std::uint16_t>(static_cast<int>(date.year())),
+        .month = static_cast<std::uint8_t>(static_cast<unsigned>(date.month())),
+        .day = static_cast<std::uint8_t>(static_cast<unsigned>(date.day())),
+        .hour = static_cast<std::uint8_t>(time.hours().count()),
+        .minute = static_cast<std::uint8_t>(time.minutes().count()),
+        .second = static_cast<std::uint8_t>(time.seconds().count()),
+    };
+}
+
 TimeStatus decodeTimeStatus(std::span<const std::uint8_t, TimeStatus::Size> bytes) {
     const auto flags = get<std::uint8_t>(bytes, Flags);
     return {

@@ -2,6 +2,9 @@
 
 #include "device/Record.h"
 
+#include <chrono>
+#include <optional>
+
 namespace zelto {
 
 /// The drive's clock as it is written with TKVR21_ZELTO_SetCurrentTime and reported inside the
@@ -22,6 +25,12 @@ struct CurrentTime {
 
 [[nodiscard]] CurrentTime decodeCurrentTime(std::span<const std::uint8_t, CurrentTime::Size>);
 [[nodiscard]] CurrentTime::Bytes encodeCurrentTime(const CurrentTime&);
+
+/// The moment that a drive's clock shows; nothing for a date or time that does not exist.
+[[nodiscard]] std::optional<std::chrono::sys_seconds> momentOf(const CurrentTime& clock);
+
+/// A moment in the parts of a drive's clock; years that the record cannot carry are cut to 16 bits.
+[[nodiscard]] CurrentTime clockAt(std::chrono::sys_seconds moment);
 
 /// The drive's time status record, read with TKVR21_ZELTO_GetTimeStatus.
 struct TimeStatus {

@@ -1,7 +1,7 @@
 #include "app/AppDelegate.h"
 #include "device/DeviceReads.h"
 #include "platform/Clock.h"
-#include "session/DeviceClock.h"
+#include "session/ClockText.h"
 #include "ui/Strings.h"
 
 namespace zelto {

@@ -3,7 +3,7 @@
 #include "device/IORegistry.h"
 #include "device/ZELTOctrl.h"
 #include "platform/Clock.h"
-#include "session/DeviceClock.h"
+#include "session/ClockText.h"
 #include "session/RemainingTime.h"
 #include "settings/SetupSteps.h"
 #include "ui/Strings.h"

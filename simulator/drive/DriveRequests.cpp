@@ -144,30 +144,14 @@ std::optional<EncryptionInfo> decodeEncryptionInfo(std::span<const std::uint8_t>
     return info;
 }
 
-/// The moment that a clock record names; nothing when there is no such moment.
-std::optional<std::chrono::sys_seconds> momentOf(const CurrentTime& time) {
-    using namespace std::chrono;
-    const year_month_day date{year{time.year}, month{time.month}, day{time.day}};
-    if (!date.ok() || time.year < 1970 || time.year > 9999 || time.hour > 23 || time.minute > 59 ||
-        time.second > 59) {
+/// The moment that a clock can be set to; nothing for one that this hardware does not count.
+std::optional<std::chrono::sys_seconds> settableMoment(const CurrentTime& time) {
+    constexpr std::uint16_t FirstYear = 1970;
+    constexpr std::uint16_t LastYear = 9999;
+    if (time.year < FirstYear || time.year > LastYear) {
         return std::nullopt;
     }
-    return sys_days{date} + hours{time.hour} + minutes{time.minute} + seconds{time.second};
-}
-
-CurrentTime recordOf(std::chrono::sys_seconds moment) {
-    using namespace std::chrono;
-    const auto days = floor<std::chrono::days>(moment);
-    const year_month_day date{days};
-    const hh_mm_ss time{moment - days};
-    return {
-        .year = static_cast<std::uint16_t>(static_cast<int>(date.year())),
-        .month = static_cast<std::uint8_t>(static_cast<unsigned>(date.month())),
-        .day = static_cast<std::uint8_t>(static_cast<unsigned>(date.day())),
-        .hour = static_cast<std::uint8_t>(time.hours().count()),
-        .minute = static_cast<std::uint8_t>(time.minutes().count()),
-        .second = static_cast<std::uint8_t>(time.seconds().count()),
-    };
+    return momentOf(time);
 }
 
 /// An area of a known kind, in use, whose flags say the same as its type.
@@ -340,7 +324,7 @@ Sense DriveModel::getTimeStatus(Request& request) {
     };
     if (m_remembered.clock) {
         const auto shown = m_remembered.clock->shown + (request.now - m_remembered.clock->at);
-        status.clock = recordOf(shown);
+        status.clock = clockAt(shown);
     }
     if (m_remembered.autoClearExpired) {
         status.autoClearElapsed = m_remembered.autoClearPeriod;
@@ -568,7 +552,7 @@ Sense DriveModel::setIdleLockPeriod(Request& request) {
 }
 
 Sense DriveModel::setCurrentTime(Request& request) {
-    const auto shown = momentOf(decodeCurrentTime(request.sent.first<CurrentTime::Size>()));
+    const auto shown = settableMoment(decodeCurrentTime(request.sent.first<CurrentTime::Size>()));
     if (!shown) {
         return SenseCode::InvalidFieldInParameters;
     }

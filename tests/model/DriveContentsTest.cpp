@@ -1,6 +1,6 @@
 #include "simulator/drive/DriveContents.h"
 
-#include "tests/model/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -13,6 +13,8 @@
 
 namespace zelto::simulator::test {
 namespace {
+
+using tests::TemporaryFolder;
 
 using Bytes = std::vector<std::uint8_t>;
 

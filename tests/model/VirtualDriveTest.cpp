@@ -1,7 +1,7 @@
 #include "simulator/drive/VirtualDrive.h"
 
 #include "tests/model/DriveBench.h"
-#include "tests/model/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -10,6 +10,8 @@
 
 namespace zelto::simulator::test {
 namespace {
+
+using tests::TemporaryFolder;
 
 using enum SecurityState;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/linux/UDisksState.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

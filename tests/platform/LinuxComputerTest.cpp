@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxComputer.h"
 #include "platform/linux/DetachedStart.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <QEventLoop>
 #include <QFileSystemWatcher>

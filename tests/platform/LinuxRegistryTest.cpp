@@ -149,8 +149,8 @@ TEST_F(Drive, ReadsAsEmptyOnceItHasLeftInTheMiddleOfAWalk) {
     LinuxRegistry registry(tree.path());
     const auto devices =
         registry.IORegistryGetRootEntry()->IORegistryEntryGetChildIterator("IOService");
-    devices->IOIteratorNext();
-    devices->IOIteratorNext();
+    static_cast<void>(devices->IOIteratorNext());
+    static_cast<void>(devices->IOIteratorNext());
     const auto drive = devices->IOIteratorNext();
     const auto interfaces = drive->IORegistryEntryGetChildIterator("IOService");
     const auto interface = interfaces->IOIteratorNext();

@@ -1,6 +1,6 @@
 #include "platform/linux/MountInfo.h"
 #include "platform/linux/LinuxMountTable.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

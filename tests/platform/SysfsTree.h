@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <string>
 

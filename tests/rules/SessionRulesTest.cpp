@@ -1,5 +1,5 @@
 #include "app/BundleLocation.h"
-#include "session/DeviceClock.h"
+#include "session/ClockText.h"
 #include "session/RemainingTime.h"
 
 #include <gtest/gtest.h>
