@@ -136,6 +136,15 @@ bool LinuxDiskTool::eject(const std::string& bsdName) {
 }
 
 bool LinuxDiskTool::eraseDisk(const std::string& label, const std::string& bsdName) {
+    // A drive that has just come back is in the kernel's tree a while before the service has heard
+    // of it and of its medium.
+    const auto isKnown = [&](const UDisksState& now) {
+        const auto* found = now.findDevice(bsdName);
+        return found != nullptr && found->sizeInBytes > 0;
+    };
+    if (!service().waitFor(isKnown, m_propertyDelay)) {
+        return false;
+    }
     const auto state = service().state();
     const auto* disk = state ? state->findDevice(bsdName) : nullptr;
     if (disk == nullptr || !writeTable(disk->path)) {
