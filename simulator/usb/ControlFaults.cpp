@@ -20,9 +20,16 @@ std::optional<ControlFault> controlFaultNamed(std::string_view name) {
     return entry == Names.end() ? std::nullopt : std::optional(entry->second);
 }
 
-void ControlFaults::failRequest(std::uint32_t count, ControlFault fault) {
+void ControlFaults::failRequest(std::uint32_t count, ControlFault fault,
+                                std::optional<std::uint8_t> code) {
     m_countdown = count;
     m_fault = fault;
+    m_code = code;
+}
+
+bool ControlFaults::isCounted(const SetupPacket& setup) const {
+    constexpr std::uint8_t ToHost = 0x80;
+    return !m_code || (setup.bRequest == *m_code && (setup.bmRequestType & ToHost) == 0);
 }
 
 bool ControlFaults::takeVanished() {
@@ -31,7 +38,7 @@ bool ControlFaults::takeVanished() {
 
 std::optional<ControlReply> ControlFaults::request(const SetupPacket& setup,
                                                    std::span<const std::uint8_t> sent) {
-    if (m_countdown == 0 || --m_countdown > 0) {
+    if (m_countdown == 0 || !isCounted(setup) || --m_countdown > 0) {
         return m_firmware.request(setup, sent);
     }
     return fail(setup, sent);

@@ -36,9 +36,11 @@ class ControlFaults final : public VendorControl {
 public:
     explicit ControlFaults(VendorControl& firmware) : m_firmware(firmware) {}
 
-    /// The `count`-th vendor request from now on (1: the next one) fails. One fault at a time: this
-    /// replaces one that is still to come. 0 takes it back.
-    void failRequest(std::uint32_t count, ControlFault fault);
+    /// The `count`-th vendor request from now on (1: the next one) fails; with `code`, the
+    /// `count`-th towards the drive with that bRequest. One fault at a time: this replaces one that
+    /// is still to come. 0 takes it back.
+    void failRequest(std::uint32_t count, ControlFault fault,
+                     std::optional<std::uint8_t> code = std::nullopt);
     /// True once after the drive vanished.
     [[nodiscard]] bool takeVanished();
 
@@ -46,12 +48,14 @@ public:
                                                       std::span<const std::uint8_t> sent) override;
 
 private:
+    [[nodiscard]] bool isCounted(const SetupPacket& setup) const;
     [[nodiscard]] std::optional<ControlReply> fail(const SetupPacket& setup,
                                                    std::span<const std::uint8_t> sent);
 
     VendorControl& m_firmware;
     std::uint32_t m_countdown = 0;
     ControlFault m_fault = ControlFault::Refused;
+    std::optional<std::uint8_t> m_code;
     bool m_hasVanished = false;
 };
 

@@ -39,6 +39,13 @@ std::optional<std::uint32_t> numberIn(std::string_view word) {
     return isWhole ? std::optional(value) : std::nullopt;
 }
 
+std::optional<std::uint8_t> requestCodeIn(std::string_view word) {
+    std::uint8_t value = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value, 16);
+    const bool isWhole = error == std::errc{} && end == word.data() + word.size();
+    return isWhole ? std::optional(value) : std::nullopt;
+}
+
 using Words = std::span<const std::string_view>;
 
 std::string done(bool isDone, std::string_view otherwise) {
@@ -84,11 +91,12 @@ std::string notReady(DriveHost& host, Words words) {
 std::string fail(DriveHost& host, Words words) {
     const auto count = numberIn(words[0]);
     const auto fault = words.size() == 1 ? ControlFault::Refused : controlFaultNamed(words[1]);
-    if (!count || !fault) {
-        return "error fail needs a number, and stall, lost, silent, silent-after, short, vanish or "
-               "vanish-after";
+    const auto code = words.size() == 3 ? requestCodeIn(words[2]) : std::nullopt;
+    if (!count || !fault || code.has_value() != (words.size() == 3)) {
+        return "error fail needs a number, stall, lost, silent, silent-after, short, vanish or "
+               "vanish-after, and a request's code in hexadecimal";
     }
-    host.failRequest(*count, *fault);
+    host.failRequest(*count, *fault, code);
     return "ok";
 }
 
@@ -97,7 +105,8 @@ std::string state(DriveHost& host, Words /*words*/) {
 }
 
 std::string help(DriveHost& /*host*/, Words /*words*/) {
-    return "ok plug, unplug, replug, advance SECONDS, lose-clock, not-ready N, fail K [HOW], "
+    return "ok plug, unplug, replug, advance SECONDS, lose-clock, not-ready N, fail K [HOW "
+           "[CODE]], "
            "state, help, quit";
 }
 
@@ -115,7 +124,7 @@ constexpr std::array Verbs{
     Verb{"advance", 1, 1, &advance},
     Verb{"lose-clock", 0, 0, &loseClock},
     Verb{"not-ready", 1, 1, &notReady},
-    Verb{"fail", 1, 2, &fail},
+    Verb{"fail", 1, 3, &fail},
     Verb{"state", 0, 0, &state},
     Verb{"help", 0, 0, &help},
 };

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace zelto::simulator {
@@ -54,8 +55,8 @@ public:
     void advance(std::chrono::seconds time);
     void loseClock();
     void setNotReadyReads(unsigned reads) { m_drive->setNotReadyReads(reads); }
-    void failRequest(std::uint32_t count, ControlFault fault) {
-        m_faults.failRequest(count, fault);
+    void failRequest(std::uint32_t count, ControlFault fault, std::optional<std::uint8_t> code) {
+        m_faults.failRequest(count, fault, code);
     }
 
     /// The drive's condition on one line: plugged or not, who has it, its state, each unit's

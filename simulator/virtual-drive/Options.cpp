@@ -146,8 +146,9 @@ Verbs, one a line, on standard input or the socket; each is answered by a line:
   advance SECONDS     let time pass
   lose-clock          the drive was without power for too long
   not-ready N         the next N readiness reads say "not yet"
-  fail K [HOW]        the K-th vendor request from now fails; HOW is stall, lost,
-                      silent, silent-after, short, vanish or vanish-after
+  fail K [HOW [CODE]] the K-th vendor request from now fails; HOW is stall, lost,
+                      silent, silent-after, short, vanish or vanish-after; with
+                      CODE, say B3, the K-th towards the drive of that code
   state               tell how the drive is
   help, quit
 )";

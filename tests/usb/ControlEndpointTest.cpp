@@ -175,6 +175,17 @@ TEST_F(Faults, HitTheRequestCountedAndNoOther) {
     EXPECT_EQ(firmware.seen.size(), 3U);
 }
 
+TEST_F(Faults, CountOnlyRequestsOfTheirCodeTowardsTheDrive) {
+    const auto logIn = [this] { return faults.request({0x40, 0xB3, 0, 0, 0}, {}); };
+    faults.failRequest(2, ControlFault::Refused, 0xB3);
+    EXPECT_FALSE(ask()->stalled);
+    EXPECT_FALSE(logIn()->stalled);
+    EXPECT_FALSE(faults.request({0xC0, 0xB3, 0, 0, 8}, {})->stalled);
+    EXPECT_FALSE(ask()->stalled);
+    EXPECT_TRUE(logIn()->stalled);
+    EXPECT_FALSE(logIn()->stalled);
+}
+
 TEST_F(Faults, CanBeTakenBack) {
     faults.failRequest(1, ControlFault::Refused);
     faults.failRequest(0, ControlFault::Refused);
