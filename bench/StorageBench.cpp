@@ -276,7 +276,7 @@ void overUsbip(benchmark::State& state, Way way, Order order) {
 }
 
 // What the storage driver of Linux sends at most (240 sectors), and a page.
-constexpr std::int64_t Large = 120 * 1024;
+constexpr std::int64_t Large = std::int64_t{120} * 1024;
 constexpr std::int64_t Page = 4096;
 
 BENCHMARK_CAPTURE(rawFile, read, Way::Read, Order::Sequential)->Arg(Large)->UseRealTime();

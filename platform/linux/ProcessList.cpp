@@ -137,6 +137,7 @@ std::vector<Process> processes(const fs::path& proc) {
         }
     }
     std::vector<Process> found;
+    found.reserve(numbers.size());
     for (const auto number : numbers) {
         found.emplace_back(proc / std::to_string(number));
     }

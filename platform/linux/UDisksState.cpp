@@ -15,7 +15,7 @@ const QString PartitionInterface = QStringLiteral("org.freedesktop.UDisks2.Parti
 const QString TableInterface = QStringLiteral("org.freedesktop.UDisks2.PartitionTable");
 
 /// Paths come as bytes with a zero at their end.
-QByteArray withoutZero(QByteArray path) {
+QByteArray withoutZero(const QByteArray& path) {
     return path.endsWith('\0') ? path.chopped(1) : path;
 }
 

@@ -83,7 +83,7 @@ bool VirtualDisks::isKnown(const Attachment& attachment, std::size_t unit) const
 
 std::string VirtualDisks::freeName() const {
     for (unsigned number = FirstName;; ++number) {
-        const std::string name = "disk" + std::to_string(number);
+        std::string name = "disk" + std::to_string(number);
         if (std::ranges::none_of(m_disks,
                                  [&](const auto& disk) { return disk->bsdName == name; })) {
             return name;
