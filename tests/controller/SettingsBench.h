@@ -1,16 +1,11 @@
 #pragma once
 
-#include "app/AppDelegate.h"
-#include "simulator/computer/DriveOnBus.h"
-#include "simulator/computer/FaultyDevice.h"
-#include "simulator/computer/ScriptedAlerts.h"
-#include "simulator/computer/VirtualComputer.h"
+#include "tests/support/ControllerBench.h"
 #include "ui/Strings.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -43,68 +38,44 @@ struct Wishes {
     const char* autoLogOffMinutes = "";
 };
 
-/// The real controller with its real windows, on a virtual computer with one virtual drive. The
-/// person works through the controls alone.
-class SettingsBench : public testing::Test {
+/// The bench with one drive whose cable can be made to fail, and a person who knows the way through
+/// the settings.
+class SettingsBench : public testing::Test, protected ControllerBench {
 protected:
-    static constexpr std::uint64_t DriveSectors = 262144;
+    static constexpr std::uint64_t DriveSectors = NewDriveSectors;
 
-    /// Plugs a drive in and starts the program.
+    /// Plugs a new drive in and starts the program.
     void begin(std::uint64_t sectors = DriveSectors) {
-        drive = simulator::makeDrive("ZD0000000001", sectors);
-        computer.usb.setHandleWrapper([this](std::unique_ptr<UsbDeviceInterface> handle) {
-            return std::make_unique<simulator::FaultyDevice>(std::move(handle), plan);
-        });
-        computer.plug(drive);
-        startProgram();
-    }
-
-    void startProgram() {
-        app = std::make_unique<AppDelegate>(computer.platform(alerts));
-        app->applicationDidFinishLaunching();
-        computer.settle();
+        drive = plugNewDrive("ZD0000000001", sectors);
+        start();
     }
 
     /// The program ends and is started again, on the drive as it stands.
     void startAgain() {
-        app.reset();
-        computer.endProcess();
+        end();
         computer.log.clear();
         alerts.clear();
-        startProgram();
+        start();
     }
 
     /// The program ends and the drive is put away: ready for another beginning.
     void putAway() {
-        app.reset();
-        computer.endProcess();
+        end();
         plan->clear();
         if (computer.usb.isPlugged(drive)) {
-            computer.unplug(drive);
+            unplug(drive);
         }
         computer.settle();
         computer.log.clear();
         alerts.clear();
     }
 
-    void TearDown() override { app.reset(); }
-
-    /// Types a text in place of the one that stands there, as a person would.
-    static void type(QLineEdit* field, const QString& text) {
-        ASSERT_TRUE(field->isEnabled()) << field->objectName().toStdString();
-        field->selectAll();
-        if (text.isEmpty()) {
-            field->del();
-        } else {
-            field->insert(text);
-        }
-    }
-    static void type(QLineEdit* field, const char* text) { type(field, QString::fromLatin1(text)); }
-    static void click(QAbstractButton* button) {
-        ASSERT_TRUE(button->isEnabled()) << button->objectName().toStdString();
-        button->click();
-    }
-    static void check(QAbstractButton* box, bool on) {
+    /// The person, by the controls themselves.
+    using ControllerBench::type;
+    void type(const QLineEdit* field, const QString& text) { type(nameOf(field).c_str(), text); }
+    void type(const QLineEdit* field, const char* text) { type(field, QString::fromLatin1(text)); }
+    void click(const QAbstractButton* button) { press(nameOf(button).c_str()); }
+    void check(const QAbstractButton* box, bool on) {
         if (box->isChecked() != on) {
             click(box);
         }
@@ -112,25 +83,21 @@ protected:
 
     /// Opens a dialog by its button and does something in it; a dialog that is still open then is
     /// closed as with Escape.
-    void inDialog(QAbstractButton* opener, Window& dialog, const std::function<void()>& work) {
-        ASSERT_TRUE(opener->isEnabled()) << opener->objectName().toStdString();
-        bool worked = false;
-        QTimer::singleShot(0, &dialog, [&] {
-            worked = true;
+    void inDialog(const QAbstractButton* opener, Window& dialog,
+                  const std::function<void()>& work) {
+        press(nameOf(opener).c_str(), [&] {
             EXPECT_TRUE(dialog.isVisible());
             work();
             if (dialog.isVisible()) {
                 dialog.reject();
             }
         });
-        opener->click();
-        EXPECT_TRUE(worked) << "the dialog did not open";
         EXPECT_FALSE(dialog.isVisible());
     }
 
     void layOut(const Wishes& wishes) {
-        auto& form = app->AreaSettingsWindow;
-        inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+        auto& form = app().AreaSettingsWindow;
+        inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
             type(form.Disk1CapacityText, wishes.mebibytes[0]);
             type(form.Disk2CapacityText, wishes.mebibytes[1]);
             type(form.Disk3CapacityText, wishes.mebibytes[2]);
@@ -142,8 +109,8 @@ protected:
     }
 
     void setPasswords(const Wishes& wishes) {
-        auto& form = app->PasswordSettingsWindow;
-        inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+        auto& form = app().PasswordSettingsWindow;
+        inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
             click(wishes.twoPasswords ? form.PS_1stAnd2ndCell : form.PS_1stOnlyCell);
             type(form.PS_1stPasswordText, wishes.firstPassword);
             type(form.PS_Again1stPasswordText, wishes.firstPassword);
@@ -157,17 +124,17 @@ protected:
     }
 
     void setKey(const QString& key) {
-        auto& main = app->MainSettingsWindow;
+        auto& main = app().MainSettingsWindow;
         click(main.EncryptionKeyManualCell);
-        inDialog(main.EncryptionKeyButton, app->EncryptionKeyWindow, [&] {
-            type(app->EncryptionKeyWindow.EncryptionKeyText, key);
-            click(app->EncryptionKeyWindow.EncryptionKeyOKButton);
+        inDialog(main.EncryptionKeyButton, app().EncryptionKeyWindow, [&] {
+            type(app().EncryptionKeyWindow.EncryptionKeyText, key);
+            click(app().EncryptionKeyWindow.EncryptionKeyOKButton);
         });
     }
 
     /// Fills the main settings window for first-time set-up.
     void fill(const Wishes& wishes) {
-        auto& main = app->MainSettingsWindow;
+        auto& main = app().MainSettingsWindow;
         layOut(wishes);
         if (wishes.secureDisk == 0) {
             return;
@@ -186,93 +153,124 @@ protected:
         }
     }
 
-    void commit() { click(app->MainSettingsWindow.MainSettingsOKButton); }
+    void commit() { click(app().MainSettingsWindow.MainSettingsOKButton); }
 
     /// A drive from its box to "finished", and the program started again.
     void setUpAndStartAgain(const Wishes& wishes) {
         fill(wishes);
         commit();
-        computer.advance(std::chrono::seconds(10));
-        ASSERT_EQ(app->Setup.InitialSettingState, 4);
-        ASSERT_THAT(alerts.messages(), testing::IsEmpty());
-        click(app->ZeltoSettingWindow.ZeltoSettingOKButton);
-        ASSERT_TRUE(computer.application.isStopped());
+        tick(10);
+        ASSERT_EQ(app().Setup.InitialSettingState, 4);
+        ASSERT_THAT(messages(), testing::IsEmpty());
+        click(app().ZeltoSettingWindow.ZeltoSettingOKButton);
+        ASSERT_TRUE(hasQuit());
         startAgain();
     }
 
     void logIn(const QString& password) {
-        type(app->AuthenticateWindow.AuthenticateTextField, password);
-        click(app->AuthenticateWindow.AuthenticateSubmit);
+        type(app().AuthenticateWindow.AuthenticateTextField, password);
+        click(app().AuthenticateWindow.AuthenticateSubmit);
     }
 
     void openSettingsOfUnlockedDrive() {
-        auto* const setup = app->UnlockedWindow.isVisible() ? app->UnlockedWindow.UnlockedSetup
-                                                            : app->UnlockingWindow.UnlockingSetup;
+        auto* const setup = app().UnlockedWindow.isVisible() ? app().UnlockedWindow.UnlockedSetup
+                                                             : app().UnlockingWindow.UnlockingSetup;
         click(setup);
-        ASSERT_TRUE(app->MainSettingsWindow.isVisible());
+        ASSERT_TRUE(app().MainSettingsWindow.isVisible());
     }
 
-    /// A drive that was set up, logged in to, with the settings open.
+    /// A drive that was set up, logged in to, with the settings open. It was set up elsewhere, which
+    /// saves the time that setting it up here takes.
     void beginWithSettingsOf(const Wishes& wishes) {
-        begin();
-        setUpAndStartAgain(wishes);
-        if (wishes.secureDisk == 0) {
-            return;
+        drive = plugPreparedDrive(setupOf(wishes));
+        start();
+        openSettingsAfterLogIn(wishes);
+    }
+    void openSettingsAfterLogIn(const Wishes& wishes) {
+        if (wishes.secureDisk != 0) {
+            logIn(wishes.firstPassword);
+            if (wishes.twoPasswords) {
+                logIn(wishes.secondPassword);
+            }
+            openSettingsOfUnlockedDrive();
         }
-        logIn(wishes.firstPassword);
-        if (wishes.twoPasswords) {
-            logIn(wishes.secondPassword);
-        }
-        openSettingsOfUnlockedDrive();
         computer.log.clear();
     }
 
-    /// The commands sent since the log was cleared, in order, without what the tick reads.
+    /// The commands since the log was cleared, in order, without their common prefix and without
+    /// what the tick reads.
     [[nodiscard]] std::vector<std::string> commands() const {
-        std::vector<std::string> names;
-        for (const auto& text : computer.log.texts(simulator::LogLine::Kind::Command)) {
-            if (text != "TKVR21_ZELTO_GetTimeStatus") {
-                names.push_back(text.substr(std::string("TKVR21_").size()));
-            }
+        auto names = ControllerBench::commands();
+        for (auto& name : names) {
+            name.erase(0, Prefix.size());
         }
         return names;
     }
     [[nodiscard]] const simulator::LogLine& latest(const std::string& command) const {
         static const simulator::LogLine none;
-        const auto* const line = computer.log.latest("TKVR21_" + command);
+        const auto* const line = computer.log.latest(Prefix + command);
         EXPECT_NE(line, nullptr) << command;
         return line == nullptr ? none : *line;
     }
     [[nodiscard]] std::vector<simulator::LogLine> all(const std::string& command) const {
         std::vector<simulator::LogLine> found;
         for (const auto& line : computer.log.lines()) {
-            if (line.text == "TKVR21_" + command) {
+            if (line.text == Prefix + command) {
                 found.push_back(line);
             }
         }
         return found;
     }
-    [[nodiscard]] std::vector<QString> messages() const { return alerts.messages(); }
+    [[nodiscard]] std::vector<QString> messages() const { return alertTexts(); }
 
     /// The next transfer of this command goes wrong, and all later ones of it.
     void failCommand(const std::string& command, simulator::Fault fault) {
         plan->failWhen(
-            [command](const IOUSBDevRequest& request) {
-                return simulator::commandName(request) == "TKVR21_" + command;
+            [name = Prefix + command](const IOUSBDevRequest& request) {
+                return simulator::commandName(request) == name;
             },
             fault);
     }
 
     [[nodiscard]] SecurityState driveState() { return drive->drive().state(computer.clock.now()); }
-    [[nodiscard]] bool okIsEnabled() const {
-        return app->MainSettingsWindow.MainSettingsOKButton->isEnabled();
+    [[nodiscard]] bool okIsEnabled() {
+        return app().MainSettingsWindow.MainSettingsOKButton->isEnabled();
     }
 
-    simulator::VirtualComputer computer;
-    simulator::ScriptedAlerts alerts{computer.log};
-    std::shared_ptr<simulator::FaultPlan> plan = std::make_shared<simulator::FaultPlan>();
-    std::shared_ptr<simulator::DriveOnBus> drive;
-    std::unique_ptr<AppDelegate> app;
+    std::shared_ptr<simulator::FaultPlan> plan = putFaultsInto();
+    Drive drive;
+
+private:
+    inline static const std::string Prefix = "TKVR21_";
+
+    static std::string nameOf(const QWidget* control) {
+        return control->objectName().toStdString();
+    }
+
+    /// What first-time set-up makes of the wishes, its unset clock and blank user areas included.
+    static simulator::DriveSetup setupOf(const Wishes& wishes) {
+        constexpr std::uint32_t SecondsPerDay = 86400;
+        constexpr std::uint32_t SecondsPerMinute = 60;
+        simulator::DriveSetup setup{
+            .serial = "ZD0000000001",
+            .areas = {},
+            .firstPassword = wishes.firstPassword.toStdString(),
+            .secondPassword =
+                wishes.twoPasswords ? wishes.secondPassword.toStdString() : std::string(),
+            .trials = static_cast<std::uint8_t>(QByteArray(wishes.trials).toUInt()),
+            .autoClearSeconds = QByteArray(wishes.autoClearDays).toUInt() * SecondsPerDay,
+            .idleLockSeconds = static_cast<std::uint16_t>(
+                QByteArray(wishes.autoLogOffMinutes).toUInt() * SecondsPerMinute),
+            .clockIsSet = false};
+        for (int disk = 1; disk <= 3; ++disk) {
+            const auto mebibytes =
+                QByteArray(wishes.mebibytes[static_cast<std::size_t>(disk) - 1]).toULongLong();
+            if (mebibytes != 0) {
+                setup.areas.push_back({mebibytes, disk == wishes.secureDisk});
+            }
+        }
+        return setup;
+    }
 };
 
 } // namespace zelto::test

@@ -22,8 +22,8 @@ protected:
     };
 
     void changePasswords(const Passwords& passwords, bool two = false) {
-        auto& form = app->PasswordChangeWindow;
-        inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+        auto& form = app().PasswordChangeWindow;
+        inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
             type(form.PC_Current1stPasswordText, passwords.current1);
             type(form.PC_New1stPasswordText, passwords.new1);
             type(form.PC_AgainNew1stPasswordText, passwords.new1);
@@ -39,10 +39,13 @@ protected:
 };
 
 TEST_F(ChangeSettings, aDriveThatWasSetUpShowsItsSettings) {
-    beginWithSettingsOf({.autoClearDays = "2", .autoLogOffMinutes = "30"});
-    auto& main = app->MainSettingsWindow;
-    EXPECT_FALSE(app->Settings.InitialSetting);
-    EXPECT_TRUE(app->Settings.SecureAreaAlreadyExist);
+    const Wishes wishes{.autoClearDays = "2", .autoLogOffMinutes = "30"};
+    begin();
+    ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
+    openSettingsAfterLogIn(wishes);
+    auto& main = app().MainSettingsWindow;
+    EXPECT_FALSE(app().Settings.InitialSetting);
+    EXPECT_TRUE(app().Settings.SecureAreaAlreadyExist);
     EXPECT_FALSE(main.AreaSettingsButton->isEnabled());
     EXPECT_EQ(main.TotalCapacityText->text(), localized("IDS_TOTAL_CAPACITY", 128));
     EXPECT_EQ(main.FreeCapacityText->text(), localized("IDS_FREE_CAPACITY", 48));
@@ -57,12 +60,15 @@ TEST_F(ChangeSettings, aDriveThatWasSetUpShowsItsSettings) {
     EXPECT_TRUE(main.AutoLogOffEnabledCheckBox->isChecked());
     EXPECT_EQ(main.AutoLogOffText->text(), QStringLiteral("30"));
     EXPECT_FALSE(okIsEnabled());
-    EXPECT_EQ(app->numberOfRowsInTableView(), 2);
+    EXPECT_EQ(app().numberOfRowsInTableView(), 2);
 }
 
 TEST_F(ChangeSettings, periodsThatAreOffLeaveTheirControlsDisabled) {
-    beginWithSettingsOf({.key = QStringLiteral("0A")});
-    auto& main = app->MainSettingsWindow;
+    const Wishes wishes{.key = QStringLiteral("0A")};
+    begin();
+    ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
+    openSettingsAfterLogIn(wishes);
+    auto& main = app().MainSettingsWindow;
     EXPECT_TRUE(main.AutoClearEnabledCheckBox->isEnabled());
     EXPECT_FALSE(main.AutoClearEnabledCheckBox->isChecked());
     EXPECT_FALSE(main.AutoClearText->isEnabled());
@@ -73,7 +79,7 @@ TEST_F(ChangeSettings, periodsThatAreOffLeaveTheirControlsDisabled) {
 
 TEST_F(ChangeSettings, theRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuits) {
     beginWithSettingsOf({.autoClearDays = "2", .autoLogOffMinutes = "30"});
-    click(app->MainSettingsWindow.ShowRemainingTimeCheckBox);
+    click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
     ASSERT_TRUE(okIsEnabled());
     commit();
     EXPECT_EQ(commands(),
@@ -81,15 +87,15 @@ TEST_F(ChangeSettings, theRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuit
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 172800 & 0xFFFF);
     EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 1800);
     EXPECT_THAT(latest("ZELTO_WriteHintData").data, ElementsAre(1));
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
     EXPECT_THAT(messages(), IsEmpty());
 }
 
 TEST_F(ChangeSettings, anUncheckedAutoClearIsSentAsZero) {
     beginWithSettingsOf({.autoClearDays = "2"});
-    click(app->MainSettingsWindow.AutoClearEnabledCheckBox);
+    click(app().MainSettingsWindow.AutoClearEnabledCheckBox);
     // Whatever the text holds.
-    app->MainSettingsWindow.AutoClearText->setText(QStringLiteral("7"));
+    app().MainSettingsWindow.AutoClearText->setText(QStringLiteral("7"));
     commit();
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 0);
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wIndex, 0);
@@ -97,15 +103,15 @@ TEST_F(ChangeSettings, anUncheckedAutoClearIsSentAsZero) {
 
 TEST_F(ChangeSettings, cancelQuitsWithoutACommand) {
     beginWithSettingsOf({});
-    click(app->MainSettingsWindow.MainSettingsCancelButton);
-    EXPECT_TRUE(computer.application.isStopped());
+    click(app().MainSettingsWindow.MainSettingsCancelButton);
+    EXPECT_TRUE(hasQuit());
     EXPECT_THAT(commands(), IsEmpty());
 }
 
 TEST_F(ChangeSettings, closingTheWindowIsCancelling) {
     beginWithSettingsOf({});
-    app->MainSettingsWindow.reject();
-    EXPECT_TRUE(computer.application.isStopped());
+    app().MainSettingsWindow.reject();
+    EXPECT_TRUE(hasQuit());
     EXPECT_THAT(commands(), IsEmpty());
 }
 
@@ -120,9 +126,9 @@ TEST_F(ChangeSettings, onePasswordIsChangedByOneRecord) {
     EXPECT_EQ(records[0].data[0], 0x06);
     EXPECT_EQ(records[0].data[4], 0);
     EXPECT_EQ(records[0].setup.wValue, 0);
-    EXPECT_TRUE(computer.application.isStopped());
-    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
-    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.strCurrent1stPassword.isEmpty());
+    EXPECT_TRUE(hasQuit());
+    EXPECT_TRUE(app().Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
+    EXPECT_TRUE(app().Settings.PasswordSettingsParameters.strCurrent1stPassword.isEmpty());
 
     computer.replug(drive);
     startAgain();
@@ -132,7 +138,7 @@ TEST_F(ChangeSettings, onePasswordIsChangedByOneRecord) {
 
 TEST_F(ChangeSettings, twoPasswordsAreChangedByTwoRecords) {
     beginWithSettingsOf({.twoPasswords = true});
-    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.Use1stAnd2ndPassword);
+    EXPECT_TRUE(app().Settings.PasswordSettingsParameters.Use1stAnd2ndPassword);
     changePasswords({}, true);
     commit();
     const auto records = all("SetAuthInfo");
@@ -159,21 +165,21 @@ TEST_F(ChangeSettings, aWrongCurrentFirstPasswordIsToldAfterAPauseAndTheWindowSt
     EXPECT_EQ(commands(), (Commands{"SetAuthInfo", "GetDeviceStatus"}));
     EXPECT_EQ(computer.log.count("sleep 1"), 1u);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_CURRENT_1ST_PASSWORD_INVALID")));
-    EXPECT_FALSE(computer.application.isStopped());
+    EXPECT_FALSE(hasQuit());
     EXPECT_TRUE(okIsEnabled());
-    EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+    EXPECT_TRUE(app().MainSettingsWindow.isVisible());
 
     // What was typed is still there; the user corrects one field and tries again.
     alerts.clear();
-    auto& form = app->PasswordChangeWindow;
-    inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    auto& form = app().PasswordChangeWindow;
+    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
         EXPECT_EQ(form.PC_New1stPasswordText->text(), QStringLiteral("newFirst"));
         type(form.PC_Current1stPasswordText, "first");
         click(form.PC_OKButton);
     });
     commit();
     EXPECT_THAT(messages(), IsEmpty());
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(ChangeSettings, aWrongCurrentSecondPasswordChangesNothing) {
@@ -210,13 +216,13 @@ TEST_F(ChangeSettings, aDriveThatIsGoneIsReportedByTheStatusReadAfterTheRefusal)
     failCommand("SetAuthInfo", {.kind = Fault::Kind::VanishesBefore});
     commit();
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
-    EXPECT_FALSE(computer.application.isStopped());
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(ChangeSettings, aRefusedPeriodKeepsTheWindowOpen) {
     for (const char* command : {"ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
         beginWithSettingsOf({});
-        click(app->MainSettingsWindow.ShowRemainingTimeCheckBox);
+        click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
         failCommand(command, {});
         commit();
         EXPECT_EQ(messages().size(), 1u);
@@ -228,7 +234,7 @@ TEST_F(ChangeSettings, aRefusedPeriodKeepsTheWindowOpen) {
 
 TEST_F(ChangeSettings, textThatIsNotAPeriodKeepsOkDisabled) {
     beginWithSettingsOf({});
-    auto& main = app->MainSettingsWindow;
+    auto& main = app().MainSettingsWindow;
     click(main.AutoClearEnabledCheckBox);
     EXPECT_FALSE(okIsEnabled());
     for (const QString& text :
@@ -250,7 +256,7 @@ TEST_F(ChangeSettings, textThatIsNotAPeriodKeepsOkDisabled) {
 
 TEST_F(ChangeSettings, switchingAutoLogOffOffEmptiesItsTextAndOnKeepsIt) {
     beginWithSettingsOf({.autoLogOffMinutes = "30"});
-    auto& main = app->MainSettingsWindow;
+    auto& main = app().MainSettingsWindow;
     click(main.AutoLogOffEnabledCheckBox);
     EXPECT_TRUE(main.AutoLogOffText->text().isEmpty());
     EXPECT_FALSE(main.AutoLogOffText->isEnabled());
@@ -262,42 +268,42 @@ TEST_F(ChangeSettings, switchingAutoLogOffOffEmptiesItsTextAndOnKeepsIt) {
 
 TEST_F(ChangeSettings, openingTwiceInOneRunLeavesTwoItemsAndShowsTheFirst) {
     beginWithSettingsOf({});
-    app->DisplayMainSettingsWindow(false);
-    EXPECT_EQ(app->MainSettingsWindow.ZeltoDriveComboBox->count(), 2);
-    EXPECT_EQ(app->MainSettingsWindow.ZeltoDriveComboBox->currentIndex(), 0);
+    app().DisplayMainSettingsWindow(false);
+    EXPECT_EQ(app().MainSettingsWindow.ZeltoDriveComboBox->count(), 2);
+    EXPECT_EQ(app().MainSettingsWindow.ZeltoDriveComboBox->currentIndex(), 0);
 }
 
 TEST_F(ChangeSettings, anAreaListThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
-    app->MainSettingsWindow.orderOut();
+    app().MainSettingsWindow.orderOut();
     failCommand("GetAreaInfos", {.kind = Fault::Kind::VanishesBefore});
-    app->DisplayMainSettingsWindow(false);
-    EXPECT_FALSE(app->MainSettingsWindow.isVisible());
+    app().DisplayMainSettingsWindow(false);
+    EXPECT_FALSE(app().MainSettingsWindow.isVisible());
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
 }
 
 TEST_F(ChangeSettings, aTimeStatusThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
-    app->MainSettingsWindow.orderOut();
+    app().MainSettingsWindow.orderOut();
     failCommand("ZELTO_GetTimeStatus", {});
-    app->DisplayMainSettingsWindow(false);
-    EXPECT_FALSE(app->MainSettingsWindow.isVisible());
+    app().DisplayMainSettingsWindow(false);
+    EXPECT_FALSE(app().MainSettingsWindow.isVisible());
     EXPECT_EQ(messages().size(), 1u);
 }
 
 TEST_F(ChangeSettings, aStatusThatCannotBeReadIsNotReported) {
     beginWithSettingsOf({});
     failCommand("GetDeviceStatus", {});
-    app->DisplayMainSettingsWindow(false);
-    EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+    app().DisplayMainSettingsWindow(false);
+    EXPECT_TRUE(app().MainSettingsWindow.isVisible());
     EXPECT_THAT(messages(), IsEmpty());
 }
 
 TEST_F(ChangeSettings, aDriveWithoutSecureAreaHasNothingToChangeButNothingBreaks) {
     beginWithSettingsOf({.secureDisk = 0});
-    auto& main = app->MainSettingsWindow;
+    auto& main = app().MainSettingsWindow;
     EXPECT_TRUE(main.isVisible());
-    EXPECT_FALSE(app->Settings.InitialSetting);
+    EXPECT_FALSE(app().Settings.InitialSetting);
     EXPECT_FALSE(main.PasswordSettingsButton->isEnabled());
     EXPECT_FALSE(main.AutoClearEnabledCheckBox->isEnabled());
     EXPECT_FALSE(main.EraseEncryptionKeyButton->isEnabled());

@@ -1,5 +1,7 @@
 #include "tests/controller/SettingsBench.h"
 
+#include <QTimer>
+
 namespace zelto {
 namespace {
 
@@ -22,23 +24,23 @@ class AreaDialog : public SettingsBench {};
 
 TEST_F(AreaDialog, offersTheWholeDriveToDisk1) {
     begin();
-    auto& form = app->AreaSettingsWindow;
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+    auto& form = app().AreaSettingsWindow;
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
         EXPECT_EQ(form.Disk1CapacityText->text(), QStringLiteral("108"));
         EXPECT_EQ(form.Disk2CapacityText->text(), QStringLiteral("0"));
         EXPECT_EQ(form.Disk3CapacityText->text(), QStringLiteral("0"));
         EXPECT_EQ(form.LeftCapacityText->text(), localized("IDS_FREE_CAPACITY", 0));
         EXPECT_TRUE(form.AreaSettingsOKButton->isEnabled());
-        EXPECT_EQ(app->TextInputMode, 3);
+        EXPECT_EQ(app().TextInputMode, 3);
     });
-    EXPECT_EQ(app->TextInputMode, 0);
-    EXPECT_FALSE(app->Changed.AreaSettingsPerformed);
+    EXPECT_EQ(app().TextInputMode, 0);
+    EXPECT_FALSE(app().Changed.AreaSettingsPerformed);
 }
 
 TEST_F(AreaDialog, showsWhatIsLeftAfterEveryEditAndWhenItIsTooMuch) {
     begin();
-    auto& form = app->AreaSettingsWindow;
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+    auto& form = app().AreaSettingsWindow;
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
         type(form.Disk1CapacityText, "100");
         EXPECT_EQ(form.LeftCapacityText->text(), localized("IDS_FREE_CAPACITY", 8));
         type(form.Disk2CapacityText, "8");
@@ -56,8 +58,8 @@ TEST_F(AreaDialog, showsWhatIsLeftAfterEveryEditAndWhenItIsTooMuch) {
 
 TEST_F(AreaDialog, strangeTextsKeepOkDisabled) {
     begin();
-    auto& form = app->AreaSettingsWindow;
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+    auto& form = app().AreaSettingsWindow;
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
         type(form.Disk1CapacityText, "10");
         for (const QString& text : strangeTexts()) {
             type(form.Disk3CapacityText, text);
@@ -72,8 +74,8 @@ TEST_F(AreaDialog, strangeTextsKeepOkDisabled) {
 
 TEST_F(AreaDialog, atMostOneDiskIsSecure) {
     begin();
-    auto& form = app->AreaSettingsWindow;
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+    auto& form = app().AreaSettingsWindow;
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
         click(form.Disk1SecureCheckBox);
         click(form.Disk3SecureCheckBox);
         EXPECT_FALSE(form.Disk1SecureCheckBox->isChecked());
@@ -89,16 +91,16 @@ TEST_F(AreaDialog, atMostOneDiskIsSecure) {
 
 TEST_F(AreaDialog, aCancelledDialogKeepsWhatWasTypedAndNothingElse) {
     begin();
-    auto& form = app->AreaSettingsWindow;
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+    auto& form = app().AreaSettingsWindow;
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
         type(form.Disk1CapacityText, "50");
         click(form.Disk1SecureCheckBox);
         click(form.AreaSettingsCancelButton);
     });
-    EXPECT_FALSE(app->Changed.AreaSettingsPerformed);
-    EXPECT_EQ(app->Settings.AreaInfos.entry(0).sectorCount, AreaInfoEntry::AllSectors);
+    EXPECT_FALSE(app().Changed.AreaSettingsPerformed);
+    EXPECT_EQ(app().Settings.AreaInfos.entry(0).sectorCount, AreaInfoEntry::AllSectors);
     EXPECT_FALSE(okIsEnabled());
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
         EXPECT_EQ(form.Disk1CapacityText->text(), QStringLiteral("50"));
         EXPECT_FALSE(form.Disk1SecureCheckBox->isChecked());
     });
@@ -106,12 +108,12 @@ TEST_F(AreaDialog, aCancelledDialogKeepsWhatWasTypedAndNothingElse) {
 
 TEST_F(AreaDialog, onlyDisk1sSecureChoiceIsBroughtBack) {
     begin();
-    auto& form = app->AreaSettingsWindow;
+    auto& form = app().AreaSettingsWindow;
     layOut({.secureDisk = 1});
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form,
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form,
              [&] { EXPECT_TRUE(form.Disk1SecureCheckBox->isChecked()); });
     layOut({.mebibytes = {"10", "10", "0"}, .secureDisk = 2});
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
         EXPECT_FALSE(form.Disk1SecureCheckBox->isChecked());
         EXPECT_FALSE(form.Disk2SecureCheckBox->isChecked());
     });
@@ -119,20 +121,20 @@ TEST_F(AreaDialog, onlyDisk1sSecureChoiceIsBroughtBack) {
 
 TEST_F(AreaDialog, anEmptyDisk2MovesDisk3UpInTheTable) {
     begin();
-    EXPECT_EQ(app->tableViewObjectValue(QStringLiteral("ColumnIDType"), 0),
+    EXPECT_EQ(app().tableViewObjectValue(QStringLiteral("ColumnIDType"), 0),
               localized("IDS_FREE_AREA"));
-    EXPECT_EQ(app->tableViewObjectValue(QStringLiteral("ColumnIDCapacity"), 0),
+    EXPECT_EQ(app().tableViewObjectValue(QStringLiteral("ColumnIDCapacity"), 0),
               localized("IDS_ALL_SECTORS"));
     layOut({.mebibytes = {"50", "0", "10"}, .secureDisk = 3});
-    EXPECT_EQ(app->numberOfRowsInTableView(), 2);
-    EXPECT_EQ(app->tableViewObjectValue(QStringLiteral("ColumnIDDisk"), 1),
+    EXPECT_EQ(app().numberOfRowsInTableView(), 2);
+    EXPECT_EQ(app().tableViewObjectValue(QStringLiteral("ColumnIDDisk"), 1),
               QStringLiteral("Disk2"));
-    EXPECT_EQ(app->tableViewObjectValue(QStringLiteral("ColumnIDType"), 1),
+    EXPECT_EQ(app().tableViewObjectValue(QStringLiteral("ColumnIDType"), 1),
               localized("IDS_SECURE_AREA"));
-    EXPECT_EQ(app->tableViewObjectValue(QStringLiteral("ColumnIDCapacity"), 1),
+    EXPECT_EQ(app().tableViewObjectValue(QStringLiteral("ColumnIDCapacity"), 1),
               QStringLiteral("10MB"));
-    EXPECT_EQ(app->MainSettingsWindow.AreaInfosTableView->model()->rowCount(), 2);
-    EXPECT_EQ(app->MainSettingsWindow.FreeCapacityText->text(), localized("IDS_FREE_CAPACITY", 48));
+    EXPECT_EQ(app().MainSettingsWindow.AreaInfosTableView->model()->rowCount(), 2);
+    EXPECT_EQ(app().MainSettingsWindow.FreeCapacityText->text(), localized("IDS_FREE_CAPACITY", 48));
 }
 
 TEST_F(AreaDialog, readsNeitherAreasNorTimesAgain) {
@@ -146,7 +148,7 @@ TEST_F(AreaDialog, readsNeitherAreasNorTimesAgain) {
 
 TEST_F(AreaDialog, aSecureAreaOffersTheSecurityControlsOnceAndKeepsThemAfterwards) {
     begin();
-    auto& main = app->MainSettingsWindow;
+    auto& main = app().MainSettingsWindow;
     layOut({.secureDisk = 1});
     EXPECT_TRUE(main.PasswordSettingsButton->isEnabled());
     EXPECT_TRUE(main.EncryptionKeyAutoManualSelectRadioButton->isEnabled());
@@ -163,21 +165,21 @@ TEST_F(AreaDialog, aSecureAreaOffersTheSecurityControlsOnceAndKeepsThemAfterward
     layOut({.mebibytes = {"10", "0", "0"}, .secureDisk = 1});
     EXPECT_EQ(main.AutoClearText->text(), QStringLiteral("5"));
     EXPECT_TRUE(main.AutoClearEnabledCheckBox->isChecked());
-    EXPECT_EQ(app->Settings.StrEncryptionKey, QStringLiteral("0A"));
+    EXPECT_EQ(app().Settings.StrEncryptionKey, QStringLiteral("0A"));
 
     layOut({.secureDisk = 0});
     EXPECT_FALSE(main.AutoClearEnabledCheckBox->isChecked());
     EXPECT_TRUE(main.AutoClearText->text().isEmpty());
-    EXPECT_TRUE(app->Settings.StrEncryptionKey.isEmpty());
+    EXPECT_TRUE(app().Settings.StrEncryptionKey.isEmpty());
     EXPECT_TRUE(okIsEnabled());
 }
 
 TEST_F(AreaDialog, onADriveWithoutRoomNothingCanBeLaidOut) {
     begin(40000);
-    EXPECT_TRUE(app->Settings.InitialSetting);
-    EXPECT_EQ(app->Settings.TotalSectorCount, 0u);
-    auto& form = app->AreaSettingsWindow;
-    inDialog(app->MainSettingsWindow.AreaSettingsButton, form, [&] {
+    EXPECT_TRUE(app().Settings.InitialSetting);
+    EXPECT_EQ(app().Settings.TotalSectorCount, 0u);
+    auto& form = app().AreaSettingsWindow;
+    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
         type(form.Disk1CapacityText, "1");
         EXPECT_FALSE(form.AreaSettingsOKButton->isEnabled());
     });
@@ -188,9 +190,9 @@ class PasswordDialog : public SettingsBench {};
 TEST_F(PasswordDialog, onePasswordNeedsAValidPairOnly) {
     begin();
     layOut({});
-    auto& form = app->PasswordSettingsWindow;
-    inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
-        EXPECT_EQ(app->TextInputMode, 4);
+    auto& form = app().PasswordSettingsWindow;
+    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
+        EXPECT_EQ(app().TextInputMode, 4);
         EXPECT_FALSE(form.PS_OKButton->isEnabled());
         EXPECT_FALSE(form.PS_2ndPasswordText->isEnabled());
         EXPECT_FALSE(form.PS_2ndPasswordNumberOfTrials->isEnabled());
@@ -210,16 +212,16 @@ TEST_F(PasswordDialog, onePasswordNeedsAValidPairOnly) {
             EXPECT_FALSE(form.PS_OKButton->isEnabled()) << text.left(9).toStdString();
         }
     });
-    EXPECT_EQ(app->TextInputMode, 0);
-    EXPECT_FALSE(app->Changed.ChangePassword);
+    EXPECT_EQ(app().TextInputMode, 0);
+    EXPECT_FALSE(app().Changed.ChangePassword);
     EXPECT_THAT(messages(), IsEmpty());
 }
 
 TEST_F(PasswordDialog, twoPasswordsNeedTrialsOfOneTo99) {
     begin();
     layOut({});
-    auto& form = app->PasswordSettingsWindow;
-    inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    auto& form = app().PasswordSettingsWindow;
+    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
         type(form.PS_1stPasswordText, "abc");
         type(form.PS_Again1stPasswordText, "abc");
         click(form.PS_1stAnd2ndCell);
@@ -238,8 +240,8 @@ TEST_F(PasswordDialog, twoPasswordsNeedTrialsOfOneTo99) {
 TEST_F(PasswordDialog, goingBackToOnePasswordKeepsTheSecondOnesText) {
     begin();
     layOut({});
-    auto& form = app->PasswordSettingsWindow;
-    inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    auto& form = app().PasswordSettingsWindow;
+    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
         type(form.PS_1stPasswordText, "abc");
         type(form.PS_Again1stPasswordText, "abc");
         click(form.PS_1stAnd2ndCell);
@@ -250,7 +252,7 @@ TEST_F(PasswordDialog, goingBackToOnePasswordKeepsTheSecondOnesText) {
         EXPECT_EQ(form.PS_2ndPasswordText->text(), QStringLiteral("def"));
         click(form.PS_OKButton);
     });
-    const auto& parameters = app->Settings.PasswordSettingsParameters;
+    const auto& parameters = app().Settings.PasswordSettingsParameters;
     EXPECT_FALSE(parameters.Use1stAnd2ndPassword);
     EXPECT_EQ(parameters.strNew1stPassword, QStringLiteral("abc"));
     EXPECT_EQ(parameters.strNew2ndPassword, QStringLiteral("def"));
@@ -262,8 +264,8 @@ TEST_F(PasswordDialog, openedAgainItIsFilledAndOkIsEnabledAtOnce) {
     begin();
     layOut({});
     setPasswords({.twoPasswords = true, .trials = "42"});
-    auto& form = app->PasswordSettingsWindow;
-    inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    auto& form = app().PasswordSettingsWindow;
+    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
         EXPECT_EQ(form.PS_1stOnlyOr1stAnd2ndRadioButton->selectedTag(), 1);
         EXPECT_EQ(form.PS_Again1stPasswordText->text(), QStringLiteral("first"));
         EXPECT_EQ(form.PS_Again2ndPasswordText->text(), QStringLiteral("second"));
@@ -271,15 +273,15 @@ TEST_F(PasswordDialog, openedAgainItIsFilledAndOkIsEnabledAtOnce) {
         EXPECT_TRUE(form.PS_OKButton->isEnabled());
         type(form.PS_1stPasswordText, "other");
     });
-    EXPECT_EQ(app->Settings.PasswordSettingsParameters.strNew1stPassword, QStringLiteral("first"));
-    EXPECT_EQ(app->Settings.PasswordSettingsParameters.strNew2ndPassword, QStringLiteral("second"));
+    EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew1stPassword, QStringLiteral("first"));
+    EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew2ndPassword, QStringLiteral("second"));
 }
 
 TEST_F(PasswordDialog, aClosedDialogHoldsNoPassword) {
     begin();
     layOut({});
     setPasswords({.twoPasswords = true});
-    auto& form = app->PasswordSettingsWindow;
+    auto& form = app().PasswordSettingsWindow;
     for (const QLineEdit* field : {form.PS_1stPasswordText, form.PS_Again1stPasswordText,
                                    form.PS_2ndPasswordText, form.PS_Again2ndPasswordText}) {
         EXPECT_TRUE(field->text().isEmpty());
@@ -288,9 +290,9 @@ TEST_F(PasswordDialog, aClosedDialogHoldsNoPassword) {
 
 TEST_F(PasswordDialog, theChangeDialogIgnoresTheSecondPasswordOfADriveWithOne) {
     beginWithSettingsOf({});
-    auto& form = app->PasswordChangeWindow;
-    inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
-        EXPECT_EQ(app->TextInputMode, 5);
+    auto& form = app().PasswordChangeWindow;
+    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
+        EXPECT_EQ(app().TextInputMode, 5);
         EXPECT_FALSE(form.PC_1stOnlyOr1stAnd2ndRadioButton->isEnabled());
         EXPECT_FALSE(form.PC_Current2ndPasswordText->isEnabled());
         EXPECT_FALSE(form.PC_2ndPasswordNumberOfTrials->isEnabled());
@@ -300,7 +302,7 @@ TEST_F(PasswordDialog, theChangeDialogIgnoresTheSecondPasswordOfADriveWithOne) {
         type(form.PC_Current1stPasswordText, "same");
         EXPECT_TRUE(form.PC_OKButton->isEnabled());
     });
-    EXPECT_FALSE(app->Changed.ChangePassword);
+    EXPECT_FALSE(app().Changed.ChangePassword);
     EXPECT_FALSE(okIsEnabled());
 }
 
@@ -309,11 +311,11 @@ class KeyDialog : public SettingsBench {};
 TEST_F(KeyDialog, acceptsOneToSixtyFourBytesInHexadecimalDigits) {
     begin();
     layOut({});
-    auto& main = app->MainSettingsWindow;
+    auto& main = app().MainSettingsWindow;
     click(main.EncryptionKeyManualCell);
-    auto& form = app->EncryptionKeyWindow;
+    auto& form = app().EncryptionKeyWindow;
     inDialog(main.EncryptionKeyButton, form, [&] {
-        EXPECT_EQ(app->TextInputMode, 6);
+        EXPECT_EQ(app().TextInputMode, 6);
         EXPECT_FALSE(form.EncryptionKeyOKButton->isEnabled());
         for (const QString& text :
              {QStringLiteral("0A"), QStringLiteral("0a"), QString(128, u'F')}) {
@@ -330,7 +332,7 @@ TEST_F(KeyDialog, acceptsOneToSixtyFourBytesInHexadecimalDigits) {
             EXPECT_FALSE(form.EncryptionKeyOKButton->isEnabled());
         }
     });
-    EXPECT_TRUE(app->Settings.StrEncryptionKey.isEmpty());
+    EXPECT_TRUE(app().Settings.StrEncryptionKey.isEmpty());
     click(main.EncryptionKeyAutoCell);
     EXPECT_FALSE(main.EncryptionKeyButton->isEnabled());
 }
@@ -339,12 +341,12 @@ TEST_F(KeyDialog, openedAgainItShowsTheKeyAsTyped) {
     begin();
     layOut({});
     setKey(QStringLiteral("0aFF"));
-    auto& form = app->EncryptionKeyWindow;
-    inDialog(app->MainSettingsWindow.EncryptionKeyButton, form, [&] {
+    auto& form = app().EncryptionKeyWindow;
+    inDialog(app().MainSettingsWindow.EncryptionKeyButton, form, [&] {
         EXPECT_EQ(form.EncryptionKeyText->text(), QStringLiteral("0aFF"));
         EXPECT_TRUE(form.EncryptionKeyOKButton->isEnabled());
     });
-    EXPECT_EQ(app->Settings.StrEncryptionKey, QStringLiteral("0aFF"));
+    EXPECT_EQ(app().Settings.StrEncryptionKey, QStringLiteral("0aFF"));
 }
 
 TEST(AreaSettingsObject, runsItsWindowAndReturnsZero) {

@@ -15,13 +15,13 @@ class EraseKey : public SettingsBench {
 protected:
     void eraseAnsweringYes() {
         alerts.answer(AlertButton::Alternate);
-        click(app->MainSettingsWindow.EraseEncryptionKeyButton);
+        click(app().MainSettingsWindow.EraseEncryptionKeyButton);
     }
 };
 
 TEST_F(EraseKey, theDefaultAnswerSendsNothing) {
     beginWithSettingsOf({});
-    click(app->MainSettingsWindow.EraseEncryptionKeyButton);
+    click(app().MainSettingsWindow.EraseEncryptionKeyButton);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERASE_ENCRYPTION_KEY_CONFIRM")));
     EXPECT_EQ(alerts.panels()[0].defaultButton, localized("IDS_CANCEL_BUTTON"));
     EXPECT_EQ(alerts.panels()[0].alternateButton, localized("OK"));
@@ -34,7 +34,7 @@ TEST_F(EraseKey, setsAPeriodOfOneSecondLogsOutAndQuits) {
     EXPECT_EQ(commands(),
               (Commands{"GetDeviceStatus", "ZELTO_SetErasePeriod", "GetAreaInfos", "Logout"}));
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 1);
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
     computer.clock.pass(std::chrono::seconds(2));
     EXPECT_EQ(driveState(), SecurityState::StateFullLock);
 }
@@ -43,13 +43,13 @@ TEST_F(EraseKey, aLockedDriveIsRefusedAfterTheStatusRead) {
     beginWithSettingsOf({});
     computer.replug(drive);
     computer.settle();
-    app->Drives.CurrentUsbIntf = app->Drives.UsbIntf[app->Drives.DevCnt - 1];
+    app().Drives.CurrentUsbIntf = app().Drives.UsbIntf[app().Drives.DevCnt - 1];
     ASSERT_EQ(driveState(), SecurityState::StateLocked);
     computer.log.clear();
     eraseAnsweringYes();
     EXPECT_EQ(commands(), (Commands{"GetDeviceStatus"}));
     EXPECT_EQ(messages().back(), localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
-    EXPECT_FALSE(computer.application.isStopped());
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(EraseKey, eachFailedCommandIsReportedOnceAndStopsIt) {
@@ -58,7 +58,7 @@ TEST_F(EraseKey, eachFailedCommandIsReportedOnceAndStopsIt) {
         failCommand(command, {});
         eraseAnsweringYes();
         EXPECT_EQ(messages().size(), 2u) << command;
-        EXPECT_FALSE(computer.application.isStopped());
+        EXPECT_FALSE(hasQuit());
         EXPECT_EQ(computer.log.count("TKVR21_Logout"), 0u);
         putAway();
     }
@@ -69,19 +69,19 @@ protected:
     void clearAnsweringYes() {
         computer.log.clear();
         alerts.answer(AlertButton::Alternate);
-        click(app->MainSettingsWindow.MainSettingsClearAllButton);
+        click(app().MainSettingsWindow.MainSettingsClearAllButton);
     }
     /// The drive out and in again, behind the open settings window.
     void lockDrive() {
         computer.replug(drive);
         computer.settle();
-        app->Drives.CurrentUsbIntf = app->Drives.UsbIntf[app->Drives.DevCnt - 1];
+        app().Drives.CurrentUsbIntf = app().Drives.UsbIntf[app().Drives.DevCnt - 1];
     }
 };
 
 TEST_F(ClearAll, theDefaultAnswerSendsNothing) {
     beginWithSettingsOf({});
-    click(app->MainSettingsWindow.MainSettingsClearAllButton);
+    click(app().MainSettingsWindow.MainSettingsClearAllButton);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_CLEAR_ALL_CONFIRM")));
     EXPECT_THAT(commands(), IsEmpty());
 }
@@ -100,7 +100,7 @@ TEST_F(ClearAll, anUnlockedDriveRefusesTheResetIsLoggedOutClearedAndReset) {
     EXPECT_THAT(latest("ZELTO_WriteHintData").data, ElementsAre(1));
     EXPECT_EQ(latest("ResetAreaInfos").setup.wValue, 3);
     EXPECT_EQ(latest("ClearEncryptionInfo").setup.wValue, 2);
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
     EXPECT_EQ(messages().size(), 1u);
 }
 
@@ -110,7 +110,7 @@ TEST_F(ClearAll, aDriveWithoutSecureAreaIsResetAtOnce) {
     EXPECT_EQ(commands(),
               (Commands{"GetDeviceStatus", "GetDeviceStatus", "ZELTO_SetErasePeriod",
                         "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData", "ResetAreaInfos"}));
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(ClearAll, unmountsAllVolumesFirst) {
@@ -132,7 +132,7 @@ TEST_F(ClearAll, aVolumeThatDoesNotUnmountStopsItBeforeAnyCommand) {
     clearAnsweringYes();
     EXPECT_THAT(commands(), IsEmpty());
     EXPECT_EQ(messages().back(), localized("IDS_ERR_UNMOUNT"));
-    EXPECT_FALSE(computer.application.isStopped());
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(ClearAll, aLockedDriveWithASecureAreaIsRefused) {
@@ -141,13 +141,13 @@ TEST_F(ClearAll, aLockedDriveWithASecureAreaIsRefused) {
     clearAnsweringYes();
     EXPECT_EQ(commands(), (Commands{"GetDeviceStatus", "GetDeviceStatus"}));
     EXPECT_EQ(messages().back(), localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
-    EXPECT_FALSE(computer.application.isStopped());
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(ClearAll, aDriveNotKnownToHaveASecureAreaIsClearedWhileItIsLocked) {
     beginWithSettingsOf({});
     lockDrive();
-    app->Settings.SecureAreaAlreadyExist = false;
+    app().Settings.SecureAreaAlreadyExist = false;
     clearAnsweringYes();
     for (const QString& message : messages()) {
         EXPECT_NE(message, localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
@@ -158,24 +158,24 @@ TEST_F(ClearAll, aDriveNotKnownToHaveASecureAreaIsClearedWhileItIsLocked) {
 TEST_F(ClearAll, aFullyLockedDriveGetsNoPeriods) {
     beginWithSettingsOf({});
     alerts.answer(AlertButton::Alternate);
-    click(app->MainSettingsWindow.EraseEncryptionKeyButton);
+    click(app().MainSettingsWindow.EraseEncryptionKeyButton);
     computer.clock.pass(std::chrono::seconds(2));
     ASSERT_EQ(driveState(), SecurityState::StateFullLock);
     // Its clock is set, so that the settings open.
     startAgain();
-    if (!app->MainSettingsWindow.isVisible()) {
+    if (!app().MainSettingsWindow.isVisible()) {
         alerts.answer(AlertButton::Default);
         startAgain();
     }
-    app->DisplayMainSettingsWindow(false);
+    app().DisplayMainSettingsWindow(false);
     alerts.clear();
-    EXPECT_FALSE(app->MainSettingsWindow.PasswordSettingsButton->isEnabled());
+    EXPECT_FALSE(app().MainSettingsWindow.PasswordSettingsButton->isEnabled());
     clearAnsweringYes();
     EXPECT_EQ(computer.log.count("TKVR21_ZELTO_SetErasePeriod"), 0u);
     EXPECT_EQ(computer.log.count("TKVR21_ZELTO_SetIdleLockPeriod"), 0u);
     EXPECT_EQ(computer.log.count("TKVR21_ZELTO_WriteHintData"), 1u);
     EXPECT_GE(computer.log.count("TKVR21_ResetAreaInfos"), 1u);
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(ClearAll, aResetRefusedForAnotherReasonIsReportedAndNotRepeated) {
@@ -184,8 +184,8 @@ TEST_F(ClearAll, aResetRefusedForAnotherReasonIsReportedAndNotRepeated) {
     clearAnsweringYes();
     EXPECT_EQ(commands().back(), "GetDeviceStatus");
     EXPECT_EQ(messages().back(), localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 0, 0, 0));
-    EXPECT_FALSE(computer.application.isStopped());
-    EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+    EXPECT_FALSE(hasQuit());
+    EXPECT_TRUE(app().MainSettingsWindow.isVisible());
 }
 
 TEST_F(ClearAll, eachFailedCommandIsReportedOnceAndStopsIt) {
@@ -197,8 +197,8 @@ TEST_F(ClearAll, eachFailedCommandIsReportedOnceAndStopsIt) {
         failCommand(command, {});
         clearAnsweringYes();
         EXPECT_EQ(messages().size(), 2u) << command;
-        EXPECT_FALSE(computer.application.isStopped()) << command;
-        EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+        EXPECT_FALSE(hasQuit()) << command;
+        EXPECT_TRUE(app().MainSettingsWindow.isVisible());
         putAway();
     }
 }

@@ -36,12 +36,12 @@ class FirstTimeSetup : public SettingsBench {};
 
 TEST_F(FirstTimeSetup, anUnpartitionedDriveOpensTheSettingsWithEverySecurityControlOff) {
     begin(2000000);
-    auto& main = app->MainSettingsWindow;
+    auto& main = app().MainSettingsWindow;
     EXPECT_TRUE(main.isVisible());
-    EXPECT_TRUE(app->Settings.InitialSetting);
-    EXPECT_EQ(app->Settings.TotalSectorCount, 1959040u);
+    EXPECT_TRUE(app().Settings.InitialSetting);
+    EXPECT_EQ(app().Settings.TotalSectorCount, 1959040u);
     EXPECT_EQ(main.TotalCapacityText->text(), localized("IDS_TOTAL_CAPACITY", 956));
-    EXPECT_EQ(app->Settings.AreaSettingsDiskCapacity[0], 956u);
+    EXPECT_EQ(app().Settings.AreaSettingsDiskCapacity[0], 956u);
     EXPECT_TRUE(main.AreaSettingsButton->isEnabled());
     const std::vector<QWidget*> securityControls{main.PasswordSettingsButton,
                                                  main.EncryptionKeyAutoManualSelectRadioButton,
@@ -132,7 +132,7 @@ TEST_F(FirstTimeSetup, aKeyEnteredByHandIsSentAsTyped) {
 TEST_F(FirstTimeSetup, autoClearInMinutesIsSentInSeconds) {
     begin();
     fill({});
-    auto& main = app->MainSettingsWindow;
+    auto& main = app().MainSettingsWindow;
     click(main.AutoClearEnabledCheckBox);
     click(main.AutoClearMinutesCell);
     type(main.AutoClearText, "30");
@@ -145,24 +145,24 @@ TEST_F(FirstTimeSetup, showsItsProgressWhileTheDriveIsAway) {
     fill({});
     computer.usb.setReconnectDelay(5s);
     commit();
-    EXPECT_FALSE(app->MainSettingsWindow.isVisible());
-    EXPECT_TRUE(app->ZeltoSettingWindow.isVisible());
-    EXPECT_FALSE(app->ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
-    EXPECT_EQ(app->ZeltoSettingWindow.ZeltoSettingText->text(), localized("IDS_NOW_SETTING"));
-    EXPECT_EQ(app->Setup.InitialSettingState, 1);
-    EXPECT_EQ(app->Setup.WaitCount, 60);
-    EXPECT_EQ(app->Setup.ReservedAreaDiskNumber, 2);
+    EXPECT_FALSE(app().MainSettingsWindow.isVisible());
+    EXPECT_TRUE(app().ZeltoSettingWindow.isVisible());
+    EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_EQ(app().ZeltoSettingWindow.ZeltoSettingText->text(), localized("IDS_NOW_SETTING"));
+    EXPECT_EQ(app().Setup.InitialSettingState, 1);
+    EXPECT_EQ(app().Setup.WaitCount, 60);
+    EXPECT_EQ(app().Setup.ReservedAreaDiskNumber, 2);
 }
 
 TEST_F(FirstTimeSetup, forgetsPasswordsAndKeyOnceTheyAreSent) {
     begin();
     fill({.twoPasswords = true, .key = QStringLiteral("0A1B")});
     commit();
-    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
-    EXPECT_TRUE(app->Settings.PasswordSettingsParameters.strNew2ndPassword.isEmpty());
-    EXPECT_TRUE(app->Settings.StrEncryptionKey.isEmpty());
-    EXPECT_TRUE(app->PasswordSettingsWindow.PS_1stPasswordText->text().isEmpty());
-    EXPECT_TRUE(app->EncryptionKeyWindow.EncryptionKeyText->text().isEmpty());
+    EXPECT_TRUE(app().Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
+    EXPECT_TRUE(app().Settings.PasswordSettingsParameters.strNew2ndPassword.isEmpty());
+    EXPECT_TRUE(app().Settings.StrEncryptionKey.isEmpty());
+    EXPECT_TRUE(app().PasswordSettingsWindow.PS_1stPasswordText->text().isEmpty());
+    EXPECT_TRUE(app().EncryptionKeyWindow.EncryptionKeyText->text().isEmpty());
 }
 
 TEST_F(FirstTimeSetup, endsWithTheProgramOnTheToolArea) {
@@ -170,9 +170,9 @@ TEST_F(FirstTimeSetup, endsWithTheProgramOnTheToolArea) {
     fill({});
     commit();
     computer.advance(10s);
-    EXPECT_EQ(app->Setup.InitialSettingState, 4);
-    EXPECT_EQ(app->ZeltoSettingWindow.ZeltoSettingText->text(), localized("IDS_SETTING_COMPLETE"));
-    EXPECT_TRUE(app->ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_EQ(app().Setup.InitialSettingState, 4);
+    EXPECT_EQ(app().ZeltoSettingWindow.ZeltoSettingText->text(), localized("IDS_SETTING_COMPLETE"));
+    EXPECT_TRUE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
     EXPECT_EQ(computer.diskTool.holders({}).size(), 0u);
     const std::filesystem::path copy = "/media/user/ZELTO TOOL/ZeltoAppMac.app";
     EXPECT_TRUE(computer.files.fileExistsAtPath(copy));
@@ -189,10 +189,10 @@ TEST_F(FirstTimeSetup, refusesToQuitUntilItHasEnded) {
     for (const auto state :
          {SetupProgress::WaitingForReconnect, SetupProgress::WaitingForToolVolume,
           SetupProgress::FormatAndCopyDue}) {
-        app->Setup.InitialSettingState = state;
-        EXPECT_EQ(app->applicationShouldTerminate(), AppDelegate::TerminateReply::TerminateCancel);
-        app->ZeltoSettingWindow.reject();
-        EXPECT_FALSE(computer.application.isStopped());
+        app().Setup.InitialSettingState = state;
+        EXPECT_EQ(app().applicationShouldTerminate(), AppDelegate::TerminateReply::TerminateCancel);
+        app().ZeltoSettingWindow.reject();
+        EXPECT_FALSE(hasQuit());
     }
 }
 
@@ -203,11 +203,11 @@ TEST_F(FirstTimeSetup, givesUpWhenTheDriveIsNotBackIn60Ticks) {
     commit();
     computer.advance(59s);
     EXPECT_THAT(messages(), IsEmpty());
-    EXPECT_EQ(app->Setup.InitialSettingState, 1);
+    EXPECT_EQ(app().Setup.InitialSettingState, 1);
     computer.advance(1s);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
-    EXPECT_EQ(app->Setup.InitialSettingState, 4);
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_EQ(app().Setup.InitialSettingState, 4);
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(FirstTimeSetup, reportsAFormatThatFails) {
@@ -217,8 +217,8 @@ TEST_F(FirstTimeSetup, reportsAFormatThatFails) {
     computer.diskTool.setFailure("eraseDisk", 1);
     computer.advance(20s);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
-    EXPECT_TRUE(computer.application.isStopped());
-    EXPECT_FALSE(app->ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_TRUE(hasQuit());
+    EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
 }
 
 TEST_F(FirstTimeSetup, reportsACopyThatFails) {
@@ -231,7 +231,7 @@ TEST_F(FirstTimeSetup, reportsACopyThatFails) {
                 ElementsAre(localized("IDS_ERR_FILE_COPY",
                                       QString::fromStdString(computer.files.bundlePath().string()),
                                       QStringLiteral("/media/user/ZELTO TOOL/ZeltoAppMac.app"))));
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(FirstTimeSetup, endsWithoutAWordWhenTheFormattedVolumeIsNotMounted) {
@@ -242,19 +242,19 @@ TEST_F(FirstTimeSetup, endsWithoutAWordWhenTheFormattedVolumeIsNotMounted) {
     computer.mounts.setDesktopHabit(simulator::DesktopHabit::Never);
     computer.advance(20s);
     EXPECT_THAT(messages(), IsEmpty());
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(FirstTimeSetup, aManualKeyThatWasNotEnteredIsAskedForBeforeAnythingIsSent) {
     begin();
     fill({});
-    click(app->MainSettingsWindow.EncryptionKeyManualCell);
+    click(app().MainSettingsWindow.EncryptionKeyManualCell);
     computer.log.clear();
     commit();
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP")));
     EXPECT_THAT(commands(), IsEmpty());
     EXPECT_TRUE(okIsEnabled());
-    EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+    EXPECT_TRUE(app().MainSettingsWindow.isVisible());
 }
 
 TEST_F(FirstTimeSetup, aDriveThatDoesNotSpinUpEndsTheProgram) {
@@ -267,7 +267,7 @@ TEST_F(FirstTimeSetup, aDriveThatDoesNotSpinUpEndsTheProgram) {
     EXPECT_EQ(computer.log.count("sleep 1"), 9u);
     EXPECT_EQ(computer.log.count("TKVR21_SetAreaInfos"), 0u);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_SPINUP")));
-    EXPECT_TRUE(computer.application.isStopped());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(FirstTimeSetup, aRetryAppendsAnotherToolArea) {
@@ -278,12 +278,12 @@ TEST_F(FirstTimeSetup, aRetryAppendsAnotherToolArea) {
     EXPECT_EQ(messages().size(), 1u);
     EXPECT_TRUE(okIsEnabled());
     EXPECT_EQ(latest("SetAreaInfos").data.size(), 40u);
-    EXPECT_EQ(app->Settings.AreaInfosViewData.areaCount, 1);
+    EXPECT_EQ(app().Settings.AreaInfosViewData.areaCount, 1);
 
     plan->clear();
     commit();
     EXPECT_EQ(latest("SetAreaInfos").data.size(), 60u);
-    EXPECT_EQ(app->Setup.ReservedAreaDiskNumber, 3);
+    EXPECT_EQ(app().Setup.ReservedAreaDiskNumber, 3);
 }
 
 TEST_F(FirstTimeSetup, afterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom) {
@@ -305,16 +305,16 @@ TEST_F(FirstTimeSetup, afterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom)
     layOut({.secureDisk = 0});
     commit();
     EXPECT_EQ(latest("SetAreaInfos").data.size(), 40u);
-    EXPECT_EQ(app->Setup.InitialSettingState, 1);
+    EXPECT_EQ(app().Setup.InitialSettingState, 1);
 }
 
 TEST_F(FirstTimeSetup, aBusyVolumeStopsItBeforeAnythingIsSent) {
     begin();
     setUpAndStartAgain({.secureDisk = 0});
     // As a new drive again, with the volumes of the old layout still mounted.
-    app->Settings.InitialSetting = true;
-    app->Changed.AreaSettingsPerformed = true;
-    app->UpdateMainSettingsOKButton();
+    app().Settings.InitialSetting = true;
+    app().Changed.AreaSettingsPerformed = true;
+    app().UpdateMainSettingsOKButton();
     computer.diskTool.setFailure("umount", 1);
     computer.log.clear();
     commit();
@@ -348,12 +348,12 @@ TEST_P(SetupStory, setsUpLogsInClearsAndSetsUpAnew) {
         openSettingsOfUnlockedDrive();
     }
     alerts.answer(AlertButton::Alternate);
-    click(app->MainSettingsWindow.MainSettingsClearAllButton);
-    EXPECT_TRUE(computer.application.isStopped());
+    click(app().MainSettingsWindow.MainSettingsClearAllButton);
+    EXPECT_TRUE(hasQuit());
     EXPECT_EQ(messages().size(), 1u);
     computer.replug(drive);
     startAgain();
-    EXPECT_TRUE(app->Settings.InitialSetting);
+    EXPECT_TRUE(app().Settings.InitialSetting);
     ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
     EXPECT_TRUE(other->drive().model().remembered() == untouched);
 }
@@ -385,14 +385,14 @@ TEST_F(TwoDrives, theOtherDriveIsNeverTouched) {
     drive = simulator::makeDrive("ZD0000000001", DriveSectors);
     computer.plug(other);
     computer.plug(drive);
-    startProgram();
+    start();
     const auto before = other->drive().model().remembered();
-    app->SelectZeltoWindow.SelectZeltoComboBox->setCurrentIndex(1);
-    click(app->SelectZeltoWindow.SelectZeltoOK);
+    app().SelectZeltoWindow.SelectZeltoComboBox->setCurrentIndex(1);
+    click(app().SelectZeltoWindow.SelectZeltoOK);
     fill({});
     commit();
     computer.advance(15s);
-    EXPECT_EQ(app->Setup.InitialSettingState, 4);
+    EXPECT_EQ(app().Setup.InitialSettingState, 4);
     EXPECT_THAT(messages(), IsEmpty());
     for (const auto& line : computer.log.lines()) {
         if (line.kind == simulator::LogLine::Kind::Command) {

@@ -67,7 +67,7 @@ protected:
             return;
         }
         EXPECT_EQ(messages().size(), flow.ownMessages + 1);
-        EXPECT_FALSE(computer.application.isStopped());
+        EXPECT_FALSE(hasQuit());
         flow.afterFailure();
         // What the drive heard is what it would have heard anyway, up to the failure; from there
         // on it is only asked for its status.
@@ -81,9 +81,9 @@ protected:
     }
 
     void windowStaysWithOkEnabled() {
-        EXPECT_TRUE(app->MainSettingsWindow.isVisible());
+        EXPECT_TRUE(app().MainSettingsWindow.isVisible());
         EXPECT_TRUE(okIsEnabled());
-        EXPECT_EQ(app->Setup.InitialSettingState, 0);
+        EXPECT_EQ(app().Setup.InitialSettingState, 0);
     }
 
     const std::vector<std::string> afterTheCommit{"TKVR21_ZELTO_WriteHintData", "TKVR21_Reconnect"};
@@ -101,7 +101,7 @@ TEST_P(SettingsFaults, ofFirstTimeSetupKeepTheWindowOpenForARetry) {
                [&] {
                    windowStaysWithOkEnabled();
                    EXPECT_FALSE(
-                       app->Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
+                       app().Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
                },
            .unchecked = afterTheCommit});
 }
@@ -119,13 +119,13 @@ TEST_P(SettingsFaults, ofFirstTimeSetupCanBeRetriedWhileTheDriveIsThere) {
         failCommand(command, GetParam().fault);
         commit();
         plan->clear();
-        if (app->Setup.InitialSettingState == 0) {
+        if (app().Setup.InitialSettingState == 0) {
             commit();
         }
-        EXPECT_EQ(app->Setup.InitialSettingState, 1);
+        EXPECT_EQ(app().Setup.InitialSettingState, 1);
         computer.advance(15s);
-        EXPECT_EQ(app->Setup.InitialSettingState, 4);
-        EXPECT_TRUE(app->ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+        EXPECT_EQ(app().Setup.InitialSettingState, 4);
+        EXPECT_TRUE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
         putAway();
     }
 }
@@ -134,8 +134,8 @@ TEST_P(SettingsFaults, ofAChangeKeepTheWindowOpenWithTheEntries) {
     sweep({.arrange =
                [&] {
                    beginWithSettingsOf({.twoPasswords = true});
-                   auto& form = app->PasswordChangeWindow;
-                   inDialog(app->MainSettingsWindow.PasswordSettingsButton, form, [&] {
+                   auto& form = app().PasswordChangeWindow;
+                   inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
                        type(form.PC_Current1stPasswordText, "first");
                        type(form.PC_New1stPasswordText, "newFirst");
                        type(form.PC_AgainNew1stPasswordText, "newFirst");
@@ -150,7 +150,7 @@ TEST_P(SettingsFaults, ofAChangeKeepTheWindowOpenWithTheEntries) {
            .afterFailure =
                [&] {
                    windowStaysWithOkEnabled();
-                   EXPECT_EQ(app->Settings.PasswordSettingsParameters.strCurrent1stPassword,
+                   EXPECT_EQ(app().Settings.PasswordSettingsParameters.strCurrent1stPassword,
                              QStringLiteral("first"));
                },
            .unchecked = afterTheCommit});
@@ -161,9 +161,9 @@ TEST_P(SettingsFaults, ofClearingAllLeaveTheProgramRunning) {
            .act =
                [&] {
                    alerts.answer(AlertButton::Alternate);
-                   click(app->MainSettingsWindow.MainSettingsClearAllButton);
+                   click(app().MainSettingsWindow.MainSettingsClearAllButton);
                },
-           .afterFailure = [&] { EXPECT_TRUE(app->MainSettingsWindow.isVisible()); },
+           .afterFailure = [&] { EXPECT_TRUE(app().MainSettingsWindow.isVisible()); },
            // The first of the two may fail: that is what leads on to the second.
            .unchecked = {"TKVR21_ResetAreaInfos"},
            .ownMessages = 1});
@@ -174,9 +174,9 @@ TEST_P(SettingsFaults, ofErasingTheKeyLeaveTheProgramRunningUntilItLogsOut) {
            .act =
                [&] {
                    alerts.answer(AlertButton::Alternate);
-                   click(app->MainSettingsWindow.EraseEncryptionKeyButton);
+                   click(app().MainSettingsWindow.EraseEncryptionKeyButton);
                },
-           .afterFailure = [&] { EXPECT_TRUE(app->MainSettingsWindow.isVisible()); },
+           .afterFailure = [&] { EXPECT_TRUE(app().MainSettingsWindow.isVisible()); },
            // Logging out belongs to the end: the program quits whatever comes of it.
            .unchecked = {"TKVR21_GetAreaInfos", "TKVR21_Logout"},
            .ownMessages = 1});

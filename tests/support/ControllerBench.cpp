@@ -31,7 +31,7 @@ ControllerBench::Drive ControllerBench::plugPreparedDrive(const simulator::Drive
 }
 
 void ControllerBench::start() {
-    m_process.reset();
+    end();
     m_process = std::make_unique<simulator::UtilityProcess>(computer, alerts);
     m_process->start();
 }

@@ -36,6 +36,8 @@ public:
 
     /// Starts the utility. Whatever ran before has ended by then.
     void start();
+    /// Ends the utility, as by killing its process.
+    void end() { m_process.reset(); }
     [[nodiscard]] AppDelegate& app() { return m_process->delegate(); }
     [[nodiscard]] bool hasQuit() const { return m_process->hasQuit(); }
     /// Lets seconds pass, a tick in each.
