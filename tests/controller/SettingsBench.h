@@ -179,8 +179,8 @@ protected:
         ASSERT_TRUE(app().MainSettingsWindow.isVisible());
     }
 
-    /// A drive that was set up, logged in to, with the settings open. It was set up elsewhere, which
-    /// saves the time that setting it up here takes.
+    /// A drive that was set up, logged in to, with the settings open. It was set up elsewhere,
+    /// which saves the time that setting it up here takes.
     void beginWithSettingsOf(const Wishes& wishes) {
         drive = plugPreparedDrive(setupOf(wishes));
         start();

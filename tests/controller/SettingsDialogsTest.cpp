@@ -134,7 +134,8 @@ TEST_F(AreaDialog, anEmptyDisk2MovesDisk3UpInTheTable) {
     EXPECT_EQ(app().tableViewObjectValue(QStringLiteral("ColumnIDCapacity"), 1),
               QStringLiteral("10MB"));
     EXPECT_EQ(app().MainSettingsWindow.AreaInfosTableView->model()->rowCount(), 2);
-    EXPECT_EQ(app().MainSettingsWindow.FreeCapacityText->text(), localized("IDS_FREE_CAPACITY", 48));
+    EXPECT_EQ(app().MainSettingsWindow.FreeCapacityText->text(),
+              localized("IDS_FREE_CAPACITY", 48));
 }
 
 TEST_F(AreaDialog, readsNeitherAreasNorTimesAgain) {
@@ -274,7 +275,8 @@ TEST_F(PasswordDialog, openedAgainItIsFilledAndOkIsEnabledAtOnce) {
         type(form.PS_1stPasswordText, "other");
     });
     EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew1stPassword, QStringLiteral("first"));
-    EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew2ndPassword, QStringLiteral("second"));
+    EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew2ndPassword,
+              QStringLiteral("second"));
 }
 
 TEST_F(PasswordDialog, aClosedDialogHoldsNoPassword) {
