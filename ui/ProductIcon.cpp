@@ -2,23 +2,38 @@
 
 #include "ui/Resources.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QIcon>
 
 namespace zelto {
+namespace {
 
-ProductIcon::ProductIcon(QWidget* parent) : QLabel(parent) {
-    render();
-}
-
-QIcon ProductIcon::icon() {
+QIcon decodeIcon() {
     initResources();
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256, 512}) {
         icon.addFile(QStringLiteral(":/zelto/icons/zelto-%1.png").arg(size), {size, size});
     }
     return icon;
+}
+
+} // namespace
+
+ProductIcon::ProductIcon(QWidget* parent) : QLabel(parent) {
+    render();
+}
+
+QIcon ProductIcon::icon() {
+    // Every window asks for it, and decoding it once takes longer than building all of them.
+    static QIcon decoded;
+    if (decoded.isNull()) {
+        decoded = decodeIcon();
+        // Pixmaps must not outlive the application.
+        qAddPostRoutine([] { decoded = {}; });
+    }
+    return decoded;
 }
 
 void ProductIcon::changeEvent(QEvent* event) {
