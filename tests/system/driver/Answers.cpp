@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
@@ -38,9 +39,39 @@ QJsonObject error(const QString& what) {
     return {{QStringLiteral("error"), what}};
 }
 
-/// After the answer has left.
-void later(std::function<void()> action) {
-    QTimer::singleShot(0, qApp, std::move(action));
+/// Notices whether keys still arrive.
+class Ear : public QWidget {
+public:
+    [[nodiscard]] bool hears() {
+        m_heard = false;
+        QKeyEvent nothing(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier);
+        QCoreApplication::sendEvent(this, &nothing);
+        return m_heard;
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* /*event*/) override { m_heard = true; }
+
+private:
+    bool m_heard = false;
+};
+
+/// The program is at work and lets its windows take no input; what came now would be lost.
+bool isDeaf() {
+    Ear ear;
+    return !ear.hears();
+}
+
+/// After the answer has left, and not while the program is deaf.
+void later(std::function<void()> action, int delayMilliseconds = 0) {
+    QTimer::singleShot(delayMilliseconds, qApp, [action = std::move(action)] {
+        if (isDeaf()) {
+            constexpr int TryAgainAfter = 50;
+            later(action, TryAgainAfter);
+        } else {
+            action();
+        }
+    });
 }
 
 QList<QWidget*> visibleWindows() {
@@ -156,6 +187,9 @@ QString obstacle(const QWidget& widget) {
     if (modal != nullptr && modal != widget.window()) {
         return QStringLiteral("%1 is behind the dialog %2 (%3)")
             .arg(widget.objectName(), modal->objectName(), textOf(*modal));
+    }
+    if (isDeaf()) {
+        return QStringLiteral("the program takes no input now");
     }
     return {};
 }

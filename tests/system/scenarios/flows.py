@@ -1,0 +1,63 @@
+"""What several scenarios do alike."""
+
+import os
+
+from ring import vendor, volumes
+from ring.checks import expect, wait_for
+from ring.drive import FIRST_PASSWORD, SECOND_PASSWORD
+
+FIRST, SECOND = FIRST_PASSWORD, SECOND_PASSWORD
+
+
+def open_log_in(ring):
+    """The program, started before a locked drive."""
+    program = ring.program()
+    program.start()
+    program.wait_for_window("AuthenticateWindow")
+    return program
+
+
+def submit_password(program, password):
+    program.type("AuthenticateTextField", password)
+    program.click("AuthenticateSubmit")
+
+
+def log_in(ring, drive):
+    """With the one password; the drive is unlocked then."""
+    program = open_log_in(ring)
+    submit_password(program, FIRST)
+    program.wait_for_window("UnlockingWindow")
+    wait_for("the secure unit shows its medium",
+             lambda: volumes.has_medium(drive.serial, drive.secure_unit))
+    return program
+
+
+def secure_volume(drive):
+    """The name of the secure unit's disk once udev knows the volume on it."""
+    disk = volumes.disk(drive.serial, drive.secure_unit)
+    wait_for("its volume is recognised", lambda: volumes.file_system(disk) == "vfat")
+    return disk
+
+
+def open_settings(program):
+    program.click("UnlockingSetup")
+    program.wait_for_window("MainSettingsWindow")
+
+
+def expect_locked(drive):
+    expect("the drive is locked", drive.requests.state() == vendor.LOCKED)
+    wait_for("the secure unit has no medium",
+             lambda: not volumes.has_medium(drive.serial, drive.secure_unit))
+
+
+def write_file(ring, folder, name, content):
+    """As the user, not as root."""
+    status, output = ring.desktop.run(
+        ["sh", "-c", 'printf %s "$2" >"$1" && sync "$1"', "sh", os.path.join(folder, name),
+         content])
+    expect(f"the user can write {name} {output}".strip(), status == 0)
+
+
+def read_file(folder, name):
+    with open(os.path.join(folder, name), encoding="utf-8") as file:
+        return file.read()

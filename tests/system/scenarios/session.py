@@ -1,0 +1,216 @@
+"""Logging in and off."""
+
+import os
+
+from ring import vendor, volumes
+from ring.checks import expect, expect_equal, wait_for
+from ring.program import BUNDLE
+from ring.runner import scenario
+from scenarios import flows
+
+SECRET = "The meeting is at noon under the old clock."
+
+
+@scenario
+def files_on_the_secure_volume_come_back_with_the_next_log_in(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    expect_equal("the drive's state", drive.requests.state(), vendor.UNLOCKED)
+    folder = ring.desktop.mount(flows.secure_volume(drive))
+    flows.write_file(ring, folder, "secret.txt", SECRET)
+    program.picture("unlocked")
+    program.click("UnlockingLogOff")
+    program.wait_for_end()
+    flows.expect_locked(drive)
+    expect("nothing is mounted from the secure unit", not os.path.ismount(folder))
+    expect("what was written cannot be read from the drive's memory",
+           not drive.image_contains(SECRET))
+
+    program = flows.log_in(ring, drive)
+    folder = ring.desktop.mount(flows.secure_volume(drive))
+    expect_equal("the file", flows.read_file(folder, "secret.txt"), SECRET)
+    program.click("UnlockingLogOff")
+    program.wait_for_end()
+    flows.expect_locked(drive)
+    expect_equal("what was sent", drive.logged_writes(), [0xB3, 0xB4, 0xB3, 0xB4])
+
+
+@scenario
+def the_unlocked_drive_is_pictured_for_the_documents(ring):
+    drive = ring.set_up_drive()
+    flows.log_in(ring, drive)
+    folder = ring.desktop.mount(flows.secure_volume(drive))
+    for name in ("contract.txt", "keys.txt", "letter.txt"):
+        flows.write_file(ring, folder, name, f"{name}\n" * 40)
+    ring.desktop.run(["xsetroot", "-solid", "#3a5f7d"])
+    drawn = f"{ring.desktop.runtime}/drawn"
+    ring.start_as_user(
+        ["xterm", "-geometry", "92x12+270+160", "-fa", "DejaVu Sans Mono", "-fs", "10", "-e", "sh",
+         "-c", f"lsblk -o NAME,VENDOR,MODEL,SIZE,FSTYPE,MOUNTPOINTS /dev/sd?; echo; "
+               f"ls -l {folder}; touch {drawn}; exec sleep 3600"])
+    program = wait_for("the terminal has drawn", lambda: os.path.exists(drawn)) and ring.program()
+    program.start()
+    program.wait_for_window("UnlockingWindow")
+    program.picture("system")
+
+
+@scenario
+def logging_off_leaves_the_normal_volumes_mounted(ring):
+    drive = ring.set_up_drive()
+    normal = ring.desktop.mount(volumes.disk(drive.serial, 1))
+    program = flows.log_in(ring, drive)
+    ring.desktop.mount(flows.secure_volume(drive))
+    program.click("UnlockingLogOff")
+    program.wait_for_end()
+    flows.expect_locked(drive)
+    expect("the normal volume is still mounted", os.path.ismount(normal))
+
+
+@scenario
+def a_busy_volume_keeps_the_drive_unlocked_and_its_holder_is_named(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    folder = ring.desktop.mount(flows.secure_volume(drive))
+    holder = ring.start_as_user(["tail", "-f", "/dev/null"], cwd=folder)
+    program.click("UnlockingLogOff")
+    detail = program.answer_alert("IDS_ERR_UNMOUNT")
+    expect(f"the holder is named in {detail!r}", "tail" in detail)
+    program.wait_for_end()
+    expect_equal("the drive's state", drive.requests.state(), vendor.UNLOCKED)
+    expect("the volume is still mounted", os.path.ismount(folder))
+    expect_equal("no log-out was sent", drive.logged_writes(), [0xB3])
+
+    holder.kill()
+    holder.wait()
+    program = ring.program()
+    program.start()
+    program.wait_for_window("UnlockingWindow")
+    program.click("UnlockingLogOff")
+    program.wait_for_end()
+    flows.expect_locked(drive)
+
+
+@scenario
+def a_drive_that_the_desktop_mounts_by_itself_is_logged_off(ring):
+    drive = ring.set_up_drive()
+    ring.desktop.mount_what_appears()
+    program = flows.log_in(ring, drive)
+    disk = flows.secure_volume(drive)
+    folder = wait_for("the desktop has mounted it", lambda: volumes.mount_point(disk))
+    program.click("UnlockingLogOff")
+    program.wait_for_end()
+    flows.expect_locked(drive)
+    expect("the volume is gone", not os.path.ismount(folder))
+
+
+@scenario
+def two_passwords_are_asked_for_one_after_the_other(ring):
+    drive = ring.set_up_drive(two_passwords=True)
+    program = flows.open_log_in(ring)
+    program.wait_for_text("AuthenticateMessage", "IDS_ENTER_1ST_PASSWORD")
+    flows.submit_password(program, flows.FIRST)
+    program.wait_for_text("AuthenticateMessage", "IDS_ENTER_2ND_PASSWORD")
+    flows.submit_password(program, flows.SECOND)
+    program.wait_for_window("UnlockedWindow")
+    expect_equal("the drive's state", drive.requests.state(), vendor.UNLOCKED)
+    program.click("UnlockedLogOff")
+    program.wait_for_end()
+    flows.expect_locked(drive)
+
+
+@scenario
+def a_wrong_first_password_is_refused_and_can_be_corrected(ring):
+    drive = ring.set_up_drive()
+    program = flows.open_log_in(ring)
+    flows.submit_password(program, "wrong")
+    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
+    flows.submit_password(program, flows.FIRST)
+    program.wait_for_window("UnlockingWindow")
+
+
+@scenario
+def wrong_second_passwords_lock_the_drive_for_good(ring):
+    drive = ring.set_up_drive(two_passwords=True, trials=2)
+    program = flows.open_log_in(ring)
+    flows.submit_password(program, flows.FIRST)
+    program.wait_for_text("AuthenticateMessage", "IDS_ENTER_2ND_PASSWORD")
+    flows.submit_password(program, "wrong 1")
+    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    flows.submit_password(program, "wrong 2")
+    # The refusal itself still says that the password was wrong; the next start says the rest.
+    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    expect_equal("the drive's state", drive.requests.state(), vendor.FULLY_LOCKED)
+    program.click("AuthenticateCancel")
+    program.wait_for_end()
+
+    program = ring.program()
+    program.start()
+    program.answer_alert("IDS_ERR_ZELTO_DRIVE_LOST")
+    program.wait_for_window("MainSettingsWindow")
+    program.picture("drive-lost")
+
+
+@scenario
+def no_drive_is_told_and_one_that_comes_is_found(ring):
+    program = ring.program()
+    program.start()
+    program.wait_for_window("SelectZeltoWindow")
+    program.wait_for_text("SelectZeltoComboBox", "IDS_ERR_NOT_FOUND_ZELTO")
+    expect("there is nothing to select", not program.is_enabled("SelectZeltoOK"))
+    ring.set_up_drive()
+
+    def is_listed():
+        if program.is_enabled("SelectZeltoUpdate"):
+            program.click("SelectZeltoUpdate")
+        return program.is_enabled("SelectZeltoOK")
+
+    wait_for("the drive is listed", is_listed)
+    program.click("SelectZeltoOK")
+    program.wait_for_window("AuthenticateWindow")
+
+
+@scenario
+def of_two_drives_the_chosen_one_is_opened(ring):
+    # Side by side, the two would be set up one after the other on the same bus.
+    drives = {drive.serial: drive for drive in
+              (ring.set_up_drive(serial="ZD0000000000000A"),
+               ring.set_up_drive(serial="ZD0000000000000B"))}
+    program = ring.program()
+    program.start()
+    program.wait_for_window("SelectZeltoWindow")
+    expect_equal("the list", program.look("SelectZeltoComboBox")["rows"],
+                 [["Device 0"], ["Device 1"]])
+    program.choose("SelectZeltoComboBox", 1)
+    program.click("SelectZeltoOK")
+    program.wait_for_window("AuthenticateWindow")
+    flows.submit_password(program, flows.FIRST)
+    program.wait_for_window("UnlockingWindow")
+    states = sorted(drive.requests.state() for drive in drives.values())
+    expect_equal("one drive is unlocked, the other is not", states,
+                 [vendor.LOCKED, vendor.UNLOCKED])
+
+
+@scenario
+def a_drive_that_may_not_be_opened_is_told_apart_from_no_drive(ring):
+    drive = ring.set_up_drive()
+    node = volumes.usb_node(drive.serial)
+    os.chmod(node, 0o600)  # this also takes the mask off the access list
+    program = ring.program()
+    program.start()
+    program.wait_for_window("SelectZeltoWindow")
+    wait_for("a hint says what to do", lambda: program.text("SelectZeltoAccessHint"))
+    program.picture("drive-without-permission")
+    expect("there is nothing to select", not program.is_enabled("SelectZeltoOK"))
+
+
+@scenario
+def the_program_runs_unprivileged_from_where_it_is_installed(ring):
+    ring.set_up_drive()
+    program = flows.open_log_in(ring)
+    status = volumes.read(f"/proc/{program.process_id}/status")
+    expect("it runs as the user", f"Uid:\t{ring.desktop.uid}\t{ring.desktop.uid}" in status)
+    expect("it has no capabilities", "CapEff:\t0000000000000000" in status)
+    expect_equal("its file", os.readlink(f"/proc/{program.process_id}/exe"), f"{BUNDLE}/zelto")
+    program.click("AuthenticateCancel")
+    program.wait_for_end()

@@ -1,0 +1,138 @@
+"""The plug is pulled in the middle of everything."""
+
+from ring import vendor, volumes
+from ring.checks import expect, expect_equal, wait_for
+from ring.runner import scenario
+from scenarios import flows, set_up
+
+
+def start_set_up(ring):
+    program = set_up.start_on_new_drive(ring)
+    set_up.choose_areas(program, [32, 64, 0], secure=2)
+    set_up.choose_one_password(program, flows.FIRST)
+    return program
+
+
+def expect_new(drive):
+    expect_equal("the drive's state", drive.requests.state(), vendor.NO_PASSWORD)
+    expect_equal("the old areas are in force", drive.requests.areas(), [(0, 2 ** 64 - 1)])
+
+
+@scenario
+def unplugged_while_the_areas_are_sent_a_new_drive_stays_new(ring):
+    drive = ring.drive()
+    program = start_set_up(ring)
+    drive.vanish_at(0xC4, obeyed=True)
+    program.click("MainSettingsOKButton")
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_enabled("MainSettingsOKButton")
+    drive.wait_until_gone()
+    drive.plug()
+    expect_new(drive)
+
+
+@scenario
+def unplugged_while_the_password_is_sent_a_new_drive_can_be_set_up_again(ring):
+    drive = ring.drive()
+    program = start_set_up(ring)
+    drive.vanish_at(0xB1, obeyed=False)
+    program.click("MainSettingsOKButton")
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.click("MainSettingsCancelButton")
+    program.wait_for_end()
+    drive.wait_until_gone()
+    drive.plug()
+    program = ring.program()
+    program.start()
+    program.wait_for_window("MainSettingsWindow")
+
+
+@scenario
+def unplugged_while_the_tool_area_is_formatted_the_user_is_told(ring):
+    drive = ring.drive()
+    program = start_set_up(ring)
+    program.click("MainSettingsOKButton")
+    program.wait_for_window("ZeltoSettingWindow")
+    # The first sectors written to the tool area are the format's.
+    drive.wait_for_write(unit=3)
+    drive.unplug()
+    program.answer_alert("IDS_ERR_FORMAT")
+    program.wait_for_end()
+    drive.plug()
+    expect_equal("the drive is set up and locked", drive.requests.state(), vendor.LOCKED)
+
+
+@scenario
+def unplugged_while_the_password_is_checked_the_user_is_told(ring):
+    drive = ring.set_up_drive()
+    program = flows.open_log_in(ring)
+    drive.vanish_at(0xB3, obeyed=True)
+    flows.submit_password(program, flows.FIRST)
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_end()
+    drive.wait_until_gone()
+    drive.plug()
+    expect_equal("power-up locks it", drive.requests.state(), vendor.LOCKED)
+
+
+@scenario
+def unplugged_while_unlocked_the_drive_is_locked_and_its_mounts_are_gone(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    disk = flows.secure_volume(drive)
+    ring.desktop.mount(disk)
+    drive.unplug()
+    wait_for("nothing is mounted from it", lambda: disk not in volumes.mounts())
+    program.click("UnlockingLogOff")
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_end()
+    drive.wait_until_gone()
+    drive.plug()
+    expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
+    program = flows.log_in(ring, drive)
+    expect("its volume is still there", volumes.file_system(flows.secure_volume(drive)))
+
+
+@scenario
+def unplugged_while_it_logs_off_the_drive_is_locked(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    ring.desktop.mount(flows.secure_volume(drive))
+    drive.vanish_at(0xB4, obeyed=False)
+    program.click("UnlockingLogOff")
+    program.wait_for_end()
+    drive.wait_until_gone()
+    drive.plug()
+    expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
+
+
+@scenario
+def unplugged_while_settings_are_sent_the_user_is_told_and_may_retry(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    flows.open_settings(program)
+    program.switch("AutoLogOffEnabledCheckBox", True)
+    program.type("AutoLogOffText", "7")
+    drive.vanish_at(0xBD, obeyed=False)
+    program.click("MainSettingsOKButton")
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_enabled("MainSettingsOKButton")
+    drive.wait_until_gone()
+    drive.plug()
+    expect_equal("the period is as it was", drive.requests.idle_period(), 0)
+
+
+@scenario
+def unplugged_before_the_key_is_cleared_nothing_is_lost(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    flows.open_settings(program)
+    # The first reset is refused while there is a key; the drive goes before it is cleared.
+    drive.vanish_at(0xB0, obeyed=False)
+    program.click("MainSettingsClearAllButton")
+    program.answer_alert("IDS_CLEAR_ALL_CONFIRM")
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_enabled("MainSettingsClearAllButton")
+    drive.wait_until_gone()
+    drive.plug()
+    expect_equal("nothing is lost", drive.requests.state(), vendor.LOCKED)
