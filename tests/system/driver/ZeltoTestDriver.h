@@ -55,7 +55,7 @@ class TestDriverPlugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "ZeltoTestDriver.json")
 
 public:
-    /// The specification is what stands behind the colon: the folder for the socket.
+    /// What stands behind the colon names the folder for the socket.
     QObject* create(const QString& key, const QString& specification) override;
 };
 
