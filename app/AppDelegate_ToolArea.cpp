@@ -42,11 +42,11 @@ bool AppDelegate::CopyToolFile(const std::string& bsdName) {
 
 bool AppDelegate::GetSecureAreaDiskNumber(std::uint32_t& diskNumber) {
     const auto areas = readAreaInfos(Device());
-    Settings.AreaInfos = areas.record;
     if (areas.failed()) {
         ErrorMessageBox(areas.result);
         return false;
     }
+    Settings.AreaInfos = areas.record;
     if (const std::uint32_t secure = Settings.AreaInfos.firstSecureDiskNumber(); secure != 0) {
         diskNumber = secure;
     }

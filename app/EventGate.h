@@ -41,6 +41,7 @@ public:
 
     /// Nothing passes any more: the application is ending.
     void closeForGood() { m_closedForGood = true; }
+    [[nodiscard]] bool isClosedForGood() const { return m_closedForGood; }
 
 private:
     static constexpr std::size_t EventKinds = 3;

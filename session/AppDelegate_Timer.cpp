@@ -13,6 +13,9 @@ namespace zelto {
 void AppDelegate::TimerHandler() {
     blinkSetupText();
     tickSetup();
+    if (m_gate.isClosedForGood()) {
+        return; // A set-up that has given up sends nothing more on its way out.
+    }
 
     const auto now = m_platform.clock.now();
     MainSettingsWindow.PCTimeText->setText(

@@ -96,6 +96,16 @@ TEST_F(SessionLogOffTest, AnUnreadableAreaTableIsReportedAndNothingIsTouched) {
     EXPECT_TRUE(m_bench.hasQuit());
 }
 
+TEST_F(SessionLogOffTest, AFailedReadLeavesTheAreaTableThatIsKnown) {
+    beginUnlocked();
+    std::uint32_t number = 0;
+    ASSERT_TRUE(m_bench.app().GetSecureAreaDiskNumber(number));
+    forgeResult(AreasRequestCode, kIOUSBPipeStalled);
+    EXPECT_FALSE(m_bench.app().GetSecureAreaDiskNumber(number));
+    EXPECT_EQ(number, 2U);
+    EXPECT_EQ(m_bench.app().Settings.AreaInfos.entryCount(), 3U);
+}
+
 TEST_F(SessionLogOffTest, ARefusedLogOutGoesUnnoticed) {
     forgeResult(LogoutCode, kIOUSBPipeStalled);
     beginUnlocked();

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <ostream>
@@ -43,11 +44,25 @@ struct Wishes {
 class SettingsBench : public testing::Test, protected ControllerBench {
 protected:
     static constexpr std::uint64_t DriveSectors = NewDriveSectors;
+    inline static const std::string Serial = "ZD0000000001";
 
     /// Plugs a new drive in and starts the program.
     void begin(std::uint64_t sectors = DriveSectors) {
-        drive = plugNewDrive("ZD0000000001", sectors);
+        drive = plugNewDrive(Serial, sectors);
+        startWithDrive();
+    }
+
+    /// Starts the program and chooses the drive, if there is anything to choose from.
+    void startWithDrive() {
         start();
+        if (!app().SelectZeltoWindow.isVisible()) {
+            return;
+        }
+        const auto& serials = app().Drives.UsbSerial;
+        const auto found = std::ranges::find(serials, Serial);
+        ASSERT_NE(found, serials.end());
+        person.choose("SelectZeltoComboBox", static_cast<int>(found - serials.begin()));
+        press("SelectZeltoOK");
     }
 
     /// The program ends and is started again, on the drive as it stands.
@@ -55,7 +70,7 @@ protected:
         end();
         computer.log.clear();
         alerts.clear();
-        start();
+        startWithDrive();
     }
 
     /// The program ends and the drive is put away: ready for another beginning.
@@ -183,7 +198,7 @@ protected:
     /// which saves the time that setting it up here takes.
     void beginWithSettingsOf(const Wishes& wishes) {
         drive = plugPreparedDrive(setupOf(wishes));
-        start();
+        startWithDrive();
         openSettingsAfterLogIn(wishes);
     }
     void openSettingsAfterLogIn(const Wishes& wishes) {
@@ -252,7 +267,7 @@ private:
         constexpr std::uint32_t SecondsPerDay = 86400;
         constexpr std::uint32_t SecondsPerMinute = 60;
         simulator::DriveSetup setup{
-            .serial = "ZD0000000001",
+            .serial = Serial,
             .areas = {},
             .firstPassword = wishes.firstPassword.toStdString(),
             .secondPassword =

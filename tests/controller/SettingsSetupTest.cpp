@@ -181,35 +181,6 @@ TEST_F(FirstTimeSetup, endsWithTheProgramOnTheToolArea) {
     EXPECT_THAT(messages(), IsEmpty());
 }
 
-TEST_F(FirstTimeSetup, refusesToQuitUntilItHasEnded) {
-    begin();
-    fill({});
-    computer.usb.setReconnectDelay(std::nullopt);
-    commit();
-    for (const auto state :
-         {SetupProgress::WaitingForReconnect, SetupProgress::WaitingForToolVolume,
-          SetupProgress::FormatAndCopyDue}) {
-        app().Setup.InitialSettingState = state;
-        EXPECT_EQ(app().applicationShouldTerminate(), AppDelegate::TerminateReply::TerminateCancel);
-        app().ZeltoSettingWindow.reject();
-        EXPECT_FALSE(hasQuit());
-    }
-}
-
-TEST_F(FirstTimeSetup, givesUpWhenTheDriveIsNotBackIn60Ticks) {
-    begin();
-    fill({});
-    computer.usb.setReconnectDelay(std::nullopt);
-    commit();
-    computer.advance(59s);
-    EXPECT_THAT(messages(), IsEmpty());
-    EXPECT_EQ(app().Setup.InitialSettingState, 1);
-    computer.advance(1s);
-    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
-    EXPECT_EQ(app().Setup.InitialSettingState, 4);
-    EXPECT_TRUE(hasQuit());
-}
-
 TEST_F(FirstTimeSetup, reportsAFormatThatFails) {
     begin();
     fill({});
@@ -333,9 +304,7 @@ class SetupStory : public SettingsBench, public testing::WithParamInterface<Stor
 
 TEST_P(SetupStory, setsUpLogsInClearsAndSetsUpAnew) {
     const Wishes& wishes = GetParam().wishes;
-    const auto other = simulator::makeDrive("ZD0000000002", 262144);
     begin(GetParam().sectors);
-    const auto untouched = other->drive().model().remembered();
     ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
     if (wishes.secureDisk != 0) {
         EXPECT_EQ(driveState(), SecurityState::StateLocked);
@@ -355,7 +324,6 @@ TEST_P(SetupStory, setsUpLogsInClearsAndSetsUpAnew) {
     startAgain();
     EXPECT_TRUE(app().Settings.InitialSetting);
     ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
-    EXPECT_TRUE(other->drive().model().remembered() == untouched);
 }
 
 const QString OneByte = QStringLiteral("7F");
@@ -377,32 +345,6 @@ INSTANTIATE_TEST_SUITE_P(
                               {.mebibytes = {"2097132", "0", "0"}},
                               std::uint64_t{1} << 32}),
     [](const auto& story) { return std::string(story.param.name); });
-
-class TwoDrives : public SettingsBench {};
-
-TEST_F(TwoDrives, theOtherDriveIsNeverTouched) {
-    const auto other = simulator::makeDrive("ZD0000000002", DriveSectors);
-    drive = simulator::makeDrive("ZD0000000001", DriveSectors);
-    computer.plug(other);
-    computer.plug(drive);
-    start();
-    const auto before = other->drive().model().remembered();
-    app().SelectZeltoWindow.SelectZeltoComboBox->setCurrentIndex(1);
-    click(app().SelectZeltoWindow.SelectZeltoOK);
-    fill({});
-    commit();
-    computer.advance(15s);
-    EXPECT_EQ(app().Setup.InitialSettingState, 4);
-    EXPECT_THAT(messages(), IsEmpty());
-    for (const auto& line : computer.log.lines()) {
-        if (line.kind == simulator::LogLine::Kind::Command) {
-            EXPECT_EQ(line.serial, "ZD0000000001") << line.text;
-        }
-    }
-    auto after = other->drive().model().remembered();
-    after.latest = before.latest;
-    EXPECT_TRUE(after == before);
-}
 
 } // namespace
 } // namespace zelto
