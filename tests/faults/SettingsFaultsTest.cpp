@@ -1,4 +1,5 @@
 #include "tests/controller/SettingsBench.h"
+#include "tests/faults/WaysToFail.h"
 
 #include <algorithm>
 
@@ -8,12 +9,8 @@ namespace {
 using namespace std::chrono_literals;
 using simulator::Fault;
 using test::SettingsBench;
+using test::WayToFail;
 using test::Wishes;
-
-struct WayToFail {
-    const char* name;
-    Fault fault;
-};
 
 /// Every settings flow with every one of its transfers going wrong, one at a time.
 class SettingsFaults : public SettingsBench, public testing::WithParamInterface<WayToFail> {
@@ -106,11 +103,9 @@ TEST_P(SettingsFaults, ofFirstTimeSetupKeepTheWindowOpenForARetry) {
            .unchecked = afterTheCommit});
 }
 
-TEST_P(SettingsFaults, ofFirstTimeSetupCanBeRetriedWhileTheDriveIsThere) {
-    const auto kind = GetParam().fault.kind;
-    if (kind == Fault::Kind::VanishesBefore || kind == Fault::Kind::VanishesAfter) {
-        GTEST_SKIP() << "nothing to retry on";
-    }
+class SettingsRetries : public SettingsFaults {};
+
+TEST_P(SettingsRetries, ofFirstTimeSetupSucceed) {
     for (const char* command : {"SetAreaInfos", "SetEncryptionInfo", "SetAuthInfo",
                                 "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
         SCOPED_TRACE(command);
@@ -182,18 +177,9 @@ TEST_P(SettingsFaults, ofErasingTheKeyLeaveTheProgramRunningUntilItLogsOut) {
            .ownMessages = 1});
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Every, SettingsFaults,
-    testing::Values(
-        WayToFail{"refused", {.kind = Fault::Kind::FailsBefore, .result = kIOUSBPipeStalled}},
-        WayToFail{"timedOutBefore", {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout}},
-        WayToFail{"obeyedButTimedOut",
-                  {.kind = Fault::Kind::FailsAfter, .result = kIOReturnTimeout}},
-        WayToFail{"answersNothing", {.kind = Fault::Kind::AnswersShort, .length = 0}},
-        WayToFail{"answersShort", {.kind = Fault::Kind::AnswersShort, .length = 13}},
-        WayToFail{"goneBefore", {.kind = Fault::Kind::VanishesBefore}},
-        WayToFail{"goneAfter", {.kind = Fault::Kind::VanishesAfter}}),
-    [](const auto& way) { return std::string(way.param.name); });
+INSTANTIATE_TEST_SUITE_P(Every, SettingsFaults, test::waysToFail(test::Ways::All), test::nameOfWay);
+INSTANTIATE_TEST_SUITE_P(Every, SettingsRetries, test::waysToFail(test::Ways::DriveStays),
+                         test::nameOfWay);
 
 } // namespace
 } // namespace zelto

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "simulator/computer/FaultyDevice.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace zelto::test {
+
+struct WayToFail {
+    const char* name;
+    simulator::Fault fault;
+
+    /// In a letter: (R)efused, (L)ost answer, (Z)ero bytes, (S)hort, (G)one.
+    [[nodiscard]] char letter() const {
+        using Kind = simulator::Fault::Kind;
+        switch (fault.kind) {
+        case Kind::FailsBefore:
+            return 'R';
+        case Kind::FailsAfter:
+            return 'L';
+        case Kind::AnswersShort:
+            return fault.length == 0 ? 'Z' : 'S';
+        case Kind::VanishesBefore:
+        case Kind::VanishesAfter:
+            return 'G';
+        }
+        return '?';
+    }
+};
+
+/// The ways in which one transfer can go wrong.
+enum class Ways {
+    All,
+    /// The drive is still there afterwards.
+    DriveStays,
+    /// The drive is still there and has not heard a thing.
+    Unheard,
+};
+
+inline auto waysToFail(Ways ways) {
+    using Kind = simulator::Fault::Kind;
+    std::vector<WayToFail> chosen{
+        {"refused", {.kind = Kind::FailsBefore, .result = kIOUSBPipeStalled}},
+        {"timedOutBefore", {.kind = Kind::FailsBefore, .result = kIOReturnTimeout}},
+        {"obeyedButTimedOut", {.kind = Kind::FailsAfter, .result = kIOReturnTimeout}},
+        {"answersNothing", {.kind = Kind::AnswersShort, .length = 0}},
+        {"answersShort", {.kind = Kind::AnswersShort, .length = 13}},
+        {"goneBefore", {.kind = Kind::VanishesBefore}},
+        {"goneAfter", {.kind = Kind::VanishesAfter}}};
+    std::erase_if(chosen, [ways](const WayToFail& way) {
+        return (ways == Ways::DriveStays && way.letter() == 'G') ||
+               (ways == Ways::Unheard && way.letter() != 'R');
+    });
+    return testing::ValuesIn(chosen);
+}
+
+inline std::string nameOfWay(const testing::TestParamInfo<WayToFail>& way) {
+    return way.param.name;
+}
+
+} // namespace zelto::test
