@@ -258,6 +258,9 @@ private:
     /// One request to quit: granted or refused by applicationShouldTerminate.
     void terminate();
 
+    // app/AppDelegate_ToolArea.cpp
+    void copyFilesBesideBundle(const std::filesystem::path& volume);
+
     // session/AppDelegate_Messages.cpp: every message and every wait goes through these, so that
     // the gate is closed while the message is up or the wait lasts.
     /// An alert with the application's title and the one button "OK".

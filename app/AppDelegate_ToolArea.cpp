@@ -27,17 +27,28 @@ bool AppDelegate::CopyToolFile(const std::string& bsdName) {
     }
 
     const std::filesystem::path source = m_platform.computer.bundlePath();
-    const std::filesystem::path destination =
-        std::filesystem::path(volume->f_mntonname) / BundleName;
+    const std::filesystem::path root = volume->f_mntonname;
+    const std::filesystem::path destination = root / BundleName;
     const bool copied = [&] {
         const EventGate::Closing closing(m_gate);
         return m_platform.computer.copyItemAtPath(source, destination);
     }();
-    if (!copied) {
+    if (copied) {
+        copyFilesBesideBundle(root);
+    } else {
         ShowMessage(localized("IDS_ERR_FILE_COPY", QString::fromStdString(source.string()),
                               QString::fromStdString(destination.string())));
     }
     return copied;
+}
+
+/// Without these the program can still be started from the volume by hand, so a failure is no
+/// failure of the tool area.
+void AppDelegate::copyFilesBesideBundle(const std::filesystem::path& volume) {
+    const EventGate::Closing closing(m_gate);
+    for (const auto& file : m_platform.computer.filesBesideBundle()) {
+        (void)m_platform.computer.copyItemAtPath(file, volume / file.filename());
+    }
 }
 
 bool AppDelegate::GetSecureAreaDiskNumber(std::uint32_t& diskNumber) {

@@ -28,6 +28,10 @@ public:
     /// The bundle paths ("NSApplicationPath") of the running applications, this one among them.
     [[nodiscard]] virtual std::vector<std::filesystem::path> launchedApplications() const = 0;
 
+    /// The files of this program's bundle that belong beside it, at the root of a volume that
+    /// carries it: with them, computers offer to start it. There may be none.
+    [[nodiscard]] virtual std::vector<std::filesystem::path> filesBesideBundle() const = 0;
+
     [[nodiscard]] virtual bool fileExistsAtPath(const std::filesystem::path& path) const = 0;
     /// Modification date in whole seconds (FAT keeps no finer one); nothing when it cannot be read.
     [[nodiscard]] virtual std::optional<FileTime>
@@ -36,8 +40,9 @@ public:
     /// Removes a file, or a folder with all that is in it.
     [[nodiscard]] virtual bool removeItemAtPath(const std::filesystem::path& path) = 0;
     /// Copies a file, or a folder with all that is in it, keeping modification dates. The
-    /// destination appears complete or not at all, and is replaced if it exists. Blocks for as
-    /// long as the copy takes; windows go on repainting meanwhile.
+    /// destination appears complete or not at all, and is replaced if it exists. It has been
+    /// read back from its medium when this succeeds. Blocks for as long as all that takes; windows
+    /// go on repainting meanwhile.
     [[nodiscard]] virtual bool copyItemAtPath(const std::filesystem::path& source,
                                               const std::filesystem::path& destination) = 0;
 

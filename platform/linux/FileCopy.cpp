@@ -1,6 +1,7 @@
 #include "platform/linux/FileCopy.h"
 
 #include "platform/linux/FileDescriptor.h"
+#include "platform/linux/ReadBack.h"
 
 #include <fcntl.h>
 #include <linux/fs.h>
@@ -113,7 +114,7 @@ bool copyFile(const fs::path& source, const fs::path& destination) {
         return false;
     }
     const FileDescriptor to(
-        ::open(destination.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, DataMode));
+        ::open(destination.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, DataMode));
     if (!to.isOpen()) {
         return false;
     }
@@ -124,7 +125,7 @@ bool copyFile(const fs::path& source, const fs::path& destination) {
     constexpr mode_t AnybodyExecutes = S_IXUSR | S_IXGRP | S_IXOTH;
     setMode(to.get(),
             *program || (status->st_mode & AnybodyExecutes) != 0 ? ProgramMode : DataMode);
-    return keepDates(to.get(), *status) && flush(to.get());
+    return keepDates(to.get(), *status) && flush(to.get()) && readsBackAs(to.get(), from.get());
 }
 
 bool copyFolder(const fs::path& source, const fs::path& destination, int depth);

@@ -57,7 +57,7 @@ LinuxComputer::LinuxComputer(const Waiting& waiting, fs::path proc)
     : m_waiting(waiting), m_proc(std::move(proc)), m_program(findProgram(m_proc)) {}
 
 fs::path LinuxComputer::bundlePath() const {
-    return enclosingBundle(m_program).value_or(m_program.parent_path());
+    return bundleOf(m_program).value_or(m_program.parent_path());
 }
 
 std::vector<fs::path> LinuxComputer::mountRoots() const {
@@ -75,10 +75,15 @@ std::vector<fs::path> LinuxComputer::launchedApplications() const {
     std::vector<fs::path> applications;
     for (const auto& process : processes(m_proc)) {
         if (const auto program = process.executable()) {
-            applications.push_back(enclosingBundle(*program).value_or(*program));
+            applications.push_back(bundleOf(*program).value_or(*program));
         }
     }
     return applications;
+}
+
+std::vector<fs::path> LinuxComputer::filesBesideBundle() const {
+    const auto autorun = bundlePath() / "autorun.sh";
+    return fileExistsAtPath(autorun) ? std::vector{autorun} : std::vector<fs::path>{};
 }
 
 bool LinuxComputer::fileExistsAtPath(const fs::path& path) const {
@@ -107,8 +112,7 @@ bool LinuxComputer::copyItemAtPath(const fs::path& source, const fs::path& desti
 }
 
 int LinuxComputer::open(const fs::path& bundle) {
-    const auto program = bundle / m_program.lexically_relative(bundlePath());
-    return startDetached(program) ? 0 : 1;
+    return startDetached(bundle / m_program.filename()) ? 0 : 1;
 }
 
 int LinuxComputer::chflags(const std::string& flag, const fs::path& path) {

@@ -14,14 +14,18 @@ class LinuxComputer final : public Computer {
 public:
     explicit LinuxComputer(const Waiting& waiting, std::filesystem::path proc = "/proc");
 
-    /// For a program that lies in no bundle, the folder it lies in.
+    /// For a program that belongs to no bundle, the folder it lies in.
     [[nodiscard]] std::filesystem::path bundlePath() const override;
     [[nodiscard]] std::vector<std::filesystem::path> mountRoots() const override;
     /// "Applications" in the user's home folder, links resolved as far as it exists: running
     /// programs are known by such paths.
     [[nodiscard]] std::filesystem::path applicationsFolder() const override;
-    /// Only the user's own programs can be seen. A program outside any bundle counts by its file.
+    /// Only the user's own programs can be seen. A program of no bundle counts by its file.
     [[nodiscard]] std::vector<std::filesystem::path> launchedApplications() const override;
+
+    /// "autorun.sh", which desktops offer to run (freedesktop.org's Desktop Application Autostart
+    /// Specification), if the bundle has it.
+    [[nodiscard]] std::vector<std::filesystem::path> filesBesideBundle() const override;
 
     [[nodiscard]] bool fileExistsAtPath(const std::filesystem::path& path) const override;
     [[nodiscard]] std::optional<FileTime>
@@ -31,7 +35,7 @@ public:
     [[nodiscard]] bool copyItemAtPath(const std::filesystem::path& source,
                                       const std::filesystem::path& destination) override;
 
-    /// Starts the program that lies in the bundle where this one lies in its own. The new process
+    /// Starts the file in the bundle that has the name of this program. The new process
     /// keeps nothing of this one: no working folder, descriptor, terminal or library path that
     /// would keep a volume busy. 0 once it runs, 1 when it could not be started.
     int open(const std::filesystem::path& bundle) override;

@@ -16,6 +16,9 @@ public:
     [[nodiscard]] std::vector<std::filesystem::path> mountRoots() const override;
     [[nodiscard]] std::filesystem::path applicationsFolder() const override;
     [[nodiscard]] std::vector<std::filesystem::path> launchedApplications() const override;
+    [[nodiscard]] std::vector<std::filesystem::path> filesBesideBundle() const override {
+        return {};
+    }
     [[nodiscard]] bool fileExistsAtPath(const std::filesystem::path& path) const override;
     [[nodiscard]] std::optional<FileTime>
     fileModificationDate(const std::filesystem::path& path) const override;

@@ -19,6 +19,7 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 namespace fs = std::filesystem;
 
 class ComputerTest : public ::testing::Test {
@@ -55,6 +56,15 @@ TEST_F(ComputerTest, FallsBackOnTheProgramsLinkWithoutMappings) {
     folder.link("self/exe", "/media/a/ZELTO TOOL/ZeltoAppMac.app/zelto (deleted)");
     EXPECT_EQ(LinuxComputer(waiting, folder.path()).bundlePath(),
               "/media/a/ZELTO TOOL/ZeltoAppMac.app");
+}
+
+TEST_F(ComputerTest, OffersWhatItsBundleHasForTheVolumesRoot) {
+    const auto program = folder / "ZeltoAppMac.app/zelto";
+    folder.link("proc/self/exe", program.string());
+    const LinuxComputer inBundle(waiting, folder / "proc");
+    EXPECT_THAT(inBundle.filesBesideBundle(), IsEmpty());
+    folder.write("ZeltoAppMac.app/autorun.sh", "");
+    EXPECT_THAT(inBundle.filesBesideBundle(), ElementsAre(folder / "ZeltoAppMac.app/autorun.sh"));
 }
 
 TEST_F(ComputerTest, ListsRunningApplicationsByBundleOrProgram) {
