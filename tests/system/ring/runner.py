@@ -45,7 +45,8 @@ class Ring:
 
     def start_as_user(self, arguments, **options):
         """A program of the user's that ends with the scenario at the latest."""
-        helper = self.desktop.start(arguments, **options)
+        log = open(f"/host/results/{self.name}.helpers.log", "ab")
+        helper = self.desktop.start(arguments, stdout=log, stderr=log, **options)
         self._helpers.append(helper)
         return helper
 
@@ -65,9 +66,11 @@ class Ring:
                 program.picture(f"{self.name}.failed")
             except (Failure, AttributeError):
                 pass
-        kernel = subprocess.run(["dmesg"], capture_output=True, text=True, check=False).stdout
-        for line in kernel.split("\n")[-25:]:
-            say(f"kernel: {line}")
+        for tool, lines in ((["ps", "-o", "pid,etime,args", "-u", str(self.desktop.uid)], 40),
+                            (["findmnt", "--types", "vfat"], 10), (["dmesg"], 25)):
+            output = subprocess.run(tool, capture_output=True, text=True, check=False).stdout
+            for line in output.rstrip().split("\n")[-lines:]:
+                say(f"{tool[0]}: {line}")
 
     def tidy_up(self):
         self.desktop.leave_volumes_alone()
