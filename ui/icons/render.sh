@@ -14,7 +14,7 @@ render() {
     fi
 }
 
-for size in 16 24 32; do
+for size in 16 22 24 32; do
     render "$size" zelto-small.svg
 done
 for size in 48 64 128 256 512; do
