@@ -66,9 +66,12 @@ DataPlan ScsiUnit::modeSense(Command command) {
     if (!pages) {
         return fail(ScsiSense::InvalidFieldInCommand);
     }
-    // Not write-protected, and no block descriptors: a host reads the capacity with its command.
+    // Device-specific parameter (SBC-3, 6.5.1): not write-protected, and DPO and FUA may be set. No
+    // block descriptors: a host reads the capacity with its command.
+    constexpr std::uint8_t DpoAndFuaSupported = 0x10;
     const std::size_t headerSize = isShort ? 4 : 8;
     std::vector<std::uint8_t> bytes(headerSize);
+    bytes[isShort ? 2 : 3] = DpoAndFuaSupported;
     bytes.insert(bytes.end(), pages->begin(), pages->end());
     if (isShort) {
         record::put(bytes, {0, 1}, bytes.size() - 1);
@@ -159,7 +162,13 @@ DataPlan ScsiUnit::readSectors(Command command) {
     if (asksForProtection(command)) {
         return fail(ScsiSense::InvalidFieldInCommand);
     }
-    return startTransfer(Transfer::ReadMedium, rangeOf(command));
+    const Range range = rangeOf(command);
+    // Past the cache the host wants what a power failure would leave, so that has to be the latest.
+    if (asksForUnitAccess(command) && range.count > 0 && fits(range) &&
+        !m_storage.flush(m_identity.number)) {
+        return fail(ScsiSense::WriteError);
+    }
+    return startTransfer(Transfer::ReadMedium, range);
 }
 
 DataPlan ScsiUnit::writeSectors(Command command) {

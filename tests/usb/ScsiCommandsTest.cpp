@@ -122,7 +122,7 @@ TEST_F(ScsiCommands, OtherServiceActionsAreRefused) {
 
 TEST_F(ScsiCommands, ShortModeSenseOfAllPagesGivesCachingAndControl) {
     EXPECT_THAT(run({0x1A, 0, 0x3F, 0, 192, 0}).data,
-                ElementsAreArray({0x23, 0x00, 0x00, 0x00,                   //
+                ElementsAreArray({0x23, 0x00, 0x10, 0x00,                   //
                                   0x08, 0x12, 0x04, 0,    0, 0, 0, 0, 0, 0, //
                                   0,    0,    0,    0,    0, 0, 0, 0, 0, 0, //
                                   0x0A, 0x0A, 0,    0,    0, 0, 0, 0, 0, 0, 0, 0}));
@@ -131,11 +131,24 @@ TEST_F(ScsiCommands, ShortModeSenseOfAllPagesGivesCachingAndControl) {
 TEST_F(ScsiCommands, LongModeSenseHasTheLongHeader) {
     const Bytes data = run({0x5A, 0, 0x08, 0, 0, 0, 0, 0, 192, 0}).data;
     ASSERT_EQ(data.size(), 28U);
-    EXPECT_THAT(std::span(data).first(11), ElementsAre(0, 26, 0, 0, 0, 0, 0, 0, 0x08, 0x12, 0x04));
+    EXPECT_THAT(std::span(data).first(11),
+                ElementsAre(0, 26, 0, 0x10, 0, 0, 0, 0, 0x08, 0x12, 0x04));
 }
 
 TEST_F(ScsiCommands, ModeSenseIsCutToTheAllocationLengthButTellsTheWhole) {
-    EXPECT_THAT(run({0x1A, 0, 0x3F, 0, 4, 0}).data, ElementsAre(0x23, 0, 0, 0));
+    EXPECT_THAT(run({0x1A, 0, 0x3F, 0, 4, 0}).data, ElementsAre(0x23, 0, 0x10, 0));
+}
+
+TEST_F(ScsiCommands, ModeSenseSaysThatTheCacheCanBePassedBy) {
+    constexpr std::uint8_t DpoAndFua = 0x10;
+    EXPECT_EQ(run({0x1A, 0, 0x08, 0, 192, 0}).data.at(2), DpoAndFua);
+    EXPECT_EQ(run({0x5A, 0, 0x3F, 0, 0, 0, 0, 0, 192, 0}).data.at(3), DpoAndFua);
+    // And so it can: DPO, FUA, both.
+    for (const std::uint8_t bits : Bytes{0x10, 0x08, 0x18}) {
+        expectGood({0x28, bits, 0, 0, 0, 0, 0, 0, 0, 0});
+        EXPECT_EQ(run({0x28, bits, 0, 0, 0, 0, 0, 0, 1, 0}).data.size(), 512U);
+        EXPECT_TRUE(run({0x2A, bits, 0, 0, 0, 0, 0, 0, 1, 0}, Bytes(512)).isGood);
+    }
 }
 
 TEST_F(ScsiCommands, NothingInTheModePagesCanBeChanged) {

@@ -92,6 +92,25 @@ TEST_P(ReadAndWrite, WithProtectionInformationAreRefused) {
     }
 }
 
+TEST_P(ReadAndWrite, PastTheCacheAreFlushed) {
+    if (GetParam().size == 6) {
+        return; // those bits belong to the address there
+    }
+    const auto pastTheCache = [](Bytes command) {
+        command[1] = 0x08;
+        return command;
+    };
+    storage.flushes = 0;
+    EXPECT_TRUE(run(write(0, 1), pattern(Sector, 0)).isGood);
+    EXPECT_EQ(storage.flushes, 0);
+    EXPECT_TRUE(run(pastTheCache(write(0, 1)), pattern(Sector, 0)).isGood);
+    EXPECT_EQ(storage.flushes, 1);
+    EXPECT_TRUE(run(pastTheCache(read(0, 1))).isGood);
+    EXPECT_EQ(storage.flushes, 2);
+    EXPECT_TRUE(run(read(0, 1)).isGood);
+    EXPECT_EQ(storage.flushes, 2);
+}
+
 INSTANTIATE_TEST_SUITE_P(Forms, ReadAndWrite,
                          ::testing::Values(Form{"Six", 0x08, 0x0A, 6}, Form{"Ten", 0x28, 0x2A, 10},
                                            Form{"Twelve", 0xA8, 0xAA, 12},
@@ -120,12 +139,22 @@ TEST_F(ScsiTransfers, WriteTakesItsDataInPiecesOfAnySize) {
         std::equal(data.begin(), data.end(), storage.contents(UnitNumber).begin() + 2 * Sector));
 }
 
-TEST_F(ScsiTransfers, WriteWithoutTheCacheIsFlushedAtItsEnd) {
+TEST_F(ScsiTransfers, WritePastTheCacheIsFlushedBehindItsLastSector) {
     storage.flushes = 0;
-    EXPECT_TRUE(run({0x2A, 0x08, 0, 0, 0, 0, 0, 0, 1, 0}, pattern(Sector, 0)).isGood);
+    const Bytes data = pattern(2 * Sector, 1);
+    ASSERT_EQ(unit.begin(Bytes{0x2A, 0x08, 0, 0, 0, 0, 0, 0, 2, 0}).length, data.size());
+    ASSERT_TRUE(unit.write(data));
+    // All of it lies with the drive; the flush comes before the status, which tells of a failure.
+    EXPECT_EQ(storage.flushes, 0);
+    storage.failsFlush = true;
+    EXPECT_FALSE(unit.end());
     EXPECT_EQ(storage.flushes, 1);
-    EXPECT_TRUE(run({0x2A, 0x00, 0, 0, 0, 0, 0, 0, 1, 0}, pattern(Sector, 0)).isGood);
-    EXPECT_EQ(storage.flushes, 1);
+    EXPECT_EQ(unit.sense().sense, (Sense{0x03, 0x0C, 0x00}));
+}
+
+TEST_F(ScsiTransfers, ReadPastTheCacheFailsWhenTheMediumCanNotBeBroughtUpToDate) {
+    storage.failsFlush = true;
+    expectRefused({0x28, 0x08, 0, 0, 0, 0, 0, 0, 1, 0}, {0x03, 0x0C, 0x00});
 }
 
 TEST_F(ScsiTransfers, ReadThatFailsNamesItsSector) {
