@@ -60,6 +60,7 @@ void VirtualDrive::plug(Moment now) {
 }
 
 void VirtualDrive::unplug(Moment now) {
+    m_upToDateAt.reset();
     m_model.powerOff(now);
     m_contents.forgetKey();
     updateMedia(now);
@@ -93,19 +94,19 @@ SecurityState VirtualDrive::state(Moment now) {
 }
 
 std::uint64_t VirtualDrive::sectorCount(std::size_t unit, Moment now) {
-    update(now);
+    noticeTime(now);
     const auto& medium = unit < UnitCount ? m_shown[unit].medium : std::nullopt;
     return medium ? medium->sectorCount : 0;
 }
 
 std::uint64_t VirtualDrive::mediaGeneration(std::size_t unit, Moment now) {
-    update(now);
+    noticeTime(now);
     return unit < UnitCount ? m_shown[unit].generation : 0;
 }
 
 StorageResult VirtualDrive::read(std::size_t unit, std::uint64_t sector,
                                  std::span<std::uint8_t> bytes, Moment now) {
-    update(now);
+    noticeTime(now);
     if (unit >= UnitCount || !m_shown[unit].medium) {
         return StorageResult::NoMedium;
     }
@@ -115,7 +116,7 @@ StorageResult VirtualDrive::read(std::size_t unit, std::uint64_t sector,
 
 StorageResult VirtualDrive::write(std::size_t unit, std::uint64_t sector,
                                   std::span<const std::uint8_t> bytes, Moment now) {
-    update(now);
+    noticeTime(now);
     if (unit >= UnitCount || !m_shown[unit].medium) {
         return StorageResult::NoMedium;
     }
@@ -138,7 +139,15 @@ bool VirtualDrive::update(Moment now) {
     // The latest moment alone is nothing to save: it moves with every request, and is saved with
     // the next change or when the drive is unplugged.
     m_saved.latest = m_model.remembered().latest;
-    return m_saved == m_model.remembered() || save();
+    const bool isSaved = m_saved == m_model.remembered() || save();
+    m_upToDateAt = isSaved ? std::optional(now) : std::nullopt;
+    return isSaved;
+}
+
+void VirtualDrive::noticeTime(Moment now) {
+    if (m_upToDateAt != now) {
+        update(now);
+    }
 }
 
 void VirtualDrive::updateMedia(Moment now) {

@@ -6,6 +6,7 @@
 #include <array>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -93,6 +94,9 @@ private:
     /// Notices what time or a request has changed: media, and what is to be saved. False when
     /// saving failed.
     bool update(Moment now);
+    /// The same for storage accesses, of which there are many: between requests only time changes
+    /// anything, and it goes by in seconds, so most have nothing to notice.
+    void noticeTime(Moment now);
     void updateMedia(Moment now);
     bool save();
 
@@ -102,6 +106,8 @@ private:
     /// What the folder holds, apart from the latest moment.
     Remembered m_saved;
     std::array<ShownMedium, UnitCount> m_shown{};
+    /// When everything was noticed and saved; nothing when that failed, to try again.
+    std::optional<Moment> m_upToDateAt;
     std::string m_saveError;
 };
 

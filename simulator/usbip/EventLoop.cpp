@@ -80,6 +80,9 @@ void EventLoop::runOnce(Milliseconds longest) {
 }
 
 void EventLoop::callDueTimers() {
+    if (m_timers.empty()) {
+        return; // nor is the time asked for, on the way of every transfer
+    }
     const Clock::time_point now = m_now();
     while (!m_timers.empty() && m_timers.begin()->first <= now) {
         const Handler handler = std::move(m_timers.begin()->second);
