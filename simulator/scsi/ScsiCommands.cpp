@@ -100,10 +100,9 @@ DataPlan ScsiUnit::startStopUnit(Command command) {
         if (!m_medium) {
             return fail(ScsiSense::MediumNotPresent);
         }
-        if (m_isEjected) {
-            m_isEjected = false;
-            m_attention = ScsiSense::MediumMayHaveChanged;
-        }
+        // The same medium as before, and the host did it: nothing to announce. Had it been exchanged
+        // meanwhile, it would not be ejected any more.
+        m_isEjected = false;
         return {};
     }
     if (m_preventsRemoval) {

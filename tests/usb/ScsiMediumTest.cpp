@@ -107,7 +107,14 @@ TEST_F(ScsiMedium, EjectedStaysEjected) {
 TEST_F(ScsiMedium, EjectedComesBackWithALoadCommand) {
     expectGood(Eject);
     expectGood(Load);
-    expectRefused(TestUnitReady, MediumChanged);
+    expectGood(TestUnitReady);
+}
+
+TEST_F(ScsiMedium, ExchangedWhileEjectedIsAnnouncedThoughTheHostLoadsIt) {
+    expectGood(Eject);
+    storage.insert(UnitNumber, Sectors);
+    expectRefused(Load, MediumChanged);
+    expectGood(Load);
     expectGood(TestUnitReady);
 }
 
