@@ -1,7 +1,13 @@
 #!/usr/bin/python3
 """Measures three storage devices, one after the other and in turns, so that a slow minute of the
-host does not fall on one of them alone."""
+host does not fall on one of them alone.
 
+A command on a USB disk is a conversation of threads that wait for each other. Where the scheduler
+puts them decides more than what they do: in an emulated machine, waking a processor that has gone
+to sleep costs more than the command. So all is measured twice, as the scheduler places it, and with
+each device's threads on one processor."""
+
+import glob
 import json
 import os
 import statistics
@@ -17,7 +23,7 @@ from ring.drive import DriveShelf  # noqa: E402
 
 MEGABYTES = 192
 ROUNDS = 3
-SECONDS = 4
+SECONDS = 2
 GADGET_SERIAL = "GADGET00"
 FOLDER = "/var/tmp/throughput"
 
@@ -28,6 +34,10 @@ WORKLOADS = (
     ("4 KiB random read", "randread", "4k", 8),
     ("4 KiB random write", "randwrite", "4k", 8),
 )
+
+
+# What a command passes through, as the kernel names threads.
+THREADS = ("usb-storage", "vhci_tx", "vhci_rx", "zelto-virtual-d", "file-storage")
 
 
 def run(*arguments):
@@ -84,15 +94,14 @@ def measure(device, pattern, block, depth):
     return result["bw_bytes"] / 1e6, result["iops"]
 
 
-def main():
-    os.makedirs(FOLDER)
-    run("modprobe", "vhci_hcd")
-    devices = {"virtual drive": our_drive(), "storage gadget": gadget(), "loop device": loop()}
-    # Every sector of ours written once, as the others' are.
-    run("dd", "if=/dev/zero", f"of={devices['virtual drive']}", "bs=1M",
-        f"count={MEGABYTES - 1}", "oflag=direct")
+def put_on_one_processor():
+    for folder in glob.glob("/proc/[0-9]*"):
+        if volumes.read(f"{folder}/comm") in THREADS:
+            os.sched_setaffinity(int(os.path.basename(folder)), {0})
 
-    print(f"\n{'':20}" + "".join(f"{name:>24}" for name in devices))
+
+def print_table(title, devices):
+    print(f"\n{title:20}" + "".join(f"{name:>24}" for name in devices))
     for workload, pattern, block, depth in WORKLOADS:
         taken = {name: [] for name in devices}
         for _ in range(ROUNDS):
@@ -103,6 +112,18 @@ def main():
             speed, requests = (statistics.median(column) for column in zip(*results))
             cells.append(f"{speed:8.1f} MB/s {requests:6.0f}/s")
         print(f"{workload:20}" + "".join(f"{cell:>24}" for cell in cells), flush=True)
+
+
+def main():
+    os.makedirs(FOLDER)
+    run("modprobe", "vhci_hcd")
+    devices = {"virtual drive": our_drive(), "storage gadget": gadget(), "loop device": loop()}
+    # Every sector of ours written once, as the others' are.
+    run("dd", "if=/dev/zero", f"of={devices['virtual drive']}", "bs=1M",
+        f"count={MEGABYTES - 1}", "oflag=direct")
+    print_table("as scheduled", devices)
+    put_on_one_processor()
+    print_table("on one processor", devices)
     print(f"\nmedians of {ROUNDS} rounds of {SECONDS} s, {time.strftime('%Y-%m-%d')}")
     return 0
 
