@@ -100,8 +100,8 @@ DataPlan ScsiUnit::startStopUnit(Command command) {
         if (!m_medium) {
             return fail(ScsiSense::MediumNotPresent);
         }
-        // The same medium as before, and the host did it: nothing to announce. Had it been exchanged
-        // meanwhile, it would not be ejected any more.
+        // The same medium as before, and the host did it: nothing to announce. Had it been
+        // exchanged meanwhile, it would not be ejected any more.
         m_isEjected = false;
         return {};
     }
