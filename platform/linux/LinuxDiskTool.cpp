@@ -152,7 +152,7 @@ bool LinuxDiskTool::eraseDisk(const std::string& label, const std::string& bsdNa
     }
     const auto partition = createPartition(*disk);
     return !partition.isEmpty() && makeFat(disk->path, partition, QString::fromStdString(label)) &&
-           mount(partition);
+           mount(disk->path, partition);
 }
 
 bool LinuxDiskTool::unmountEverywhere(const QString& block) {
@@ -197,11 +197,20 @@ bool LinuxDiskTool::unmountDisk(const QString& disk) {
            });
 }
 
-bool LinuxDiskTool::settle(const QDBusMessage& reply, const UDisks::Predicate& goal) {
+/// A disk that has left will not reach the goal any more, whatever the service has said.
+bool LinuxDiskTool::settle(const QString& disk, const QDBusMessage& reply,
+                           const UDisks::Predicate& goal) {
     const bool worthWaiting = succeeded(reply) || mayYetSucceed(reply);
-    const bool reached =
-        service().waitFor(goal, worthWaiting ? m_propertyDelay : std::chrono::milliseconds::zero());
-    return reached || succeeded(reply);
+    bool reached = false;
+    bool hasLeft = false;
+    const auto decided = [&](const UDisksState& now) {
+        reached = goal(now);
+        hasLeft = now.find(disk) == nullptr;
+        return reached || hasLeft;
+    };
+    (void)service().waitFor(decided,
+                            worthWaiting ? m_propertyDelay : std::chrono::milliseconds::zero());
+    return reached || (!hasLeft && succeeded(reply));
 }
 
 /// Does what a mounted volume forbids. The desktop may mount one again between the unmounting and
@@ -213,7 +222,7 @@ bool LinuxDiskTool::doFreed(const QString& disk, const std::function<QDBusMessag
             return false;
         }
         const auto reply = action();
-        if (settle(reply, goal)) {
+        if (settle(disk, reply, goal)) {
             return true;
         }
         const auto state = service().state();
@@ -256,7 +265,7 @@ QString LinuxDiskTool::createPartition(const UDisksBlock& disk) {
         }
         return now.find(partition) != nullptr;
     };
-    return settle(reply, isThere) ? partition : QString();
+    return settle(disk.path, reply, isThere) ? partition : QString();
 }
 
 bool LinuxDiskTool::makeFat(const QString& disk, const QString& partition, const QString& label) {
@@ -280,14 +289,14 @@ bool LinuxDiskTool::makeFat(const QString& disk, const QString& partition, const
         });
 }
 
-bool LinuxDiskTool::mount(const QString& partition) {
+bool LinuxDiskTool::mount(const QString& disk, const QString& partition) {
     const auto mounted = [&](const UDisksState& now) { return isMounted(now, partition); };
     if (service().waitFor(mounted, std::chrono::milliseconds::zero())) {
         return true; // the desktop was faster
     }
     const auto reply =
         service().call(partition, FilesystemInterface, QStringLiteral("Mount"), withOptions({}));
-    return settle(reply, mounted) || failedWith(reply, QLatin1String("AlreadyMounted"));
+    return settle(disk, reply, mounted) || failedWith(reply, QLatin1String("AlreadyMounted"));
 }
 
 } // namespace zelto::linux_platform

@@ -49,11 +49,12 @@ private:
     /// The new partition's object; empty on failure.
     [[nodiscard]] QString createPartition(const UDisksBlock& disk);
     [[nodiscard]] bool makeFat(const QString& disk, const QString& partition, const QString& label);
-    [[nodiscard]] bool mount(const QString& partition);
+    [[nodiscard]] bool mount(const QString& disk, const QString& partition);
 
     [[nodiscard]] bool doFreed(const QString& disk, const std::function<QDBusMessage()>& action,
                                const UDisks::Predicate& goal);
-    [[nodiscard]] bool settle(const QDBusMessage& reply, const UDisks::Predicate& goal);
+    [[nodiscard]] bool settle(const QString& disk, const QDBusMessage& reply,
+                              const UDisks::Predicate& goal);
 
     Bus m_bus;
     const Waiting& m_waiting;
