@@ -20,6 +20,7 @@ class Desktop:
 
     def __init__(self):
         account = pwd.getpwnam(USER)
+        self.name = USER
         self.uid, self.gid, self.home = account.pw_uid, account.pw_gid, account.pw_dir
         self.runtime = f"/run/user/{self.uid}"
         self._scope = None

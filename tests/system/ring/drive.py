@@ -15,6 +15,8 @@ SERIAL = "ZD0123456789ABCD"
 UNITS = 4
 
 FIRST_PASSWORD, SECOND_PASSWORD = "correct horse", "battery staple"
+# Of a second password.
+TRIALS = 2
 # The areas of a drive that is set up already: (is secure, MB). The tool area follows.
 AREAS = [(False, 16), (True, 48)]
 
@@ -110,13 +112,13 @@ class Drive:
         return subprocess.run(["grep", "--quiet", "--text", "--fixed-strings", text, self.image],
                               check=False).returncode == 0
 
-    def wait_for_write(self, unit):
-        def has_been_written():
-            disk = volumes.disk(self.serial, unit)
-            counts = volumes.read(f"/sys/class/block/{disk}/stat").split()
-            return len(counts) > 6 and int(counts[6]) > 0
+    def sectors_written(self, unit):
+        """By this computer since the drive was plugged in."""
+        counts = volumes.read(f"/sys/class/block/{volumes.disk(self.serial, unit)}/stat").split()
+        return int(counts[6]) if len(counts) > 6 else 0
 
-        wait_for(f"unit {unit} is being written", has_been_written)
+    def wait_for_write(self, unit):
+        wait_for(f"unit {unit} is being written", lambda: self.sectors_written(unit) > 0)
 
 
 class DriveShelf:
@@ -137,28 +139,34 @@ class DriveShelf:
         drive.take_out(megabytes)
         return drive
 
-    def set_up_drive(self, log, **options):
-        """Locked, with a normal and a secure volume. Options: see _prepare."""
-        key = tuple(sorted(options.items()))
+    def set_up_drive(self, log, serial=SERIAL, two_passwords=False, clock_set=True,
+                     erase_period=0, idle_period=0):
+        """Locked, with a normal and a secure volume. Periods are in seconds; a second password may
+        be tried twice."""
+        key = (serial, two_passwords)
         if key not in self._prepared:
-            self._prepared[key] = self._prepare(**options)
-        drive = Drive(self._folder(), log, options.get("serial", SERIAL))
+            self._prepared[key] = self._prepare(*key)
+        drive = Drive(self._folder(), log, serial)
         subprocess.run(["cp", "-r", "--sparse=always", self._prepared[key], drive.folder],
                        check=True)
         drive.take_out()
+        if erase_period or idle_period:
+            drive.requests.authenticate(FIRST_PASSWORD)
+            drive.requests.set_erase_period(erase_period)
+            drive.requests.set_idle_period(idle_period)
+            drive.requests.log_out()
+        if not clock_set:
+            drive.lose_clock()
         drive.start_log()
         return drive
 
-    def _prepare(self, serial=SERIAL, two_passwords=False, trials=3, clock_set=True,
-                 erase_period=0, idle_period=0):
-        """By the drive's own requests, past the utility; its folder on the shelf. Periods are in
-        seconds."""
+    def _prepare(self, serial, two_passwords):
+        """By the drive's own requests, past the utility; its folder on the shelf."""
         drive = self.new_drive("/host/results/preparations.drive.log", serial, 96)
         try:
-            if clock_set:
-                drive.requests.set_clock(datetime.datetime.now(datetime.timezone.utc))
+            drive.requests.set_clock(datetime.datetime.now(datetime.timezone.utc))
             drive.requests.set_up(AREAS, FIRST_PASSWORD,
-                                  SECOND_PASSWORD if two_passwords else None, trials)
+                                  SECOND_PASSWORD if two_passwords else None, TRIALS)
             drive.requests.reconnect()
             drive.wait_until_plugged()
             drive.requests.authenticate(FIRST_PASSWORD)
@@ -170,8 +178,6 @@ class DriveShelf:
                 subprocess.run(["mkfs.vfat", "-I", "-n", label,
                                 f"/dev/{volumes.disk(serial, unit)}"], check=True,
                                stdout=subprocess.DEVNULL)
-            drive.requests.set_erase_period(erase_period)
-            drive.requests.set_idle_period(idle_period)
             drive.requests.log_out()
         finally:
             drive.put_away()

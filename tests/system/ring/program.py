@@ -11,6 +11,7 @@ import xml.etree.ElementTree
 
 from ring.checks import Failure, expect_equal, say, wait_for
 
+PROGRAM = "/usr/bin/zelto"
 BUNDLE = "/usr/lib/zelto/ZeltoAppMac.app"
 DRIVER_PLUGINS = "/host/plugins"
 TEXTS = "/host/zelto_en.ts"
@@ -40,7 +41,7 @@ class Program:
 
     # Its life.
 
-    def start(self, path=f"{BUNDLE}/zelto"):
+    def start(self, path=PROGRAM):
         log = open(f"/host/results/{self._name}.log", "ab")
         self._process = self._desktop.start(
             [path], stdout=log, stderr=log,

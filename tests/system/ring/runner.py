@@ -85,13 +85,15 @@ class Ring:
         self.desktop.remove_leftovers()
 
 
-def run_scenarios(wanted):
-    """Runs those in whose names the pattern `wanted` is found; their number and that of the
-    failed ones."""
+def run_scenarios(modules, wanted):
+    """Runs the scenarios of some modules in whose names the pattern `wanted` is found; their number
+    and that of the failed ones."""
+    names = {module.__name__ for module in modules}
     desktop = Desktop()
     desktop.log_in()
     shelf = DriveShelf(desktop)
-    chosen = [test for test in SCENARIOS if re.search(wanted, test.__name__)]
+    chosen = [test for test in SCENARIOS
+              if test.__module__ in names and re.search(wanted, test.__name__)]
     failed = [test.__name__ for test in chosen if not run_scenario(test, desktop, shelf)]
     for name in failed:
         print(f"failed: {name}", flush=True)

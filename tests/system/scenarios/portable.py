@@ -7,7 +7,7 @@ import subprocess
 from ring import vendor, volumes
 from ring.checks import expect, expect_equal, wait_for
 from ring.runner import scenario
-from scenarios import flows
+from scenarios import flows, set_up
 
 PRELOADED = "/etc/ld.so.preload"
 
@@ -31,11 +31,14 @@ def carry_program(ring, drive):
 
 
 def running_copy(home):
-    """The process of the copy in the user's Applications folder."""
+    """The process of the copy in the user's Applications folder. It leads a session of its own, in
+    contrast to the process in which the starter tries beforehand whether it can be loaded."""
     for path in glob.glob("/proc/[0-9]*/exe"):
+        pid = int(path.split("/")[2])
         try:
-            if os.readlink(path).endswith(f"{home}/Applications/ZeltoAppMac.app/zelto"):
-                return int(path.split("/")[2])
+            if os.readlink(path).endswith(f"{home}/Applications/ZeltoAppMac.app/zelto") \
+                    and os.getsid(pid) == pid:
+                return pid
         except OSError:
             pass
     return None
@@ -71,3 +74,22 @@ def started_from_the_drive_the_program_moves_to_the_computer_and_leaves_the_driv
     expect("no volume of the drive is mounted",
            not any(device.startswith("sd") for device in volumes.mounts()))
     os.unlink(PRELOADED)
+
+
+@scenario
+def the_copy_in_applications_puts_itself_on_the_next_new_drive(ring):
+    applications = f"{ring.desktop.home}/Applications"
+    bundle = f"{applications}/ZeltoAppMac.app"
+    ring.desktop.run(["mkdir", applications])
+    status, output = ring.desktop.run(["cp", "-r", "/host/ZeltoAppMac.app", applications])
+    expect(f"the user has a copy {output}".strip(), status == 0)
+    drive = ring.drive()
+    program = ring.program()
+    program.start(f"{bundle}/zelto")
+    program.wait_for_window("MainSettingsWindow")
+    set_up.choose_areas(program, [60, 0, 30], secure=0)
+    program.click("MainSettingsOKButton")
+    set_up.wait_for_completion(program)
+    program.click("ZeltoSettingOKButton")
+    program.wait_for_end()
+    set_up.check_tool_area(ring, drive, 3, bundle)

@@ -1,5 +1,7 @@
 """The plug is pulled in the middle of everything."""
 
+import glob
+
 from ring import vendor, volumes
 from ring.checks import expect, expect_equal, wait_for
 from ring.runner import scenario
@@ -48,6 +50,21 @@ def unplugged_while_the_password_is_sent_a_new_drive_can_be_set_up_again(ring):
 
 
 @scenario
+def unplugged_while_it_reconnects_and_never_back_the_wait_ends(ring):
+    drive = ring.drive()
+    program = start_set_up(ring)
+    drive.vanish_at(0xC1, obeyed=True)
+    program.click("MainSettingsOKButton")
+    program.wait_for_window("ZeltoSettingWindow")
+    drive.wait_until_gone()
+    # The program gives the drive a minute.
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_end()
+    drive.plug()
+    expect_equal("the drive is set up and locked", drive.requests.state(), vendor.LOCKED)
+
+
+@scenario
 def unplugged_while_the_tool_area_is_formatted_the_user_is_told(ring):
     drive = ring.drive()
     program = start_set_up(ring)
@@ -57,6 +74,21 @@ def unplugged_while_the_tool_area_is_formatted_the_user_is_told(ring):
     drive.wait_for_write(unit=3)
     drive.unplug()
     program.answer_alert("IDS_ERR_FORMAT")
+    program.wait_for_end()
+    drive.plug()
+    expect_equal("the drive is set up and locked", drive.requests.state(), vendor.LOCKED)
+
+
+@scenario
+def unplugged_while_the_program_is_copied_the_user_is_told(ring):
+    drive = ring.drive()
+    program = start_set_up(ring)
+    program.click("MainSettingsOKButton")
+    program.wait_for_window("ZeltoSettingWindow")
+    wait_for("the program is being copied",
+             lambda: glob.glob(f"/media/{ring.desktop.name}/ZELTO TOOL/.*/new/*"))
+    drive.unplug()
+    program.answer_alert("IDS_ERR_FILE_COPY")
     program.wait_for_end()
     drive.plug()
     expect_equal("the drive is set up and locked", drive.requests.state(), vendor.LOCKED)
@@ -91,6 +123,92 @@ def unplugged_while_unlocked_the_drive_is_locked_and_its_mounts_are_gone(ring):
     expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
     program = flows.log_in(ring, drive)
     expect("its volume is still there", volumes.file_system(flows.secure_volume(drive)))
+
+
+@scenario
+def unplugged_while_files_are_written_those_from_before_are_kept(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    folder = ring.desktop.mount(flows.secure_volume(drive))
+    flows.write_file(ring, folder, "before.txt", "kept")
+    before = drive.sectors_written(drive.secure_unit)
+    writer = ring.start_as_user(["dd", "if=/dev/zero", f"of={folder}/big", "bs=64k", "oflag=sync"])
+    wait_for("the file is being written",
+             lambda: drive.sectors_written(drive.secure_unit) > before + 1024)
+    drive.unplug()
+    wait_for("the writer has given up", lambda: writer.poll() is not None)
+    expect("it was told", writer.returncode != 0)
+    program.click("UnlockingCancel")
+    program.wait_for_end()
+    drive.plug()
+    flows.log_in(ring, drive)
+    folder = ring.desktop.mount(flows.secure_volume(drive))
+    expect_equal("the file", flows.read_file(folder, "before.txt"), "kept")
+
+
+@scenario
+def unplugged_while_a_busy_volume_is_reported_the_drive_is_locked(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    folder = ring.desktop.mount(flows.secure_volume(drive))
+    ring.start_as_user(["tail", "-f", "/dev/null"], cwd=folder)
+    program.click("UnlockingLogOff")
+    wait_for("an alert is shown", program.alert)
+    drive.unplug()
+    program.answer_alert("IDS_ERR_UNMOUNT")
+    program.wait_for_end()
+    drive.plug()
+    expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
+
+
+@scenario
+def unplugged_between_wrong_passwords_the_drive_goes_on_counting(ring):
+    drive = ring.set_up_drive(two_passwords=True)
+    program = flows.open_log_in(ring)
+    flows.submit_password(program, flows.FIRST)
+    program.wait_for_text("AuthenticateMessage", "IDS_ENTER_2ND_PASSWORD")
+    flows.submit_password(program, "wrong 1")
+    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    drive.unplug()
+    flows.submit_password(program, "wrong 2")
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_end()
+    drive.plug()
+    expect_equal("power-up locks it", drive.requests.state(), vendor.LOCKED)
+
+    program = flows.open_log_in(ring)
+    flows.submit_password(program, flows.FIRST)
+    program.wait_for_text("AuthenticateMessage", "IDS_ENTER_2ND_PASSWORD")
+    flows.submit_password(program, "wrong 2")
+    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    expect_equal("the drive's state", drive.requests.state(), vendor.FULLY_LOCKED)
+
+
+@scenario
+def unplugged_while_the_clock_is_set_the_user_is_told_and_may_retry(ring):
+    drive = ring.set_up_drive(clock_set=False)
+    program = flows.log_in(ring, drive)
+    flows.open_settings(program)
+    drive.vanish_at(0xBB, obeyed=False)
+    program.click("MainSettingsSetTimeButton")
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_enabled("MainSettingsSetTimeButton")
+    drive.wait_until_gone()
+    drive.plug()
+    expect("the clock is as it was", not drive.requests.clock_is_valid())
+
+
+@scenario
+def unplugged_past_its_auto_clear_period_the_drive_has_lost_its_key(ring):
+    drive = ring.set_up_drive(erase_period=600)
+    drive.unplug()
+    drive.advance(601)
+    drive.plug()
+    expect_equal("the drive's state", drive.requests.state(), vendor.FULLY_LOCKED)
+    program = ring.program()
+    program.start()
+    program.answer_alert("IDS_ERR_ZELTO_DRIVE_LOST")
+    program.wait_for_window("MainSettingsWindow")
 
 
 @scenario
