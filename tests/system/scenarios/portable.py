@@ -19,6 +19,8 @@ def carry_program(ring, drive):
                    text=True, check=True)
     partition = wait_for("the partition is there",
                          lambda: volumes.partition(drive.serial, drive.tool_unit))
+    # Before it has seen the partition, udev does not notice that something is written to it.
+    subprocess.run(["udevadm", "settle"], check=True)
     subprocess.run(["mkfs.vfat", "-n", "ZELTO TOOL", f"/dev/{partition}"], check=True,
                    stdout=subprocess.DEVNULL)
     wait_for("its volume is recognised", lambda: volumes.file_system(partition) == "vfat")
