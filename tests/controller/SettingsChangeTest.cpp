@@ -38,7 +38,7 @@ protected:
     }
 };
 
-TEST_F(ChangeSettings, aDriveThatWasSetUpShowsItsSettings) {
+TEST_F(ChangeSettings, ADriveThatWasSetUpShowsItsSettings) {
     const Wishes wishes{.autoClearDays = "2", .autoLogOffMinutes = "30"};
     begin();
     ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
@@ -63,7 +63,7 @@ TEST_F(ChangeSettings, aDriveThatWasSetUpShowsItsSettings) {
     EXPECT_EQ(app().numberOfRowsInTableView(), 2);
 }
 
-TEST_F(ChangeSettings, periodsThatAreOffLeaveTheirControlsDisabled) {
+TEST_F(ChangeSettings, PeriodsThatAreOffLeaveTheirControlsDisabled) {
     const Wishes wishes{.key = QStringLiteral("0A")};
     begin();
     ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
@@ -77,7 +77,7 @@ TEST_F(ChangeSettings, periodsThatAreOffLeaveTheirControlsDisabled) {
     EXPECT_EQ(main.EncryptionKeyAutoManualSelectRadioButton->selectedTag(), 1);
 }
 
-TEST_F(ChangeSettings, theRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuits) {
+TEST_F(ChangeSettings, TheRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuits) {
     beginWithSettingsOf({.autoClearDays = "2", .autoLogOffMinutes = "30"});
     click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
     ASSERT_TRUE(okIsEnabled());
@@ -91,7 +91,7 @@ TEST_F(ChangeSettings, theRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuit
     EXPECT_THAT(messages(), IsEmpty());
 }
 
-TEST_F(ChangeSettings, anUncheckedAutoClearIsSentAsZero) {
+TEST_F(ChangeSettings, AnUncheckedAutoClearIsSentAsZero) {
     beginWithSettingsOf({.autoClearDays = "2"});
     click(app().MainSettingsWindow.AutoClearEnabledCheckBox);
     // Whatever the text holds.
@@ -101,21 +101,21 @@ TEST_F(ChangeSettings, anUncheckedAutoClearIsSentAsZero) {
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wIndex, 0);
 }
 
-TEST_F(ChangeSettings, cancelQuitsWithoutACommand) {
+TEST_F(ChangeSettings, CancelQuitsWithoutACommand) {
     beginWithSettingsOf({});
     click(app().MainSettingsWindow.MainSettingsCancelButton);
     EXPECT_TRUE(hasQuit());
     EXPECT_THAT(commands(), IsEmpty());
 }
 
-TEST_F(ChangeSettings, closingTheWindowIsCancelling) {
+TEST_F(ChangeSettings, ClosingTheWindowIsCancelling) {
     beginWithSettingsOf({});
     app().MainSettingsWindow.reject();
     EXPECT_TRUE(hasQuit());
     EXPECT_THAT(commands(), IsEmpty());
 }
 
-TEST_F(ChangeSettings, onePasswordIsChangedByOneRecord) {
+TEST_F(ChangeSettings, OnePasswordIsChangedByOneRecord) {
     beginWithSettingsOf({});
     changePasswords({});
     ASSERT_TRUE(okIsEnabled());
@@ -136,7 +136,7 @@ TEST_F(ChangeSettings, onePasswordIsChangedByOneRecord) {
     EXPECT_EQ(driveState(), SecurityState::StateUnlocking);
 }
 
-TEST_F(ChangeSettings, twoPasswordsAreChangedByTwoRecords) {
+TEST_F(ChangeSettings, TwoPasswordsAreChangedByTwoRecords) {
     beginWithSettingsOf({.twoPasswords = true});
     EXPECT_TRUE(app().Settings.PasswordSettingsParameters.Use1stAnd2ndPassword);
     changePasswords({}, true);
@@ -158,7 +158,7 @@ TEST_F(ChangeSettings, twoPasswordsAreChangedByTwoRecords) {
     EXPECT_EQ(driveState(), SecurityState::StateUnlocking);
 }
 
-TEST_F(ChangeSettings, aWrongCurrentFirstPasswordIsToldAfterAPauseAndTheWindowStays) {
+TEST_F(ChangeSettings, AWrongCurrentFirstPasswordIsToldAfterAPauseAndTheWindowStays) {
     beginWithSettingsOf({});
     changePasswords({.current1 = "wrong"});
     commit();
@@ -182,7 +182,7 @@ TEST_F(ChangeSettings, aWrongCurrentFirstPasswordIsToldAfterAPauseAndTheWindowSt
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(ChangeSettings, aWrongCurrentSecondPasswordChangesNothing) {
+TEST_F(ChangeSettings, AWrongCurrentSecondPasswordChangesNothing) {
     beginWithSettingsOf({.twoPasswords = true});
     changePasswords({.current2 = "wrong"}, true);
     commit();
@@ -190,7 +190,7 @@ TEST_F(ChangeSettings, aWrongCurrentSecondPasswordChangesNothing) {
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_CURRENT_2ND_PASSWORD_INVALID")));
 }
 
-TEST_F(ChangeSettings, aWrongFirstPasswordLeavesTheSecondOneChanged) {
+TEST_F(ChangeSettings, AWrongFirstPasswordLeavesTheSecondOneChanged) {
     beginWithSettingsOf({.twoPasswords = true});
     const auto before = drive->drive().model().remembered();
     changePasswords({.current1 = "wrong"}, true);
@@ -201,7 +201,7 @@ TEST_F(ChangeSettings, aWrongFirstPasswordLeavesTheSecondOneChanged) {
     EXPECT_TRUE(after.firstPassword == before.firstPassword);
 }
 
-TEST_F(ChangeSettings, aRecordRefusedForAnotherReasonIsReportedWithItsSense) {
+TEST_F(ChangeSettings, ARecordRefusedForAnotherReasonIsReportedWithItsSense) {
     beginWithSettingsOf({});
     changePasswords({});
     failCommand("SetAuthInfo", {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
@@ -210,7 +210,7 @@ TEST_F(ChangeSettings, aRecordRefusedForAnotherReasonIsReportedWithItsSense) {
     EXPECT_TRUE(okIsEnabled());
 }
 
-TEST_F(ChangeSettings, aDriveThatIsGoneIsReportedByTheStatusReadAfterTheRefusal) {
+TEST_F(ChangeSettings, ADriveThatIsGoneIsReportedByTheStatusReadAfterTheRefusal) {
     beginWithSettingsOf({});
     changePasswords({});
     failCommand("SetAuthInfo", {.kind = Fault::Kind::VanishesBefore});
@@ -219,7 +219,7 @@ TEST_F(ChangeSettings, aDriveThatIsGoneIsReportedByTheStatusReadAfterTheRefusal)
     EXPECT_FALSE(hasQuit());
 }
 
-TEST_F(ChangeSettings, aRefusedPeriodKeepsTheWindowOpen) {
+TEST_F(ChangeSettings, ARefusedPeriodKeepsTheWindowOpen) {
     for (const char* command : {"ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
         beginWithSettingsOf({});
         click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
@@ -232,7 +232,7 @@ TEST_F(ChangeSettings, aRefusedPeriodKeepsTheWindowOpen) {
     }
 }
 
-TEST_F(ChangeSettings, textThatIsNotAPeriodKeepsOkDisabled) {
+TEST_F(ChangeSettings, TextThatIsNotAPeriodKeepsOkDisabled) {
     beginWithSettingsOf({});
     auto& main = app().MainSettingsWindow;
     click(main.AutoClearEnabledCheckBox);
@@ -254,7 +254,7 @@ TEST_F(ChangeSettings, textThatIsNotAPeriodKeepsOkDisabled) {
     EXPECT_TRUE(okIsEnabled());
 }
 
-TEST_F(ChangeSettings, switchingAutoLogOffOffEmptiesItsTextAndOnKeepsIt) {
+TEST_F(ChangeSettings, SwitchingAutoLogOffOffEmptiesItsTextAndOnKeepsIt) {
     beginWithSettingsOf({.autoLogOffMinutes = "30"});
     auto& main = app().MainSettingsWindow;
     click(main.AutoLogOffEnabledCheckBox);
@@ -266,14 +266,14 @@ TEST_F(ChangeSettings, switchingAutoLogOffOffEmptiesItsTextAndOnKeepsIt) {
     EXPECT_FALSE(okIsEnabled());
 }
 
-TEST_F(ChangeSettings, openingTwiceInOneRunLeavesTwoItemsAndShowsTheFirst) {
+TEST_F(ChangeSettings, OpeningTwiceInOneRunLeavesTwoItemsAndShowsTheFirst) {
     beginWithSettingsOf({});
     app().DisplayMainSettingsWindow(false);
     EXPECT_EQ(app().MainSettingsWindow.ZeltoDriveComboBox->count(), 2);
     EXPECT_EQ(app().MainSettingsWindow.ZeltoDriveComboBox->currentIndex(), 0);
 }
 
-TEST_F(ChangeSettings, anAreaListThatCannotBeReadOpensNothing) {
+TEST_F(ChangeSettings, AnAreaListThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
     app().MainSettingsWindow.orderOut();
     failCommand("GetAreaInfos", {.kind = Fault::Kind::VanishesBefore});
@@ -282,7 +282,7 @@ TEST_F(ChangeSettings, anAreaListThatCannotBeReadOpensNothing) {
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
 }
 
-TEST_F(ChangeSettings, aTimeStatusThatCannotBeReadOpensNothing) {
+TEST_F(ChangeSettings, ATimeStatusThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
     app().MainSettingsWindow.orderOut();
     failCommand("ZELTO_GetTimeStatus", {});
@@ -291,7 +291,7 @@ TEST_F(ChangeSettings, aTimeStatusThatCannotBeReadOpensNothing) {
     EXPECT_EQ(messages().size(), 1u);
 }
 
-TEST_F(ChangeSettings, aStatusThatCannotBeReadIsNotReported) {
+TEST_F(ChangeSettings, AStatusThatCannotBeReadIsNotReported) {
     beginWithSettingsOf({});
     failCommand("GetDeviceStatus", {});
     app().DisplayMainSettingsWindow(false);
@@ -299,7 +299,7 @@ TEST_F(ChangeSettings, aStatusThatCannotBeReadIsNotReported) {
     EXPECT_THAT(messages(), IsEmpty());
 }
 
-TEST_F(ChangeSettings, aDriveWithoutSecureAreaHasNothingToChangeButNothingBreaks) {
+TEST_F(ChangeSettings, ADriveWithoutSecureAreaHasNothingToChangeButNothingBreaks) {
     beginWithSettingsOf({.secureDisk = 0});
     auto& main = app().MainSettingsWindow;
     EXPECT_TRUE(main.isVisible());

@@ -22,7 +22,7 @@ std::vector<QString> strangeTexts() {
 
 class AreaDialog : public SettingsBench {};
 
-TEST_F(AreaDialog, offersTheWholeDriveToDisk1) {
+TEST_F(AreaDialog, OffersTheWholeDriveToDisk1) {
     begin();
     auto& form = app().AreaSettingsWindow;
     inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
@@ -37,7 +37,7 @@ TEST_F(AreaDialog, offersTheWholeDriveToDisk1) {
     EXPECT_FALSE(app().Changed.AreaSettingsPerformed);
 }
 
-TEST_F(AreaDialog, showsWhatIsLeftAfterEveryEditAndWhenItIsTooMuch) {
+TEST_F(AreaDialog, ShowsWhatIsLeftAfterEveryEditAndWhenItIsTooMuch) {
     begin();
     auto& form = app().AreaSettingsWindow;
     inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
@@ -56,7 +56,7 @@ TEST_F(AreaDialog, showsWhatIsLeftAfterEveryEditAndWhenItIsTooMuch) {
     });
 }
 
-TEST_F(AreaDialog, strangeTextsKeepOkDisabled) {
+TEST_F(AreaDialog, StrangeTextsKeepOkDisabled) {
     begin();
     auto& form = app().AreaSettingsWindow;
     inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
@@ -72,7 +72,7 @@ TEST_F(AreaDialog, strangeTextsKeepOkDisabled) {
     EXPECT_THAT(messages(), IsEmpty());
 }
 
-TEST_F(AreaDialog, atMostOneDiskIsSecure) {
+TEST_F(AreaDialog, AtMostOneDiskIsSecure) {
     begin();
     auto& form = app().AreaSettingsWindow;
     inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
@@ -89,7 +89,7 @@ TEST_F(AreaDialog, atMostOneDiskIsSecure) {
     });
 }
 
-TEST_F(AreaDialog, aCancelledDialogKeepsWhatWasTypedAndNothingElse) {
+TEST_F(AreaDialog, ACancelledDialogKeepsWhatWasTypedAndNothingElse) {
     begin();
     auto& form = app().AreaSettingsWindow;
     inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
@@ -106,7 +106,7 @@ TEST_F(AreaDialog, aCancelledDialogKeepsWhatWasTypedAndNothingElse) {
     });
 }
 
-TEST_F(AreaDialog, onlyDisk1sSecureChoiceIsBroughtBack) {
+TEST_F(AreaDialog, OnlyDisk1sSecureChoiceIsBroughtBack) {
     begin();
     auto& form = app().AreaSettingsWindow;
     layOut({.secureDisk = 1});
@@ -119,7 +119,7 @@ TEST_F(AreaDialog, onlyDisk1sSecureChoiceIsBroughtBack) {
     });
 }
 
-TEST_F(AreaDialog, anEmptyDisk2MovesDisk3UpInTheTable) {
+TEST_F(AreaDialog, AnEmptyDisk2MovesDisk3UpInTheTable) {
     begin();
     EXPECT_EQ(app().tableViewObjectValue(QStringLiteral("ColumnIDType"), 0),
               localized("IDS_FREE_AREA"));
@@ -138,7 +138,7 @@ TEST_F(AreaDialog, anEmptyDisk2MovesDisk3UpInTheTable) {
               localized("IDS_FREE_CAPACITY", 48));
 }
 
-TEST_F(AreaDialog, readsNeitherAreasNorTimesAgain) {
+TEST_F(AreaDialog, ReadsNeitherAreasNorTimesAgain) {
     begin();
     computer.log.clear();
     layOut({});
@@ -147,7 +147,7 @@ TEST_F(AreaDialog, readsNeitherAreasNorTimesAgain) {
     EXPECT_EQ(computer.log.count("TKVR21_ZELTO_GetTimeStatus"), 0u);
 }
 
-TEST_F(AreaDialog, aSecureAreaOffersTheSecurityControlsOnceAndKeepsThemAfterwards) {
+TEST_F(AreaDialog, ASecureAreaOffersTheSecurityControlsOnceAndKeepsThemAfterwards) {
     begin();
     auto& main = app().MainSettingsWindow;
     layOut({.secureDisk = 1});
@@ -175,7 +175,7 @@ TEST_F(AreaDialog, aSecureAreaOffersTheSecurityControlsOnceAndKeepsThemAfterward
     EXPECT_TRUE(okIsEnabled());
 }
 
-TEST_F(AreaDialog, onADriveWithoutRoomNothingCanBeLaidOut) {
+TEST_F(AreaDialog, OnADriveWithoutRoomNothingCanBeLaidOut) {
     begin(40000);
     EXPECT_TRUE(app().Settings.InitialSetting);
     EXPECT_EQ(app().Settings.TotalSectorCount, 0u);
@@ -188,7 +188,7 @@ TEST_F(AreaDialog, onADriveWithoutRoomNothingCanBeLaidOut) {
 
 class PasswordDialog : public SettingsBench {};
 
-TEST_F(PasswordDialog, onePasswordNeedsAValidPairOnly) {
+TEST_F(PasswordDialog, OnePasswordNeedsAValidPairOnly) {
     begin();
     layOut({});
     auto& form = app().PasswordSettingsWindow;
@@ -218,7 +218,7 @@ TEST_F(PasswordDialog, onePasswordNeedsAValidPairOnly) {
     EXPECT_THAT(messages(), IsEmpty());
 }
 
-TEST_F(PasswordDialog, twoPasswordsNeedTrialsOfOneTo99) {
+TEST_F(PasswordDialog, TwoPasswordsNeedTrialsOfOneTo99) {
     begin();
     layOut({});
     auto& form = app().PasswordSettingsWindow;
@@ -238,7 +238,7 @@ TEST_F(PasswordDialog, twoPasswordsNeedTrialsOfOneTo99) {
     });
 }
 
-TEST_F(PasswordDialog, goingBackToOnePasswordKeepsTheSecondOnesText) {
+TEST_F(PasswordDialog, GoingBackToOnePasswordKeepsTheSecondOnesText) {
     begin();
     layOut({});
     auto& form = app().PasswordSettingsWindow;
@@ -261,7 +261,7 @@ TEST_F(PasswordDialog, goingBackToOnePasswordKeepsTheSecondOnesText) {
     EXPECT_TRUE(okIsEnabled());
 }
 
-TEST_F(PasswordDialog, openedAgainItIsFilledAndOkIsEnabledAtOnce) {
+TEST_F(PasswordDialog, OpenedAgainItIsFilledAndOkIsEnabledAtOnce) {
     begin();
     layOut({});
     setPasswords({.twoPasswords = true, .trials = "42"});
@@ -279,7 +279,7 @@ TEST_F(PasswordDialog, openedAgainItIsFilledAndOkIsEnabledAtOnce) {
               QStringLiteral("second"));
 }
 
-TEST_F(PasswordDialog, aClosedDialogHoldsNoPassword) {
+TEST_F(PasswordDialog, AClosedDialogHoldsNoPassword) {
     begin();
     layOut({});
     setPasswords({.twoPasswords = true});
@@ -290,7 +290,7 @@ TEST_F(PasswordDialog, aClosedDialogHoldsNoPassword) {
     }
 }
 
-TEST_F(PasswordDialog, theChangeDialogIgnoresTheSecondPasswordOfADriveWithOne) {
+TEST_F(PasswordDialog, TheChangeDialogIgnoresTheSecondPasswordOfADriveWithOne) {
     beginWithSettingsOf({});
     auto& form = app().PasswordChangeWindow;
     inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
@@ -310,7 +310,7 @@ TEST_F(PasswordDialog, theChangeDialogIgnoresTheSecondPasswordOfADriveWithOne) {
 
 class KeyDialog : public SettingsBench {};
 
-TEST_F(KeyDialog, acceptsOneToSixtyFourBytesInHexadecimalDigits) {
+TEST_F(KeyDialog, AcceptsOneToSixtyFourBytesInHexadecimalDigits) {
     begin();
     layOut({});
     auto& main = app().MainSettingsWindow;
@@ -339,7 +339,7 @@ TEST_F(KeyDialog, acceptsOneToSixtyFourBytesInHexadecimalDigits) {
     EXPECT_FALSE(main.EncryptionKeyButton->isEnabled());
 }
 
-TEST_F(KeyDialog, openedAgainItShowsTheKeyAsTyped) {
+TEST_F(KeyDialog, OpenedAgainItShowsTheKeyAsTyped) {
     begin();
     layOut({});
     setKey(QStringLiteral("0aFF"));
@@ -351,7 +351,7 @@ TEST_F(KeyDialog, openedAgainItShowsTheKeyAsTyped) {
     EXPECT_EQ(app().Settings.StrEncryptionKey, QStringLiteral("0aFF"));
 }
 
-TEST(AreaSettingsObject, runsItsWindowAndReturnsZero) {
+TEST(AreaSettingsObject, RunsItsWindowAndReturnsZero) {
     AreaSettings dialog;
     EXPECT_EQ(dialog.DoModal(), 0);
     Form<Ui::AreaSettingsWindow> window;

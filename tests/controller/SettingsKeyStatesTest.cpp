@@ -87,7 +87,7 @@ constexpr const char* NotUnlocking = "IDS_ERR_ZELTO_NOT_UNLOCKING";
 constexpr const char* Sense = "IDS_COMMAND_FAIL_WITH_SENSE_INFO";
 constexpr const char* Ended = nullptr;
 
-TEST_F(KeyInStates, clearAllSendsWhatEachStateCallsFor) {
+TEST_F(KeyInStates, ClearAllSendsWhatEachStateCallsFor) {
     using enum Areas;
     using enum Reset;
     const Row rows[] = {
@@ -133,7 +133,7 @@ TEST_F(KeyInStates, clearAllSendsWhatEachStateCallsFor) {
     }
 }
 
-TEST_F(KeyInStates, theKeyIsErasedOnlyWhileTheDriveIsUnlocked) {
+TEST_F(KeyInStates, TheKeyIsErasedOnlyWhileTheDriveIsUnlocked) {
     for (int state = 0; state <= 7; ++state) {
         SCOPED_TRACE(state);
         const bool isUnlocked = state == 4;
@@ -148,13 +148,13 @@ TEST_F(KeyInStates, theKeyIsErasedOnlyWhileTheDriveIsUnlocked) {
     }
 }
 
-TEST_F(KeyInStates, thereIsNoKeyToEraseOnADriveWithoutSecureArea) {
+TEST_F(KeyInStates, ThereIsNoKeyToEraseOnADriveWithoutSecureArea) {
     openWindowInState(Areas::NormalOnly, 0, Reset::Accepted);
     EXPECT_FALSE(isEnabled("EraseEncryptionKeyButton"));
     EXPECT_TRUE(isEnabled("MainSettingsClearAllButton"));
 }
 
-TEST_F(KeyInStates, theDefaultAnswerSendsNothingInAnyState) {
+TEST_F(KeyInStates, TheDefaultAnswerSendsNothingInAnyState) {
     for (int state = 0; state <= 5; ++state) {
         SCOPED_TRACE(state);
         openWindowInState(Areas::WithSecure, state, Reset::Accepted);

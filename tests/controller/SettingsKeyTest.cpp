@@ -19,7 +19,7 @@ protected:
     }
 };
 
-TEST_F(EraseKey, theDefaultAnswerSendsNothing) {
+TEST_F(EraseKey, TheDefaultAnswerSendsNothing) {
     beginWithSettingsOf({});
     click(app().MainSettingsWindow.EraseEncryptionKeyButton);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERASE_ENCRYPTION_KEY_CONFIRM")));
@@ -28,7 +28,7 @@ TEST_F(EraseKey, theDefaultAnswerSendsNothing) {
     EXPECT_THAT(commands(), IsEmpty());
 }
 
-TEST_F(EraseKey, setsAPeriodOfOneSecondLogsOutAndQuits) {
+TEST_F(EraseKey, SetsAPeriodOfOneSecondLogsOutAndQuits) {
     beginWithSettingsOf({});
     eraseAnsweringYes();
     EXPECT_EQ(commands(),
@@ -39,7 +39,7 @@ TEST_F(EraseKey, setsAPeriodOfOneSecondLogsOutAndQuits) {
     EXPECT_EQ(driveState(), SecurityState::StateFullLock);
 }
 
-TEST_F(EraseKey, aLockedDriveIsRefusedAfterTheStatusRead) {
+TEST_F(EraseKey, ALockedDriveIsRefusedAfterTheStatusRead) {
     beginWithSettingsOf({});
     computer.replug(drive);
     computer.settle();
@@ -52,7 +52,7 @@ TEST_F(EraseKey, aLockedDriveIsRefusedAfterTheStatusRead) {
     EXPECT_FALSE(hasQuit());
 }
 
-TEST_F(EraseKey, eachFailedCommandIsReportedOnceAndStopsIt) {
+TEST_F(EraseKey, EachFailedCommandIsReportedOnceAndStopsIt) {
     for (const char* command : {"GetDeviceStatus", "ZELTO_SetErasePeriod"}) {
         beginWithSettingsOf({});
         failCommand(command, {});
@@ -79,14 +79,14 @@ protected:
     }
 };
 
-TEST_F(ClearAll, theDefaultAnswerSendsNothing) {
+TEST_F(ClearAll, TheDefaultAnswerSendsNothing) {
     beginWithSettingsOf({});
     click(app().MainSettingsWindow.MainSettingsClearAllButton);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_CLEAR_ALL_CONFIRM")));
     EXPECT_THAT(commands(), IsEmpty());
 }
 
-TEST_F(ClearAll, anUnlockedDriveRefusesTheResetIsLoggedOutClearedAndReset) {
+TEST_F(ClearAll, AnUnlockedDriveRefusesTheResetIsLoggedOutClearedAndReset) {
     beginWithSettingsOf({});
     clearAnsweringYes();
     EXPECT_EQ(commands(),
@@ -104,7 +104,7 @@ TEST_F(ClearAll, anUnlockedDriveRefusesTheResetIsLoggedOutClearedAndReset) {
     EXPECT_EQ(messages().size(), 1u);
 }
 
-TEST_F(ClearAll, aDriveWithoutSecureAreaIsResetAtOnce) {
+TEST_F(ClearAll, ADriveWithoutSecureAreaIsResetAtOnce) {
     beginWithSettingsOf({.secureDisk = 0});
     clearAnsweringYes();
     EXPECT_EQ(commands(),
@@ -113,7 +113,7 @@ TEST_F(ClearAll, aDriveWithoutSecureAreaIsResetAtOnce) {
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(ClearAll, unmountsAllVolumesFirst) {
+TEST_F(ClearAll, UnmountsAllVolumesFirst) {
     beginWithSettingsOf({.secureDisk = 0});
     clearAnsweringYes();
     const auto runs = computer.log.texts(simulator::LogLine::Kind::DiskTool);
@@ -126,7 +126,7 @@ TEST_F(ClearAll, unmountsAllVolumesFirst) {
     }
 }
 
-TEST_F(ClearAll, aVolumeThatDoesNotUnmountStopsItBeforeAnyCommand) {
+TEST_F(ClearAll, AVolumeThatDoesNotUnmountStopsItBeforeAnyCommand) {
     beginWithSettingsOf({.secureDisk = 0});
     computer.diskTool.setFailure("umount", 1);
     clearAnsweringYes();
@@ -135,7 +135,7 @@ TEST_F(ClearAll, aVolumeThatDoesNotUnmountStopsItBeforeAnyCommand) {
     EXPECT_FALSE(hasQuit());
 }
 
-TEST_F(ClearAll, aLockedDriveWithASecureAreaIsRefused) {
+TEST_F(ClearAll, ALockedDriveWithASecureAreaIsRefused) {
     beginWithSettingsOf({});
     lockDrive();
     clearAnsweringYes();
@@ -144,7 +144,7 @@ TEST_F(ClearAll, aLockedDriveWithASecureAreaIsRefused) {
     EXPECT_FALSE(hasQuit());
 }
 
-TEST_F(ClearAll, aDriveNotKnownToHaveASecureAreaIsClearedWhileItIsLocked) {
+TEST_F(ClearAll, ADriveNotKnownToHaveASecureAreaIsClearedWhileItIsLocked) {
     beginWithSettingsOf({});
     lockDrive();
     app().Settings.SecureAreaAlreadyExist = false;
@@ -155,7 +155,7 @@ TEST_F(ClearAll, aDriveNotKnownToHaveASecureAreaIsClearedWhileItIsLocked) {
     EXPECT_EQ(computer.log.count("TKVR21_ZELTO_SetErasePeriod"), 1u);
 }
 
-TEST_F(ClearAll, aFullyLockedDriveGetsNoPeriods) {
+TEST_F(ClearAll, AFullyLockedDriveGetsNoPeriods) {
     beginWithSettingsOf({});
     alerts.answer(AlertButton::Alternate);
     click(app().MainSettingsWindow.EraseEncryptionKeyButton);
@@ -178,7 +178,7 @@ TEST_F(ClearAll, aFullyLockedDriveGetsNoPeriods) {
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(ClearAll, aResetRefusedForAnotherReasonIsReportedAndNotRepeated) {
+TEST_F(ClearAll, AResetRefusedForAnotherReasonIsReportedAndNotRepeated) {
     beginWithSettingsOf({.secureDisk = 0});
     failCommand("ResetAreaInfos", {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
     clearAnsweringYes();
@@ -188,7 +188,7 @@ TEST_F(ClearAll, aResetRefusedForAnotherReasonIsReportedAndNotRepeated) {
     EXPECT_TRUE(app().MainSettingsWindow.isVisible());
 }
 
-TEST_F(ClearAll, eachFailedCommandIsReportedOnceAndStopsIt) {
+TEST_F(ClearAll, EachFailedCommandIsReportedOnceAndStopsIt) {
     const std::vector<const char*> all{
         "GetDeviceStatus", "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData",
         "Logout",          "ClearEncryptionInfo"};

@@ -34,7 +34,7 @@ std::vector<std::uint8_t> part(const simulator::LogLine& line, std::size_t from,
 
 class FirstTimeSetup : public SettingsBench {};
 
-TEST_F(FirstTimeSetup, anUnpartitionedDriveOpensTheSettingsWithEverySecurityControlOff) {
+TEST_F(FirstTimeSetup, AnUnpartitionedDriveOpensTheSettingsWithEverySecurityControlOff) {
     begin(2000000);
     auto& main = app().MainSettingsWindow;
     EXPECT_TRUE(main.isVisible());
@@ -60,7 +60,7 @@ TEST_F(FirstTimeSetup, anUnpartitionedDriveOpensTheSettingsWithEverySecurityCont
     EXPECT_FALSE(okIsEnabled());
 }
 
-TEST_F(FirstTimeSetup, twoNormalAreasAreSentWithTheToolAreaAndNoSecrets) {
+TEST_F(FirstTimeSetup, TwoNormalAreasAreSentWithTheToolAreaAndNoSecrets) {
     begin();
     layOut({.mebibytes = {"60", "0", "20"}, .secureDisk = 0});
     ASSERT_TRUE(okIsEnabled());
@@ -80,7 +80,7 @@ TEST_F(FirstTimeSetup, twoNormalAreasAreSentWithTheToolAreaAndNoSecrets) {
     EXPECT_THAT(messages(), IsEmpty());
 }
 
-TEST_F(FirstTimeSetup, aSecureAreaIsSentWithKeyPasswordAndPeriodsInThisOrder) {
+TEST_F(FirstTimeSetup, ASecureAreaIsSentWithKeyPasswordAndPeriodsInThisOrder) {
     begin();
     fill({.autoClearDays = "2", .autoLogOffMinutes = "30"});
     ASSERT_TRUE(okIsEnabled());
@@ -106,7 +106,7 @@ TEST_F(FirstTimeSetup, aSecureAreaIsSentWithKeyPasswordAndPeriodsInThisOrder) {
     EXPECT_EQ(latest("Reconnect").setup.wIndex, 1);
 }
 
-TEST_F(FirstTimeSetup, twoPasswordsGoInTwoRecords) {
+TEST_F(FirstTimeSetup, TwoPasswordsGoInTwoRecords) {
     begin();
     fill({.twoPasswords = true, .trials = "7"});
     commit();
@@ -120,7 +120,7 @@ TEST_F(FirstTimeSetup, twoPasswordsGoInTwoRecords) {
     EXPECT_EQ(records[1].data.size(), 72u);
 }
 
-TEST_F(FirstTimeSetup, aKeyEnteredByHandIsSentAsTyped) {
+TEST_F(FirstTimeSetup, AKeyEnteredByHandIsSentAsTyped) {
     begin();
     fill({.key = QStringLiteral("0A1b")});
     commit();
@@ -129,7 +129,7 @@ TEST_F(FirstTimeSetup, aKeyEnteredByHandIsSentAsTyped) {
     EXPECT_THAT(part(key, 10, 62), testing::Each(0));
 }
 
-TEST_F(FirstTimeSetup, autoClearInMinutesIsSentInSeconds) {
+TEST_F(FirstTimeSetup, AutoClearInMinutesIsSentInSeconds) {
     begin();
     fill({});
     auto& main = app().MainSettingsWindow;
@@ -140,7 +140,7 @@ TEST_F(FirstTimeSetup, autoClearInMinutesIsSentInSeconds) {
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 1800);
 }
 
-TEST_F(FirstTimeSetup, showsItsProgressWhileTheDriveIsAway) {
+TEST_F(FirstTimeSetup, ShowsItsProgressWhileTheDriveIsAway) {
     begin();
     fill({});
     computer.usb.setReconnectDelay(5s);
@@ -154,7 +154,7 @@ TEST_F(FirstTimeSetup, showsItsProgressWhileTheDriveIsAway) {
     EXPECT_EQ(app().Setup.ReservedAreaDiskNumber, 2);
 }
 
-TEST_F(FirstTimeSetup, forgetsPasswordsAndKeyOnceTheyAreSent) {
+TEST_F(FirstTimeSetup, ForgetsPasswordsAndKeyOnceTheyAreSent) {
     begin();
     fill({.twoPasswords = true, .key = QStringLiteral("0A1B")});
     commit();
@@ -165,7 +165,7 @@ TEST_F(FirstTimeSetup, forgetsPasswordsAndKeyOnceTheyAreSent) {
     EXPECT_TRUE(app().EncryptionKeyWindow.EncryptionKeyText->text().isEmpty());
 }
 
-TEST_F(FirstTimeSetup, endsWithTheProgramOnTheToolArea) {
+TEST_F(FirstTimeSetup, EndsWithTheProgramOnTheToolArea) {
     begin();
     fill({});
     commit();
@@ -181,7 +181,7 @@ TEST_F(FirstTimeSetup, endsWithTheProgramOnTheToolArea) {
     EXPECT_THAT(messages(), IsEmpty());
 }
 
-TEST_F(FirstTimeSetup, reportsAFormatThatFails) {
+TEST_F(FirstTimeSetup, ReportsAFormatThatFails) {
     begin();
     fill({});
     commit();
@@ -192,7 +192,7 @@ TEST_F(FirstTimeSetup, reportsAFormatThatFails) {
     EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
 }
 
-TEST_F(FirstTimeSetup, reportsACopyThatFails) {
+TEST_F(FirstTimeSetup, ReportsACopyThatFails) {
     begin();
     fill({});
     commit();
@@ -205,7 +205,7 @@ TEST_F(FirstTimeSetup, reportsACopyThatFails) {
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(FirstTimeSetup, endsWithoutAWordWhenTheFormattedVolumeIsNotMounted) {
+TEST_F(FirstTimeSetup, EndsWithoutAWordWhenTheFormattedVolumeIsNotMounted) {
     begin();
     fill({});
     commit();
@@ -216,7 +216,7 @@ TEST_F(FirstTimeSetup, endsWithoutAWordWhenTheFormattedVolumeIsNotMounted) {
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(FirstTimeSetup, aManualKeyThatWasNotEnteredIsAskedForBeforeAnythingIsSent) {
+TEST_F(FirstTimeSetup, AManualKeyThatWasNotEnteredIsAskedForBeforeAnythingIsSent) {
     begin();
     fill({});
     click(app().MainSettingsWindow.EncryptionKeyManualCell);
@@ -228,7 +228,7 @@ TEST_F(FirstTimeSetup, aManualKeyThatWasNotEnteredIsAskedForBeforeAnythingIsSent
     EXPECT_TRUE(app().MainSettingsWindow.isVisible());
 }
 
-TEST_F(FirstTimeSetup, aDriveThatDoesNotSpinUpEndsTheProgram) {
+TEST_F(FirstTimeSetup, ADriveThatDoesNotSpinUpEndsTheProgram) {
     begin();
     layOut({.secureDisk = 0});
     drive->drive().setNotReadyReads(10);
@@ -241,7 +241,7 @@ TEST_F(FirstTimeSetup, aDriveThatDoesNotSpinUpEndsTheProgram) {
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(FirstTimeSetup, aRetryAppendsAnotherToolArea) {
+TEST_F(FirstTimeSetup, ARetryAppendsAnotherToolArea) {
     begin();
     layOut({.secureDisk = 0});
     failCommand("ZELTO_SetErasePeriod", {});
@@ -257,7 +257,7 @@ TEST_F(FirstTimeSetup, aRetryAppendsAnotherToolArea) {
     EXPECT_EQ(app().Setup.ReservedAreaDiskNumber, 3);
 }
 
-TEST_F(FirstTimeSetup, afterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom) {
+TEST_F(FirstTimeSetup, AfterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom) {
     begin();
     layOut({.secureDisk = 0});
     failCommand("SetAreaInfos", {.kind = simulator::Fault::Kind::FailsAfter});
@@ -279,7 +279,7 @@ TEST_F(FirstTimeSetup, afterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom)
     EXPECT_EQ(app().Setup.InitialSettingState, 1);
 }
 
-TEST_F(FirstTimeSetup, aBusyVolumeStopsItBeforeAnythingIsSent) {
+TEST_F(FirstTimeSetup, ABusyVolumeStopsItBeforeAnythingIsSent) {
     begin();
     setUpAndStartAgain({.secureDisk = 0});
     // As a new drive again, with the volumes of the old layout still mounted.
@@ -302,7 +302,7 @@ struct StoryCase {
 
 class SetupStory : public SettingsBench, public testing::WithParamInterface<StoryCase> {};
 
-TEST_P(SetupStory, setsUpLogsInClearsAndSetsUpAnew) {
+TEST_P(SetupStory, SetsUpLogsInClearsAndSetsUpAnew) {
     const Wishes& wishes = GetParam().wishes;
     begin(GetParam().sectors);
     ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));

@@ -34,7 +34,7 @@ protected:
     }
 };
 
-TEST_F(SetupProgressTest, givesUpWhenTheDriveIsNotBackIn60Ticks) {
+TEST_F(SetupProgressTest, GivesUpWhenTheDriveIsNotBackIn60Ticks) {
     computer.usb.setReconnectDelay(std::nullopt);
     commitSetup();
     tick(59);
@@ -47,7 +47,7 @@ TEST_F(SetupProgressTest, givesUpWhenTheDriveIsNotBackIn60Ticks) {
     EXPECT_THAT(diskToolRuns(), IsEmpty());
 }
 
-TEST_F(SetupProgressTest, givesUpWhenTheToolVolumeIsNotSeenIn60Ticks) {
+TEST_F(SetupProgressTest, GivesUpWhenTheToolVolumeIsNotSeenIn60Ticks) {
     commitSetupWithoutToolVolume();
     while (setupState() == 1) {
         tick();
@@ -66,7 +66,7 @@ TEST_F(SetupProgressTest, givesUpWhenTheToolVolumeIsNotSeenIn60Ticks) {
     EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
 }
 
-TEST_F(SetupProgressTest, aDriveThatIsBackAtTheLastTickIsStillTaken) {
+TEST_F(SetupProgressTest, ADriveThatIsBackAtTheLastTickIsStillTaken) {
     computer.usb.setReconnectDelay(std::chrono::seconds(58));
     commitSetup();
     tick(58);
@@ -76,7 +76,7 @@ TEST_F(SetupProgressTest, aDriveThatIsBackAtTheLastTickIsStillTaken) {
     EXPECT_EQ(progressText(), localized("IDS_SETTING_COMPLETE"));
 }
 
-TEST_F(SetupProgressTest, theTextBlinksWithTheCountAndStandsStillWithIt) {
+TEST_F(SetupProgressTest, TheTextBlinksWithTheCountAndStandsStillWithIt) {
     computer.usb.setReconnectDelay(std::nullopt);
     commitSetup();
     EXPECT_EQ(progressText(), localized("IDS_NOW_SETTING"));
@@ -89,7 +89,7 @@ TEST_F(SetupProgressTest, theTextBlinksWithTheCountAndStandsStillWithIt) {
     EXPECT_EQ(progressText(), QString());
 }
 
-TEST_F(SetupProgressTest, quittingIsRefusedInEveryStepAndAcceptedAtTheEnd) {
+TEST_F(SetupProgressTest, QuittingIsRefusedInEveryStepAndAcceptedAtTheEnd) {
     commitSetup();
     for (int expected = 1; expected <= 3; ++expected) {
         while (setupState() < expected) {
@@ -106,7 +106,7 @@ TEST_F(SetupProgressTest, quittingIsRefusedInEveryStepAndAcceptedAtTheEnd) {
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(SetupProgressTest, aRefusedQuitLeavesTheSetupToEndAsUsual) {
+TEST_F(SetupProgressTest, ARefusedQuitLeavesTheSetupToEndAsUsual) {
     commitSetup();
     for (int second = 0; second < 10; ++second) {
         tryToQuit();
@@ -121,7 +121,7 @@ TEST_F(SetupProgressTest, aRefusedQuitLeavesTheSetupToEndAsUsual) {
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(SetupProgressTest, aToolVolumeWithoutRoomIsAFailedCopy) {
+TEST_F(SetupProgressTest, AToolVolumeWithoutRoomIsAFailedCopy) {
     // Larger than the tool area's 20 MiB.
     const auto large = computer.files.bundlePath() / "large";
     const std::vector<std::uint8_t> bytes(21U * 1024U * 1024U, 0x5A);
@@ -138,14 +138,14 @@ TEST_F(SetupProgressTest, aToolVolumeWithoutRoomIsAFailedCopy) {
     EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
 }
 
-TEST_F(SetupProgressTest, formatsOnlyOnceAndOnlyTheToolArea) {
+TEST_F(SetupProgressTest, FormatsOnlyOnceAndOnlyTheToolArea) {
     commitSetup();
     tick(20);
     ASSERT_EQ(diskToolRuns().size(), 1u);
     EXPECT_THAT(diskToolRuns().front(), StartsWith("diskutil eraseDisk MS-DOS ZELTO TOOL MBR "));
 }
 
-TEST_F(SetupProgressTest, aDriveThatIsPulledDuringTheWaitForItsVolumeIsNotFound) {
+TEST_F(SetupProgressTest, ADriveThatIsPulledDuringTheWaitForItsVolumeIsNotFound) {
     commitSetupWithoutToolVolume();
     tick(10);
     ASSERT_EQ(setupState(), 2);
@@ -156,7 +156,7 @@ TEST_F(SetupProgressTest, aDriveThatIsPulledDuringTheWaitForItsVolumeIsNotFound)
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(SetupProgressTest, nothingIsSentToADriveAfterTheProgramHasGivenUp) {
+TEST_F(SetupProgressTest, NothingIsSentToADriveAfterTheProgramHasGivenUp) {
     commitSetupWithoutToolVolume();
     while (setupState() == 1) {
         tick();

@@ -79,7 +79,7 @@ protected:
     }
 };
 
-TEST_F(PastedTexts, inTheLogInFieldAreAcceptedAsPasswordsOnly) {
+TEST_F(PastedTexts, InTheLogInFieldAreAcceptedAsPasswordsOnly) {
     drive = plugPreparedDrive({.serial = Serial});
     start();
     auto& form = app().AuthenticateWindow;
@@ -87,7 +87,7 @@ TEST_F(PastedTexts, inTheLogInFieldAreAcceptedAsPasswordsOnly) {
            [](const auto& pasted) { return pasted.isPassword; });
 }
 
-TEST_F(PastedTexts, inTheAreaDialogAreAcceptedAsSmallNumbersOnly) {
+TEST_F(PastedTexts, InTheAreaDialogAreAcceptedAsSmallNumbersOnly) {
     begin();
     auto& form = app().AreaSettingsWindow;
     inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
@@ -101,7 +101,7 @@ TEST_F(PastedTexts, inTheAreaDialogAreAcceptedAsSmallNumbersOnly) {
     });
 }
 
-TEST_F(PastedTexts, inThePasswordSettingsAreAcceptedAsPasswordsAndTrialsOnly) {
+TEST_F(PastedTexts, InThePasswordSettingsAreAcceptedAsPasswordsAndTrialsOnly) {
     begin();
     layOut({});
     auto& form = app().PasswordSettingsWindow;
@@ -127,7 +127,7 @@ TEST_F(PastedTexts, inThePasswordSettingsAreAcceptedAsPasswordsAndTrialsOnly) {
     });
 }
 
-TEST_F(PastedTexts, leftInTheSecondPasswordOfAFirstOnlyChoiceAreNeverUsed) {
+TEST_F(PastedTexts, LeftInTheSecondPasswordOfAFirstOnlyChoiceAreNeverUsed) {
     begin();
     layOut({});
     auto& form = app().PasswordSettingsWindow;
@@ -146,7 +146,7 @@ TEST_F(PastedTexts, leftInTheSecondPasswordOfAFirstOnlyChoiceAreNeverUsed) {
     EXPECT_EQ(all("SetAuthInfo").size(), 1u);
 }
 
-TEST_F(PastedTexts, inThePasswordChangeAreAcceptedAsPasswordsAndTrialsOnly) {
+TEST_F(PastedTexts, InThePasswordChangeAreAcceptedAsPasswordsAndTrialsOnly) {
     beginWithSettingsOf({.twoPasswords = true});
     auto& form = app().PasswordChangeWindow;
     inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
@@ -173,7 +173,7 @@ TEST_F(PastedTexts, inThePasswordChangeAreAcceptedAsPasswordsAndTrialsOnly) {
     });
 }
 
-TEST_F(PastedTexts, inTheKeyDialogAreAcceptedAsPairsOfHexadecimalDigitsOnly) {
+TEST_F(PastedTexts, InTheKeyDialogAreAcceptedAsPairsOfHexadecimalDigitsOnly) {
     begin();
     layOut({});
     click(app().MainSettingsWindow.EncryptionKeyManualCell);
@@ -184,7 +184,7 @@ TEST_F(PastedTexts, inTheKeyDialogAreAcceptedAsPairsOfHexadecimalDigitsOnly) {
     });
 }
 
-TEST_F(PastedTexts, inThePeriodsAreAcceptedAsSmallNumbersOnly) {
+TEST_F(PastedTexts, InThePeriodsAreAcceptedAsSmallNumbersOnly) {
     beginWithSettingsOf({});
     auto& main = app().MainSettingsWindow;
     const auto isSmallNumber = [](const auto& pasted) { return pasted.isSmallNumber; };
@@ -197,7 +197,7 @@ TEST_F(PastedTexts, inThePeriodsAreAcceptedAsSmallNumbersOnly) {
 
 // --- Periods that do not fit -------------------------------------------------------------------
 
-TEST_F(PastedTexts, anAutoLogOffThatWouldWrapIn16BitsCannotBeTyped) {
+TEST_F(PastedTexts, AnAutoLogOffThatWouldWrapIn16BitsCannotBeTyped) {
     beginWithSettingsOf({});
     auto& main = app().MainSettingsWindow;
     click(main.AutoLogOffEnabledCheckBox);
@@ -209,7 +209,7 @@ TEST_F(PastedTexts, anAutoLogOffThatWouldWrapIn16BitsCannotBeTyped) {
     }
 }
 
-TEST_F(PastedTexts, theLargestIdlePeriodOfADriveIsSentBackInWholeMinutes) {
+TEST_F(PastedTexts, TheLargestIdlePeriodOfADriveIsSentBackInWholeMinutes) {
     drive = plugPreparedDrive({.serial = Serial, .idleLockSeconds = 0xFFFF});
     start();
     logIn(QStringLiteral("first"));
@@ -221,7 +221,7 @@ TEST_F(PastedTexts, theLargestIdlePeriodOfADriveIsSentBackInWholeMinutes) {
     EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 65520);
 }
 
-TEST_F(PastedTexts, aTextOf1093MinutesWouldBeSentAs44Seconds) {
+TEST_F(PastedTexts, ATextOf1093MinutesWouldBeSentAs44Seconds) {
     beginWithSettingsOf({});
     auto& main = app().MainSettingsWindow;
     // Nothing that a person or a drive can do puts it there; the commit itself does not judge.

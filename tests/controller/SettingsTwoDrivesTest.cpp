@@ -67,7 +67,7 @@ protected:
     std::set<std::shared_ptr<simulator::PluggableDevice>> m_touchedDevices;
 };
 
-TEST_F(TwoDrives, settingOneUpNeverTouchesTheOther) {
+TEST_F(TwoDrives, SettingOneUpNeverTouchesTheOther) {
     begin();
     fill({.twoPasswords = true});
     commit();
@@ -78,7 +78,7 @@ TEST_F(TwoDrives, settingOneUpNeverTouchesTheOther) {
     expectOtherUntouched();
 }
 
-TEST_F(TwoDrives, changingOneNeverTouchesTheOther) {
+TEST_F(TwoDrives, ChangingOneNeverTouchesTheOther) {
     beginWithSettingsOf({});
     click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
     commit();
@@ -86,7 +86,7 @@ TEST_F(TwoDrives, changingOneNeverTouchesTheOther) {
     expectOtherUntouched();
 }
 
-TEST_F(TwoDrives, loggingOffOneNeverTouchesTheOther) {
+TEST_F(TwoDrives, LoggingOffOneNeverTouchesTheOther) {
     beginWithSettingsOf({});
     app().MainSettingsWindow.orderOut();
     app().DisplayUnlockedWindow();
@@ -96,14 +96,14 @@ TEST_F(TwoDrives, loggingOffOneNeverTouchesTheOther) {
     expectOtherUntouched();
 }
 
-TEST_F(TwoDrives, erasingTheKeyOfOneNeverTouchesTheOther) {
+TEST_F(TwoDrives, ErasingTheKeyOfOneNeverTouchesTheOther) {
     beginWithSettingsOf({});
     pressAndConfirm("EraseEncryptionKeyButton");
     EXPECT_TRUE(hasQuit());
     expectOtherUntouched();
 }
 
-TEST_F(TwoDrives, clearingOneNeverTouchesTheOther) {
+TEST_F(TwoDrives, ClearingOneNeverTouchesTheOther) {
     beginWithSettingsOf({});
     pressAndConfirm("MainSettingsClearAllButton");
     EXPECT_TRUE(hasQuit());
@@ -111,14 +111,14 @@ TEST_F(TwoDrives, clearingOneNeverTouchesTheOther) {
     expectOtherUntouched();
 }
 
-TEST_F(TwoDrives, clearingOneWithoutSecureAreaUnmountsNothingOfTheOther) {
+TEST_F(TwoDrives, ClearingOneWithoutSecureAreaUnmountsNothingOfTheOther) {
     beginWithSettingsOf({.secureDisk = 0});
     pressAndConfirm("MainSettingsClearAllButton");
     EXPECT_TRUE(hasQuit());
     expectOtherUntouched();
 }
 
-TEST_F(TwoDrives, anotherDriveThatArrivesWhileOneIsAwaitedIsNotTakenForIt) {
+TEST_F(TwoDrives, AnotherDriveThatArrivesWhileOneIsAwaitedIsNotTakenForIt) {
     computer.usb.setReconnectDelay(std::nullopt);
     begin();
     fill({});

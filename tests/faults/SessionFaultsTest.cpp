@@ -175,7 +175,7 @@ protected:
     Drive m_drive;
 };
 
-TEST_P(SessionFaults, ofTheStartOpenAWindowOrSayThatTheDriveIsGone) {
+TEST_P(SessionFaults, OfTheStartOpenAWindowOrSayThatTheDriveIsGone) {
     sweep({.arrange =
                [&] {
                    m_drive =
@@ -192,7 +192,7 @@ TEST_P(SessionFaults, ofTheStartOpenAWindowOrSayThatTheDriveIsGone) {
                     {3, "RLZSG", {"AuthenticateWindow", {}, ""}}}});
 }
 
-TEST_P(SessionFaults, ofALogInKeepTheWindowOpenUnlessTheDriveIsGone) {
+TEST_P(SessionFaults, OfALogInKeepTheWindowOpenUnlessTheDriveIsGone) {
     sweep({.arrange =
                [&] {
                    m_drive = plugPreparedDrive();
@@ -207,7 +207,7 @@ TEST_P(SessionFaults, ofALogInKeepTheWindowOpenUnlessTheDriveIsGone) {
                     {1, "G", {"", {notFound()}, "A"}}}});
 }
 
-TEST_P(SessionFaults, ofTheSecondStepKeepTheWindowOpenUnlessTheDriveIsGone) {
+TEST_P(SessionFaults, OfTheSecondStepKeepTheWindowOpenUnlessTheDriveIsGone) {
     sweep({.arrange =
                [&] {
                    m_drive = plugPreparedDrive({.secondPassword = "second"});
@@ -222,7 +222,7 @@ TEST_P(SessionFaults, ofTheSecondStepKeepTheWindowOpenUnlessTheDriveIsGone) {
                     {0, "G", {Quit, {notFound()}, ""}}}});
 }
 
-TEST_P(SessionFaults, ofAWrongPasswordNeverOpenTheDrive) {
+TEST_P(SessionFaults, OfAWrongPasswordNeverOpenTheDrive) {
     const QString refused = localized("IDS_ERR_AUTHENTICATE_FAILED");
     sweep({.arrange =
                [&] {
@@ -241,7 +241,7 @@ TEST_P(SessionFaults, ofAWrongPasswordNeverOpenTheDrive) {
 
 class SessionRetries : public SessionFaults {};
 
-TEST_P(SessionRetries, ofALogInSucceedWithTheTextThatStillStandsThere) {
+TEST_P(SessionRetries, OfALogInSucceedWithTheTextThatStillStandsThere) {
     m_drive = plugPreparedDrive();
     logInTyping("first");
     m_plan->restartCount();
@@ -252,7 +252,7 @@ TEST_P(SessionRetries, ofALogInSucceedWithTheTextThatStillStandsThere) {
     EXPECT_EQ(visibleWindow(), "UnlockingWindow");
 }
 
-TEST_P(SessionFaults, ofALogOffEndTheProgramAllTheSame) {
+TEST_P(SessionFaults, OfALogOffEndTheProgramAllTheSame) {
     sweep({.arrange =
                [&] {
                    m_drive = plugPreparedDrive();
@@ -267,7 +267,7 @@ TEST_P(SessionFaults, ofALogOffEndTheProgramAllTheSame) {
                     {1, "RLZSG", {Quit, {}, ""}}}});
 }
 
-TEST_P(SessionFaults, ofSettingTheClockAreReportedAndKeepTheWindowOpen) {
+TEST_P(SessionFaults, OfSettingTheClockAreReportedAndKeepTheWindowOpen) {
     sweep({.arrange =
                [&] {
                    m_drive = plugPreparedDrive({.areas = {{.mebibytes = 16}}, .clockIsSet = false});
@@ -281,7 +281,7 @@ TEST_P(SessionFaults, ofSettingTheClockAreReportedAndKeepTheWindowOpen) {
                     {0, "G", {"MainSettingsWindow", {notFound()}, ""}}}});
 }
 
-TEST_P(SessionFaults, ofSettingTheClockOfAFullyLockedDriveEndTheProgram) {
+TEST_P(SessionFaults, OfSettingTheClockOfAFullyLockedDriveEndTheProgram) {
     const QString offer =
         localized("IDS_FULLLOCK_TIME_STATUS_INVALID", QStringLiteral("2026/03/02 09:30"));
     const QString done = localized("IDS_SET_CURRENT_YIME");
@@ -305,7 +305,7 @@ TEST_P(SessionFaults, ofSettingTheClockOfAFullyLockedDriveEndTheProgram) {
                     {3, "G", {Quit, {offer, notFound()}, ""}}}});
 }
 
-TEST_P(SessionFaults, ofATickLeaveTheDrivesLabelsAsTheyWere) {
+TEST_P(SessionFaults, OfATickLeaveTheDrivesLabelsAsTheyWere) {
     sweep({.arrange =
                [&] {
                    m_drive = plugPreparedDrive();

@@ -86,7 +86,7 @@ protected:
     const std::vector<std::string> afterTheCommit{"TKVR21_ZELTO_WriteHintData", "TKVR21_Reconnect"};
 };
 
-TEST_P(SettingsFaults, ofFirstTimeSetupKeepTheWindowOpenForARetry) {
+TEST_P(SettingsFaults, OfFirstTimeSetupKeepTheWindowOpenForARetry) {
     const Wishes wishes{.twoPasswords = true, .key = QStringLiteral("0A1B"), .autoClearDays = "2"};
     sweep({.arrange =
                [&] {
@@ -105,7 +105,7 @@ TEST_P(SettingsFaults, ofFirstTimeSetupKeepTheWindowOpenForARetry) {
 
 class SettingsRetries : public SettingsFaults {};
 
-TEST_P(SettingsRetries, ofFirstTimeSetupSucceed) {
+TEST_P(SettingsRetries, OfFirstTimeSetupSucceed) {
     for (const char* command : {"SetAreaInfos", "SetEncryptionInfo", "SetAuthInfo",
                                 "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
         SCOPED_TRACE(command);
@@ -125,7 +125,7 @@ TEST_P(SettingsRetries, ofFirstTimeSetupSucceed) {
     }
 }
 
-TEST_P(SettingsFaults, ofAChangeKeepTheWindowOpenWithTheEntries) {
+TEST_P(SettingsFaults, OfAChangeKeepTheWindowOpenWithTheEntries) {
     sweep({.arrange =
                [&] {
                    beginWithSettingsOf({.twoPasswords = true});
@@ -151,7 +151,7 @@ TEST_P(SettingsFaults, ofAChangeKeepTheWindowOpenWithTheEntries) {
            .unchecked = afterTheCommit});
 }
 
-TEST_P(SettingsFaults, ofClearingAllLeaveTheProgramRunning) {
+TEST_P(SettingsFaults, OfClearingAllLeaveTheProgramRunning) {
     sweep({.arrange = [&] { beginWithSettingsOf({}); },
            .act =
                [&] {
@@ -164,7 +164,7 @@ TEST_P(SettingsFaults, ofClearingAllLeaveTheProgramRunning) {
            .ownMessages = 1});
 }
 
-TEST_P(SettingsFaults, ofErasingTheKeyLeaveTheProgramRunningUntilItLogsOut) {
+TEST_P(SettingsFaults, OfErasingTheKeyLeaveTheProgramRunningUntilItLogsOut) {
     sweep({.arrange = [&] { beginWithSettingsOf({}); },
            .act =
                [&] {

@@ -20,38 +20,38 @@ QString text(const char* digits) {
     return QString::fromLatin1(digits);
 }
 
-TEST(AreaDialog, disksThatFillTheDriveExactlyAreComplete) {
+TEST(AreaDialog, DisksThatFillTheDriveExactlyAreComplete) {
     const auto verdict = judge(text("900"), text("56"), text("0"));
     EXPECT_EQ(verdict.leftMebibytes, 0);
     EXPECT_TRUE(verdict.isComplete);
 }
 
-TEST(AreaDialog, oneMebibyteMoreIsTooMuch) {
+TEST(AreaDialog, OneMebibyteMoreIsTooMuch) {
     const auto verdict = judge(text("900"), text("57"), text("0"));
     EXPECT_LT(verdict.leftMebibytes, 0);
     EXPECT_FALSE(verdict.isComplete);
 }
 
-TEST(AreaDialog, anEmptyTextCountsAsNone) {
+TEST(AreaDialog, AnEmptyTextCountsAsNone) {
     const auto verdict = judge(text("900"), text(""), text(""));
     EXPECT_EQ(verdict.leftMebibytes, 56);
     EXPECT_TRUE(verdict.isComplete);
 }
 
-TEST(AreaDialog, disk1MustHaveASize) {
+TEST(AreaDialog, Disk1MustHaveASize) {
     EXPECT_FALSE(judge(text(""), text("1"), text("1")).isComplete);
     EXPECT_FALSE(judge(text("0"), text("1"), text("1")).isComplete);
     EXPECT_FALSE(judge(text("000"), text(""), text("")).isComplete);
 }
 
-TEST(AreaDialog, aTextThatIsNoNumberIsRefusedButItsDigitsAreKept) {
+TEST(AreaDialog, ATextThatIsNoNumberIsRefusedButItsDigitsAreKept) {
     const auto verdict = judge(text("500"), text("12a"), text("x7"));
     EXPECT_FALSE(verdict.isComplete);
     EXPECT_EQ(verdict.mebibytes, (std::array<std::uint64_t, 3>{500, 12, 0}));
     EXPECT_EQ(verdict.leftMebibytes, 956 - 512);
 }
 
-TEST(AreaDialog, strangeTextsInAnyFieldAreRefused) {
+TEST(AreaDialog, StrangeTextsInAnyFieldAreRefused) {
     for (const QString& strange : test::strangeTexts()) {
         EXPECT_FALSE(judge(strange, text("1"), text("1")).isComplete);
         EXPECT_FALSE(judge(text("1"), strange, text("1")).isComplete);
@@ -59,7 +59,7 @@ TEST(AreaDialog, strangeTextsInAnyFieldAreRefused) {
     }
 }
 
-TEST(AreaDialog, numbersBeyondSixtyFourBitsAreTooMuch) {
+TEST(AreaDialog, NumbersBeyondSixtyFourBitsAreTooMuch) {
     const QString huge(100000, u'9');
     const auto verdict = judge(huge, huge, huge);
     EXPECT_LT(verdict.leftMebibytes, 0);
@@ -69,7 +69,7 @@ TEST(AreaDialog, numbersBeyondSixtyFourBitsAreTooMuch) {
                      .isComplete);
 }
 
-TEST(AreaDialog, nothingFitsOnADriveWithoutRoom) {
+TEST(AreaDialog, NothingFitsOnADriveWithoutRoom) {
     EXPECT_FALSE(judge(text("1"), text("0"), text("0"), 0).isComplete);
     EXPECT_EQ(judge(text("0"), text("0"), text("0"), 0).leftMebibytes, 0);
     EXPECT_FALSE(judge(text("1"), text("0"), text("0"), 2047).isComplete);

@@ -33,26 +33,26 @@ AreaInfoTable tableOfLength(std::uint16_t length) {
     return table;
 }
 
-TEST(SectorsBesideToolArea, are40960Less) {
+TEST(SectorsBesideToolArea, Are40960Less) {
     EXPECT_EQ(sectorsBesideToolArea(2000000), 1959040u);
     EXPECT_EQ(mebibytesOfSectors(sectorsBesideToolArea(2000000)), 956u);
 }
 
-TEST(SectorsBesideToolArea, areNoneOnADriveThatHasNoRoomForIt) {
+TEST(SectorsBesideToolArea, AreNoneOnADriveThatHasNoRoomForIt) {
     EXPECT_EQ(sectorsBesideToolArea(40960), 0u);
     EXPECT_EQ(sectorsBesideToolArea(40959), 0u);
     EXPECT_EQ(sectorsBesideToolArea(0), 0u);
     EXPECT_EQ(sectorsBesideToolArea(AllOnes), AllOnes - 40960);
 }
 
-TEST(IsNeverPartitioned, looksAtTheFirstEntryOnly) {
+TEST(IsNeverPartitioned, LooksAtTheFirstEntryOnly) {
     EXPECT_TRUE(isNeverPartitioned(neverPartitioned(1000)));
     EXPECT_FALSE(isNeverPartitioned(
         encodeAreaInfoTable(1000, std::array{normalArea(0, 10), normalArea(10, AllOnes)})));
     EXPECT_FALSE(isNeverPartitioned(AreaInfoTable()));
 }
 
-TEST(AreaView, ofADriveNeverPartitionedIsOneRowThatSpansAllAndTakesNothing) {
+TEST(AreaView, OfADriveNeverPartitionedIsOneRowThatSpansAllAndTakesNothing) {
     const AreaView view = buildAreaView(neverPartitioned(2000000), 1959040);
     EXPECT_EQ(view.rows.areaCount, 1);
     EXPECT_EQ(view.rows.areaData[0].type, 0);
@@ -61,7 +61,7 @@ TEST(AreaView, ofADriveNeverPartitionedIsOneRowThatSpansAllAndTakesNothing) {
     EXPECT_FALSE(view.hasSecureArea);
 }
 
-TEST(AreaView, showsMebibytesRoundedDownAndWhatIsFree) {
+TEST(AreaView, ShowsMebibytesRoundedDownAndWhatIsFree) {
     const AreaView view = buildAreaView(
         encodeAreaInfoTable(10000, std::array{normalArea(0, 4095), secureArea(4095, 2048)}), 10000);
     EXPECT_EQ(view.rows.areaCount, 2);
@@ -73,7 +73,7 @@ TEST(AreaView, showsMebibytesRoundedDownAndWhatIsFree) {
     EXPECT_TRUE(view.hasSecureArea);
 }
 
-TEST(AreaView, keepsFourRowsOfADriveThatReportsMore) {
+TEST(AreaView, KeepsFourRowsOfADriveThatReportsMore) {
     std::vector<AreaInfoEntry> entries;
     for (std::uint64_t index = 0; index < 12; ++index) {
         entries.push_back(normalArea(index * 2048, 2048));
@@ -83,7 +83,7 @@ TEST(AreaView, keepsFourRowsOfADriveThatReportsMore) {
     EXPECT_EQ(view.freeSectors, 100000u - 12 * 2048);
 }
 
-TEST(AreaView, findsASecureAreaBeyondTheRowsShown) {
+TEST(AreaView, FindsASecureAreaBeyondTheRowsShown) {
     const AreaView view = buildAreaView(
         encodeAreaInfoTable(100000, std::array{normalArea(0, 1), normalArea(1, 1), normalArea(2, 1),
                                                normalArea(3, 1), secureArea(4, 1)}),
@@ -92,7 +92,7 @@ TEST(AreaView, findsASecureAreaBeyondTheRowsShown) {
     EXPECT_TRUE(view.hasSecureArea);
 }
 
-TEST(AreaView, neverCountsBeyondTheBufferWhateverTheLengthFieldSays) {
+TEST(AreaView, NeverCountsBeyondTheBufferWhateverTheLengthFieldSays) {
     for (unsigned length = 0; length <= 0xFFFF; ++length) {
         const AreaView view =
             buildAreaView(tableOfLength(static_cast<std::uint16_t>(length)), 1000);
@@ -101,7 +101,7 @@ TEST(AreaView, neverCountsBeyondTheBufferWhateverTheLengthFieldSays) {
     }
 }
 
-TEST(AreaView, areasThatClaimMoreThanTheDriveLeaveNothingFree) {
+TEST(AreaView, AreasThatClaimMoreThanTheDriveLeaveNothingFree) {
     const auto table = encodeAreaInfoTable(
         1000, std::array{normalArea(0, AllOnes - 1), normalArea(5, AllOnes - 1)});
     EXPECT_EQ(buildAreaView(table, 1000).freeSectors, 0u);
@@ -110,33 +110,33 @@ TEST(AreaView, areasThatClaimMoreThanTheDriveLeaveNothingFree) {
     EXPECT_EQ(buildAreaView(table, AllOnes).rows.areaData[0].capacity, (AllOnes - 1) >> 11);
 }
 
-TEST(AreaView, anAreaBelowOneMebibyteHasCapacityZero) {
+TEST(AreaView, AnAreaBelowOneMebibyteHasCapacityZero) {
     const AreaView view =
         buildAreaView(encodeAreaInfoTable(5000, std::array{normalArea(0, 2047)}), 5000);
     EXPECT_EQ(view.rows.areaCount, 1);
     EXPECT_EQ(view.rows.areaData[0].capacity, 0u);
 }
 
-TEST(LeftMebibytes, isWhatTheDisksLeave) {
+TEST(LeftMebibytes, IsWhatTheDisksLeave) {
     EXPECT_EQ(leftMebibytes(1959040, {900, 56, 0}), 0);
     EXPECT_EQ(leftMebibytes(1959040, {900, 0, 0}), 56);
     EXPECT_EQ(leftMebibytes(1959040, {0, 0, 0}), 956);
 }
 
-TEST(LeftMebibytes, isNegativeOnceTheDisksExceedTheDrive) {
+TEST(LeftMebibytes, IsNegativeOnceTheDisksExceedTheDrive) {
     EXPECT_LT(leftMebibytes(1959040, {900, 57, 0}), 0);
     EXPECT_LT(leftMebibytes(0, {1, 0, 0}), 0);
     EXPECT_EQ(leftMebibytes(0, {0, 0, 0}), 0);
 }
 
-TEST(LeftMebibytes, sumsBeyondSixtyFourBitsAreStillTooMuch) {
+TEST(LeftMebibytes, SumsBeyondSixtyFourBitsAreStillTooMuch) {
     EXPECT_LT(leftMebibytes(1959040, {LargestTyped, LargestTyped, LargestTyped}), 0);
     EXPECT_LT(leftMebibytes(1959040, {LargestTyped, LargestTyped, 2}), 0);
     EXPECT_LT(leftMebibytes(AllOnes, {AllOnes, 1, 0}), 0);
     EXPECT_EQ(leftMebibytes(AllOnes, {AllOnes >> 11, 0, 0}), 0);
 }
 
-TEST(RebuildUserAreas, packsDisk1AndDisk3WhenDisk2IsEmpty) {
+TEST(RebuildUserAreas, PacksDisk1AndDisk3WhenDisk2IsEmpty) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{500, 0, 100}, {true, false, false}});
     EXPECT_EQ(
@@ -150,7 +150,7 @@ TEST(RebuildUserAreas, packsDisk1AndDisk3WhenDisk2IsEmpty) {
     EXPECT_EQ(table.totalSectorCount(), 2000000u);
 }
 
-TEST(RebuildUserAreas, writesTheBytesOfAnEntry) {
+TEST(RebuildUserAreas, WritesTheBytesOfAnEntry) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{500, 0, 100}, {false, false, true}});
     const std::array<std::uint8_t, 40> expected{
@@ -159,7 +159,7 @@ TEST(RebuildUserAreas, writesTheBytesOfAnEntry) {
     EXPECT_TRUE(std::ranges::equal(table.bytes().subspan(12, 40), expected));
 }
 
-TEST(RebuildUserAreas, leavesHeaderBytesThatNobodySetsAsTheDriveSentThem) {
+TEST(RebuildUserAreas, LeavesHeaderBytesThatNobodySetsAsTheDriveSentThem) {
     AreaInfoTable table = neverPartitioned(2000000);
     table.bytes()[0] = 0x01;
     table.bytes()[2] = 0xEE;
@@ -170,7 +170,7 @@ TEST(RebuildUserAreas, leavesHeaderBytesThatNobodySetsAsTheDriveSentThem) {
     EXPECT_EQ(table.bytes()[3], 3);
 }
 
-TEST(RebuildUserAreas, isTheSameHoweverOftenItIsRepeated) {
+TEST(RebuildUserAreas, IsTheSameHoweverOftenItIsRepeated) {
     AreaInfoTable once = neverPartitioned(2000000);
     rebuildUserAreas(once, {{100, 200, 0}, {false, true, false}});
     AreaInfoTable twice = once;
@@ -178,7 +178,7 @@ TEST(RebuildUserAreas, isTheSameHoweverOftenItIsRepeated) {
     EXPECT_TRUE(std::ranges::equal(once.bytes(), twice.bytes()));
 }
 
-TEST(RebuildUserAreas, anEarlierLongerLayoutLeavesNoAreaBehind) {
+TEST(RebuildUserAreas, AnEarlierLongerLayoutLeavesNoAreaBehind) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{100, 200, 300}, {true, false, false}});
     rebuildUserAreas(table, {{50, 0, 0}, {}});
@@ -189,14 +189,14 @@ TEST(RebuildUserAreas, anEarlierLongerLayoutLeavesNoAreaBehind) {
     EXPECT_EQ(view.freeSectors, 1959040u - 50 * 2048);
 }
 
-TEST(RebuildUserAreas, aSecureBoxOfAnEmptyDiskDoesNothing) {
+TEST(RebuildUserAreas, ASecureBoxOfAnEmptyDiskDoesNothing) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{100, 0, 0}, {false, true, false}});
     EXPECT_EQ(table.entryCount(), 1u);
     EXPECT_FALSE(buildAreaView(table, 1959040).hasSecureArea);
 }
 
-TEST(AppendToolArea, followsTwoNormalAreas) {
+TEST(AppendToolArea, FollowsTwoNormalAreas) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{500, 0, 100}, {}});
     EXPECT_EQ(appendToolArea(table), 3);
@@ -209,7 +209,7 @@ TEST(AppendToolArea, followsTwoNormalAreas) {
     EXPECT_EQ(table.bytes()[3], 3);
 }
 
-TEST(AppendToolArea, leavesTheLengthFieldSoThatTheScreenShowsTheUsersAreas) {
+TEST(AppendToolArea, LeavesTheLengthFieldSoThatTheScreenShowsTheUsersAreas) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{500, 0, 100}, {}});
     ASSERT_TRUE(appendToolArea(table).has_value());
@@ -217,7 +217,7 @@ TEST(AppendToolArea, leavesTheLengthFieldSoThatTheScreenShowsTheUsersAreas) {
     EXPECT_EQ(buildAreaView(table, 1959040).rows.areaCount, 2);
 }
 
-TEST(AppendToolArea, marksASecureAreaToo) {
+TEST(AppendToolArea, MarksASecureAreaToo) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{500, 100, 0}, {false, true, false}});
     EXPECT_EQ(appendToolArea(table), 3);
@@ -225,7 +225,7 @@ TEST(AppendToolArea, marksASecureAreaToo) {
     EXPECT_EQ(table.entry(1).type, 0x40);
 }
 
-TEST(AppendToolArea, aRetryAppendsAnotherOneBehindTheFirst) {
+TEST(AppendToolArea, ARetryAppendsAnotherOneBehindTheFirst) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{500, 0, 0}, {}});
     EXPECT_EQ(appendToolArea(table), 2);
@@ -235,7 +235,7 @@ TEST(AppendToolArea, aRetryAppendsAnotherOneBehindTheFirst) {
     EXPECT_EQ(storedEntries(table).size(), 60u);
 }
 
-TEST(AppendToolArea, refusesAFullBufferAndLeavesItUnchanged) {
+TEST(AppendToolArea, RefusesAFullBufferAndLeavesItUnchanged) {
     AreaInfoTable table = neverPartitioned(2000000);
     rebuildUserAreas(table, {{500, 1, 1}, {}});
     for (int number = 4; number <= 12; ++number) {
@@ -247,7 +247,7 @@ TEST(AppendToolArea, refusesAFullBufferAndLeavesItUnchanged) {
     EXPECT_EQ(storedEntries(table).size(), 240u);
 }
 
-TEST(AppendToolArea, refusesEveryStoredCountThatDoesNotFit) {
+TEST(AppendToolArea, RefusesEveryStoredCountThatDoesNotFit) {
     for (unsigned count = 12; count <= 255; ++count) {
         AreaInfoTable table;
         table.setStoredCount(static_cast<std::uint8_t>(count));
@@ -256,7 +256,7 @@ TEST(AppendToolArea, refusesEveryStoredCountThatDoesNotFit) {
     }
 }
 
-TEST(AppendToolArea, anEntryNotInUseIsNotMarked) {
+TEST(AppendToolArea, AnEntryNotInUseIsNotMarked) {
     AreaInfoTable table = encodeAreaInfoTable(
         1000, std::array{AreaInfoEntry{.flags = 0x80, .firstSector = 0, .sectorCount = 10}});
     EXPECT_EQ(appendToolArea(table), 2);

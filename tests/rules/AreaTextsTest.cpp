@@ -24,7 +24,7 @@ _tagAreaInfosViewData rowsOf(std::uint16_t count, _tagAreaInfoViewData every) {
 
 constexpr std::uint64_t AllOnes = std::numeric_limits<std::uint64_t>::max();
 
-TEST(AreaCellText, aDriveNeverPartitionedShowsOneRow) {
+TEST(AreaCellText, ADriveNeverPartitionedShowsOneRow) {
     const auto rows = rowsOf(1, {.type = 0, .capacity = AllOnes});
     EXPECT_EQ(cell(rows, u"ColumnIDDisk", 0), QStringLiteral("Disk1"));
     EXPECT_EQ(cell(rows, u"ColumnIDType", 0), QStringLiteral("IDS_FREE_AREA"));
@@ -32,26 +32,26 @@ TEST(AreaCellText, aDriveNeverPartitionedShowsOneRow) {
     EXPECT_EQ(cell(rows, u"ColumnIDDisk", 1), QString());
 }
 
-TEST(AreaCellText, namesTheKindsOfAreas) {
+TEST(AreaCellText, NamesTheKindsOfAreas) {
     EXPECT_EQ(cell(rowsOf(1, {.type = 0x00, .capacity = 5}), u"ColumnIDType", 0),
               QStringLiteral("IDS_NORMAL_AREA"));
     EXPECT_EQ(cell(rowsOf(1, {.type = 0x40, .capacity = 5}), u"ColumnIDType", 0),
               QStringLiteral("IDS_SECURE_AREA"));
 }
 
-TEST(AreaCellText, anotherTypeIsShownAsItsHexadecimalCode) {
+TEST(AreaCellText, AnotherTypeIsShownAsItsHexadecimalCode) {
     EXPECT_EQ(cell(rowsOf(1, {.type = 0x0C, .capacity = 5}), u"ColumnIDType", 0),
               QStringLiteral("0Ch"));
     EXPECT_EQ(cell(rowsOf(1, {.type = 0xFF, .capacity = 5}), u"ColumnIDType", 0),
               QStringLiteral("FFh"));
 }
 
-TEST(AreaCellText, anAreaThatSpansAllIsFreeWhateverItsType) {
+TEST(AreaCellText, AnAreaThatSpansAllIsFreeWhateverItsType) {
     EXPECT_EQ(cell(rowsOf(1, {.type = 0x40, .capacity = AllOnes}), u"ColumnIDType", 0),
               QStringLiteral("IDS_FREE_AREA"));
 }
 
-TEST(AreaCellText, rowsAreLabelledByPosition) {
+TEST(AreaCellText, RowsAreLabelledByPosition) {
     AreaInfoTable table;
     rebuildUserAreas(table, {{500, 0, 100}, {}});
     const auto rows = buildAreaView(table, 2000000).rows;
@@ -59,24 +59,24 @@ TEST(AreaCellText, rowsAreLabelledByPosition) {
     EXPECT_EQ(cell(rows, u"ColumnIDCapacity", 1), QStringLiteral("100MB"));
 }
 
-TEST(AreaCellText, capacitiesOfAnySizeAreWholeMegabytes) {
+TEST(AreaCellText, CapacitiesOfAnySizeAreWholeMegabytes) {
     EXPECT_EQ(cell(rowsOf(1, {.capacity = 1}), u"ColumnIDCapacity", 0), QStringLiteral("1MB"));
     EXPECT_EQ(cell(rowsOf(1, {.capacity = AllOnes >> 11}), u"ColumnIDCapacity", 0),
               QStringLiteral("9007199254740991MB"));
 }
 
-TEST(AreaCellText, aRowOfCapacityZeroIsEmptyInEveryColumn) {
+TEST(AreaCellText, ARowOfCapacityZeroIsEmptyInEveryColumn) {
     const auto rows = rowsOf(4, {.type = 0x40, .capacity = 0});
     for (const QStringView column : {u"ColumnIDDisk", u"ColumnIDType", u"ColumnIDCapacity"}) {
         EXPECT_EQ(cell(rows, column, 0), QString());
     }
 }
 
-TEST(AreaCellText, aTableWithoutRowsIsEmpty) {
+TEST(AreaCellText, ATableWithoutRowsIsEmpty) {
     EXPECT_EQ(cell(rowsOf(0, {.capacity = 5}), u"ColumnIDDisk", 0), QString());
 }
 
-TEST(AreaCellText, aRowThatIsNotThereIsEmpty) {
+TEST(AreaCellText, ARowThatIsNotThereIsEmpty) {
     const auto rows = rowsOf(65535, {.capacity = 5});
     EXPECT_EQ(cell(rows, u"ColumnIDDisk", -1), QString());
     EXPECT_EQ(cell(rows, u"ColumnIDDisk", 3), QStringLiteral("Disk4"));
@@ -84,7 +84,7 @@ TEST(AreaCellText, aRowThatIsNotThereIsEmpty) {
     EXPECT_EQ(cell(rows, u"ColumnIDDisk", std::numeric_limits<int>::max()), QString());
 }
 
-TEST(AreaCellText, anUnknownColumnIsEmpty) {
+TEST(AreaCellText, AnUnknownColumnIsEmpty) {
     const auto rows = rowsOf(1, {.capacity = 5});
     EXPECT_EQ(cell(rows, u"", 0), QString());
     EXPECT_EQ(cell(rows, u"columniddisk", 0), QString());

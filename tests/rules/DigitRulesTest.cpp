@@ -7,24 +7,24 @@
 namespace zelto {
 namespace {
 
-TEST(NumericCheck, theEmptyTextPasses) {
+TEST(NumericCheck, TheEmptyTextPasses) {
     EXPECT_TRUE(NumericCheck(u""));
     EXPECT_TRUE(NumericCheck(QStringView()));
     EXPECT_TRUE(NumericCheck(u"", HexDigits::Allowed));
 }
 
-TEST(NumericCheck, hexadecimalDigitsPassOnlyWhenAllowed) {
+TEST(NumericCheck, HexadecimalDigitsPassOnlyWhenAllowed) {
     EXPECT_FALSE(NumericCheck(u"12a"));
     EXPECT_TRUE(NumericCheck(u"12a", HexDigits::Allowed));
 }
 
-TEST(NumericCheck, aSignIsNoDigit) {
+TEST(NumericCheck, ASignIsNoDigit) {
     EXPECT_FALSE(NumericCheck(u"-1"));
     EXPECT_FALSE(NumericCheck(u"+1"));
     EXPECT_FALSE(NumericCheck(u"-1", HexDigits::Allowed));
 }
 
-TEST(NumericCheck, exactlyTheDigitsOfEitherSetPass) {
+TEST(NumericCheck, ExactlyTheDigitsOfEitherSetPass) {
     const QStringView decimal = u"1234567890";
     const QStringView hexadecimal = u"1234567890ABCDEFabcdef";
     for (unsigned code = 0; code <= 0xFFFF; ++code) {
@@ -35,13 +35,13 @@ TEST(NumericCheck, exactlyTheDigitsOfEitherSetPass) {
     }
 }
 
-TEST(NumericCheck, strangeTextsFail) {
+TEST(NumericCheck, StrangeTextsFail) {
     for (const QString& text : test::strangeTexts()) {
         EXPECT_FALSE(NumericCheck(text)) << text.left(20).toStdString();
     }
 }
 
-TEST(NumericCheck, aLongNumberPassesAndOneWrongCharacterAtItsEndFails) {
+TEST(NumericCheck, ALongNumberPassesAndOneWrongCharacterAtItsEndFails) {
     const QString digits(100000, u'7');
     EXPECT_TRUE(NumericCheck(digits));
     EXPECT_FALSE(NumericCheck(digits + u'x'));
@@ -79,20 +79,20 @@ constexpr IntegerCase IntegerCases[] = {
     {__LINE__, u"00000000000000000000000000000000000012", 12, 12},
 };
 
-TEST(IntegerValue, isTheNumberThatTheLeadingDigitsMake) {
+TEST(IntegerValue, IsTheNumberThatTheLeadingDigitsMake) {
     for (const IntegerCase& row : IntegerCases) {
         EXPECT_EQ(integerValue32(row.text), row.value32) << "line " << row.line;
         EXPECT_EQ(integerValue64(row.text), row.value64) << "line " << row.line;
     }
 }
 
-TEST(IntegerValue, aHundredThousandDigitsAreTheLargestNumber) {
+TEST(IntegerValue, AHundredThousandDigitsAreTheLargestNumber) {
     const QString digits(100000, u'9');
     EXPECT_EQ(integerValue32(digits), 2147483647);
     EXPECT_EQ(integerValue64(digits), 9223372036854775807);
 }
 
-TEST(IntegerValue, stopsAtACharacterOfAnyScript) {
+TEST(IntegerValue, StopsAtACharacterOfAnyScript) {
     EXPECT_EQ(integerValue32(QStringLiteral("7\U0001F511")), 7);
     EXPECT_EQ(integerValue32(QStringLiteral("7") + QChar(u'\0') + u'8'), 7);
 }

@@ -20,13 +20,13 @@ constexpr KeyCase KeyCases[] = {
     {__LINE__, u"0A1B", true}, {__LINE__, u" 0A", false}, {__LINE__, u"0x0A", false},
 };
 
-TEST(KeyText, isAnEvenNumberOfHexadecimalDigits) {
+TEST(KeyText, IsAnEvenNumberOfHexadecimalDigits) {
     for (const KeyCase& row : KeyCases) {
         EXPECT_EQ(isValidKeyText(row.text), row.valid) << "line " << row.line;
     }
 }
 
-TEST(KeyText, hasAtMost128Digits) {
+TEST(KeyText, HasAtMost128Digits) {
     EXPECT_TRUE(isValidKeyText(QString(126, u'F')));
     EXPECT_FALSE(isValidKeyText(QString(127, u'F')));
     EXPECT_TRUE(isValidKeyText(QString(128, u'F')));
@@ -35,26 +35,26 @@ TEST(KeyText, hasAtMost128Digits) {
     EXPECT_FALSE(isValidKeyText(QString(100000, u'F')));
 }
 
-TEST(KeyText, strangeTextsAreInvalid) {
+TEST(KeyText, StrangeTextsAreInvalid) {
     for (const QString& text : test::strangeTexts()) {
         EXPECT_FALSE(isValidKeyText(text)) << text.left(20).toStdString();
     }
 }
 
-TEST(KeyOfDigits, takesTwoDigitsPerByteInTheOrderTyped) {
+TEST(KeyOfDigits, TakesTwoDigitsPerByteInTheOrderTyped) {
     const auto key = keyOfDigits(u"0A1B");
     EXPECT_EQ(key[0], 0x0A);
     EXPECT_EQ(key[1], 0x1B);
     EXPECT_TRUE(std::all_of(key.begin() + 2, key.end(), [](auto byte) { return byte == 0; }));
 }
 
-TEST(KeyOfDigits, takesDigitsOfEitherCase) {
+TEST(KeyOfDigits, TakesDigitsOfEitherCase) {
     EXPECT_EQ(keyOfDigits(u"abcdefABCDEF0123456789"), keyOfDigits(u"ABCDEFabcdef0123456789"));
     EXPECT_EQ(keyOfDigits(u"fF")[0], 0xFF);
     EXPECT_EQ(keyOfDigits(u"90")[0], 0x90);
 }
 
-TEST(KeyOfDigits, oneSixtyThreeAndSixtyFourBytes) {
+TEST(KeyOfDigits, OneSixtyThreeAndSixtyFourBytes) {
     const auto nonZero = [](int bytes) {
         const auto key = keyOfDigits(QString(bytes * 2, u'1'));
         return std::ranges::count(key, 0x11);
@@ -64,11 +64,11 @@ TEST(KeyOfDigits, oneSixtyThreeAndSixtyFourBytes) {
     EXPECT_EQ(nonZero(64), 64);
 }
 
-TEST(KeyOfDigits, leavesOutWhatHasNoRoom) {
+TEST(KeyOfDigits, LeavesOutWhatHasNoRoom) {
     EXPECT_EQ(keyOfDigits(QString(100000, u'1')), keyOfDigits(QString(128, u'1')));
 }
 
-TEST(KeyOfDigits, anyTextIsSafe) {
+TEST(KeyOfDigits, AnyTextIsSafe) {
     for (const QString& text : test::strangeTexts()) {
         static_cast<void>(keyOfDigits(text));
     }

@@ -10,12 +10,12 @@ const AutoClearEntry InvalidClear{true, PeriodUnit::Minutes, QStringLiteral("100
 const AutoLogOffEntry ValidLogOff{true, QStringLiteral("999")};
 const AutoLogOffEntry InvalidLogOff{true, QStringLiteral("1000")};
 
-TEST(OkAtInitialization, needsTheAreasOnlyWhenThereIsNoSecureOne) {
+TEST(OkAtInitialization, NeedsTheAreasOnlyWhenThereIsNoSecureOne) {
     EXPECT_FALSE(canCommitAtInitialization({}));
     EXPECT_TRUE(canCommitAtInitialization({.changed = {.AreaSettingsPerformed = true}}));
 }
 
-TEST(OkAtInitialization, needsPasswordsForASecureArea) {
+TEST(OkAtInitialization, NeedsPasswordsForASecureArea) {
     MainSettingsEntries entries{.secureAreaExists = true,
                                 .changed = {.AreaSettingsPerformed = true}};
     EXPECT_FALSE(canCommitAtInitialization(entries));
@@ -25,7 +25,7 @@ TEST(OkAtInitialization, needsPasswordsForASecureArea) {
     EXPECT_FALSE(canCommitAtInitialization(entries));
 }
 
-TEST(OkAtInitialization, isTheSameForEveryCombination) {
+TEST(OkAtInitialization, IsTheSameForEveryCombination) {
     for (unsigned bits = 0; bits < 64; ++bits) {
         const auto bit = [bits](unsigned number) { return (bits >> number & 1) != 0; };
         const MainSettingsEntries entries{
@@ -54,7 +54,7 @@ constexpr PeriodCase PeriodCases[] = {
     {__LINE__, PeriodUnit::Days, "0", false},       {__LINE__, PeriodUnit::Days, "", false},
 };
 
-TEST(OkAtInitialization, judgesTheAutoClearPeriodByItsUnit) {
+TEST(OkAtInitialization, JudgesTheAutoClearPeriodByItsUnit) {
     for (const PeriodCase& row : PeriodCases) {
         const MainSettingsEntries entries{
             .changed = {.AreaSettingsPerformed = true},
@@ -63,20 +63,20 @@ TEST(OkAtInitialization, judgesTheAutoClearPeriodByItsUnit) {
     }
 }
 
-TEST(OkAtChanging, isDisabledWhileNothingIsTouched) {
+TEST(OkAtChanging, IsDisabledWhileNothingIsTouched) {
     EXPECT_FALSE(canCommitAtChanging({}));
     EXPECT_FALSE(canCommitAtChanging({.secureAreaExists = true, .autoClear = ValidClear}));
 }
 
-TEST(OkAtChanging, theRemainingTimeBoxAloneIsEnough) {
+TEST(OkAtChanging, TheRemainingTimeBoxAloneIsEnough) {
     EXPECT_TRUE(canCommitAtChanging({.changed = {.ChangeRemainingTimeSetting = true}}));
 }
 
-TEST(OkAtChanging, theAreaSettingsAloneAreNot) {
+TEST(OkAtChanging, TheAreaSettingsAloneAreNot) {
     EXPECT_FALSE(canCommitAtChanging({.changed = {.AreaSettingsPerformed = true}}));
 }
 
-TEST(OkAtChanging, aPeriodThatWasNotTouchedIsNotJudged) {
+TEST(OkAtChanging, APeriodThatWasNotTouchedIsNotJudged) {
     MainSettingsEntries entries{.changed = {.ChangePassword = true},
                                 .autoClear = InvalidClear,
                                 .autoLogOff = InvalidLogOff};
@@ -85,7 +85,7 @@ TEST(OkAtChanging, aPeriodThatWasNotTouchedIsNotJudged) {
     EXPECT_FALSE(canCommitAtChanging(entries));
 }
 
-TEST(OkAtChanging, isTheSameForEveryCombination) {
+TEST(OkAtChanging, IsTheSameForEveryCombination) {
     for (unsigned bits = 0; bits < 64; ++bits) {
         const auto bit = [bits](unsigned number) { return (bits >> number & 1) != 0; };
         const MainSettingsEntries entries{

@@ -9,7 +9,7 @@ namespace {
 const QString LongestPassword(32, u'p');
 const QString TooLongPassword(33, u'p');
 
-TEST(ValidPassword, hasOneToThirtyTwoCharacters) {
+TEST(ValidPassword, HasOneToThirtyTwoCharacters) {
     EXPECT_FALSE(isValidPassword(u""));
     EXPECT_FALSE(isValidPassword(QStringView()));
     EXPECT_TRUE(isValidPassword(u"a"));
@@ -18,35 +18,35 @@ TEST(ValidPassword, hasOneToThirtyTwoCharacters) {
     EXPECT_FALSE(isValidPassword(QString(100000, u'p')));
 }
 
-TEST(ValidPassword, everyCharacterTakesOneByte) {
+TEST(ValidPassword, EveryCharacterTakesOneByte) {
     for (unsigned code = 0; code <= 0xFFFF; ++code) {
         const QChar unit(static_cast<char16_t>(code));
         EXPECT_EQ(isValidPassword(QStringView(&unit, 1)), code < 0x80) << code;
     }
 }
 
-TEST(ValidPassword, textsOfOtherScriptsFail) {
+TEST(ValidPassword, TextsOfOtherScriptsFail) {
     EXPECT_FALSE(isValidPassword(u"pass\u00E9"));
     EXPECT_FALSE(isValidPassword(QStringLiteral("\U0001F511")));
     EXPECT_FALSE(isValidPassword(u"\u05D0\u05D1"));
     EXPECT_FALSE(isValidPassword(u"\u202Eabc"));
 }
 
-TEST(ValidPassword, blanksAndControlCharactersAreCharactersLikeOthers) {
+TEST(ValidPassword, BlanksAndControlCharactersAreCharactersLikeOthers) {
     EXPECT_TRUE(isValidPassword(u" "));
     EXPECT_TRUE(isValidPassword(u" a "));
     EXPECT_TRUE(isValidPassword(QStringView(u"a\0b", 3)));
 }
 
-TEST(ValidPair, abcTwiceIsValid) {
+TEST(ValidPair, AbcTwiceIsValid) {
     EXPECT_TRUE(isValidPasswordPair(u"abc", u"abc"));
 }
 
-TEST(ValidPair, abcAndAbdAreNot) {
+TEST(ValidPair, AbcAndAbdAreNot) {
     EXPECT_FALSE(isValidPasswordPair(u"abc", u"abd"));
 }
 
-TEST(ValidPair, differencesInLengthCaseOrBlanksCount) {
+TEST(ValidPair, DifferencesInLengthCaseOrBlanksCount) {
     EXPECT_FALSE(isValidPasswordPair(u"abc", u"abcd"));
     EXPECT_FALSE(isValidPasswordPair(u"abc", u""));
     EXPECT_FALSE(isValidPasswordPair(u"abc", u"ABC"));
@@ -54,7 +54,7 @@ TEST(ValidPair, differencesInLengthCaseOrBlanksCount) {
     EXPECT_FALSE(isValidPasswordPair(QStringView(u"a\0b", 3), QStringView(u"a\0c", 3)));
 }
 
-TEST(ValidPair, anInvalidPasswordIsNoPairEvenWhenRepeated) {
+TEST(ValidPair, AnInvalidPasswordIsNoPairEvenWhenRepeated) {
     EXPECT_FALSE(isValidPasswordPair(u"", u""));
     EXPECT_FALSE(isValidPasswordPair(TooLongPassword, TooLongPassword));
     EXPECT_FALSE(isValidPasswordPair(u"\u00E9", u"\u00E9"));
@@ -85,14 +85,14 @@ constexpr TrialCase TrialCases[] = {
     {__LINE__, u"\u0661", 0, false},
 };
 
-TEST(TrialCount, isOneToNinetyNineInPlainDigits) {
+TEST(TrialCount, IsOneToNinetyNineInPlainDigits) {
     for (const TrialCase& row : TrialCases) {
         EXPECT_EQ(trialCount(row.text), row.count) << "line " << row.line;
         EXPECT_EQ(isValidTrialCount(row.text), row.valid) << "line " << row.line;
     }
 }
 
-TEST(TrialCount, strangeTextsCountAsNone) {
+TEST(TrialCount, StrangeTextsCountAsNone) {
     for (const QString& text : test::strangeTexts()) {
         EXPECT_EQ(trialCount(text), 0) << text.left(20).toStdString();
         EXPECT_FALSE(isValidTrialCount(text));
@@ -107,14 +107,14 @@ PasswordSettingsEntries twoPasswords() {
             .trials = u"5"};
 }
 
-TEST(PasswordSettings, oneValidPairIsEnoughForOnePassword) {
+TEST(PasswordSettings, OneValidPairIsEnoughForOnePassword) {
     EXPECT_TRUE(passwordSettingsAreComplete({.first = {u"abc", u"abc"}}));
     EXPECT_FALSE(passwordSettingsAreComplete({.first = {u"abc", u"abd"}}));
     EXPECT_FALSE(passwordSettingsAreComplete({.first = {TooLongPassword, TooLongPassword}}));
     EXPECT_FALSE(passwordSettingsAreComplete({.first = {u"\u00E9", u"\u00E9"}}));
 }
 
-TEST(PasswordSettings, withOnePasswordTheSecondPairAndTheTrialsAreIgnored) {
+TEST(PasswordSettings, WithOnePasswordTheSecondPairAndTheTrialsAreIgnored) {
     PasswordSettingsEntries entries = twoPasswords();
     entries.firstAndSecond = false;
     entries.second = {u"x", u"y"};
@@ -122,7 +122,7 @@ TEST(PasswordSettings, withOnePasswordTheSecondPairAndTheTrialsAreIgnored) {
     EXPECT_TRUE(passwordSettingsAreComplete(entries));
 }
 
-TEST(PasswordSettings, withTwoPasswordsBothPairsAndTheTrialsCount) {
+TEST(PasswordSettings, WithTwoPasswordsBothPairsAndTheTrialsCount) {
     EXPECT_TRUE(passwordSettingsAreComplete(twoPasswords()));
     PasswordSettingsEntries entries = twoPasswords();
     entries.first.again = u"other";
@@ -140,13 +140,13 @@ TEST(PasswordSettings, withTwoPasswordsBothPairsAndTheTrialsCount) {
     EXPECT_TRUE(passwordSettingsAreComplete(entries));
 }
 
-TEST(PasswordSettings, bothPasswordsMayBeTheSame) {
+TEST(PasswordSettings, BothPasswordsMayBeTheSame) {
     PasswordSettingsEntries entries = twoPasswords();
     entries.second = entries.first;
     EXPECT_TRUE(passwordSettingsAreComplete(entries));
 }
 
-TEST(PasswordChange, asksForTheCurrentPasswordOnce) {
+TEST(PasswordChange, AsksForTheCurrentPasswordOnce) {
     const PasswordSettingsEntries one{.first = {u"new", u"new"}};
     EXPECT_TRUE(passwordChangeIsComplete({u"old", u"", one}));
     EXPECT_FALSE(passwordChangeIsComplete({u"", u"", one}));
@@ -154,7 +154,7 @@ TEST(PasswordChange, asksForTheCurrentPasswordOnce) {
     EXPECT_FALSE(passwordChangeIsComplete({u"\u00E9", u"", one}));
 }
 
-TEST(PasswordChange, withOnePasswordTheSecondFieldsAndTheTrialsAreIgnored) {
+TEST(PasswordChange, WithOnePasswordTheSecondFieldsAndTheTrialsAreIgnored) {
     PasswordSettingsEntries renewed = twoPasswords();
     renewed.firstAndSecond = false;
     renewed.second = {u"x", u"y"};
@@ -162,7 +162,7 @@ TEST(PasswordChange, withOnePasswordTheSecondFieldsAndTheTrialsAreIgnored) {
     EXPECT_TRUE(passwordChangeIsComplete({u"old", TooLongPassword, renewed}));
 }
 
-TEST(PasswordChange, withTwoPasswordsTheCurrentSecondIsNeededToo) {
+TEST(PasswordChange, WithTwoPasswordsTheCurrentSecondIsNeededToo) {
     EXPECT_TRUE(passwordChangeIsComplete({u"old", u"old2", twoPasswords()}));
     EXPECT_FALSE(passwordChangeIsComplete({u"old", u"", twoPasswords()}));
     EXPECT_FALSE(passwordChangeIsComplete({u"", u"old2", twoPasswords()}));
@@ -171,7 +171,7 @@ TEST(PasswordChange, withTwoPasswordsTheCurrentSecondIsNeededToo) {
     EXPECT_FALSE(passwordChangeIsComplete({u"old", u"old2", renewed}));
 }
 
-TEST(PasswordChange, theNewPasswordsMayEqualTheCurrentOnes) {
+TEST(PasswordChange, TheNewPasswordsMayEqualTheCurrentOnes) {
     EXPECT_TRUE(passwordChangeIsComplete({u"first", u"second", twoPasswords()}));
 }
 

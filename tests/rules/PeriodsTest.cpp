@@ -18,7 +18,7 @@ AutoLogOffEntry logOff(const QString& text) {
     return {true, text};
 }
 
-TEST(PeriodUnit, everyTagButZeroMeansMinutes) {
+TEST(PeriodUnit, EveryTagButZeroMeansMinutes) {
     EXPECT_EQ(periodUnitOfTag(0), PeriodUnit::Days);
     EXPECT_EQ(periodUnitOfTag(1), PeriodUnit::Minutes);
     EXPECT_EQ(periodUnitOfTag(2), PeriodUnit::Minutes);
@@ -49,7 +49,7 @@ constexpr ValidityCase ValidityCases[] = {
     {__LINE__, u" 1", false, false},
 };
 
-TEST(AutoClearEntry, isValidUpToTheLimitOfItsUnit) {
+TEST(AutoClearEntry, IsValidUpToTheLimitOfItsUnit) {
     for (const ValidityCase& row : ValidityCases) {
         const QString text = QString::fromUtf16(row.text);
         EXPECT_EQ(isValid(days(text)), row.asDays) << "line " << row.line;
@@ -58,14 +58,14 @@ TEST(AutoClearEntry, isValidUpToTheLimitOfItsUnit) {
     }
 }
 
-TEST(PeriodEntries, areValidWithAnyTextWhenSwitchedOff) {
+TEST(PeriodEntries, AreValidWithAnyTextWhenSwitchedOff) {
     for (const QString& text : test::strangeTexts()) {
         EXPECT_TRUE(isValid(AutoClearEntry{false, PeriodUnit::Days, text}));
         EXPECT_TRUE(isValid(AutoLogOffEntry{false, text}));
     }
 }
 
-TEST(PeriodEntries, strangeTextsAreInvalidWhenSwitchedOn) {
+TEST(PeriodEntries, StrangeTextsAreInvalidWhenSwitchedOn) {
     for (const QString& text : test::strangeTexts()) {
         EXPECT_FALSE(isValid(days(text))) << text.left(20).toStdString();
         EXPECT_FALSE(isValid(logOff(text))) << text.left(20).toStdString();
@@ -74,24 +74,24 @@ TEST(PeriodEntries, strangeTextsAreInvalidWhenSwitchedOn) {
     EXPECT_TRUE(isValid(days(QString(100000, u'0') + u'7')));
 }
 
-TEST(AutoClearSeconds, twoDaysAndThirtyMinutes) {
+TEST(AutoClearSeconds, TwoDaysAndThirtyMinutes) {
     EXPECT_EQ(autoClearSeconds(days(QStringLiteral("2"))), 172800u);
     EXPECT_EQ(autoClearSeconds(minutes(QStringLiteral("30"))), 1800u);
     EXPECT_EQ(autoClearSeconds(days(QStringLiteral("9999"))), 863913600u);
 }
 
-TEST(AutoClearSeconds, areNoneWhenSwitchedOffWhateverTheTextSays) {
+TEST(AutoClearSeconds, AreNoneWhenSwitchedOffWhateverTheTextSays) {
     EXPECT_EQ(autoClearSeconds({false, PeriodUnit::Days, QStringLiteral("2")}), 0u);
     EXPECT_EQ(autoLogOffSeconds({false, QStringLiteral("2")}), 0u);
 }
 
-TEST(AutoClearSeconds, areCutToThirtyTwoBits) {
+TEST(AutoClearSeconds, AreCutToThirtyTwoBits) {
     EXPECT_EQ(autoClearSeconds(days(QStringLiteral("49711"))), 4295030400u % 4294967296u);
     EXPECT_EQ(autoClearSeconds(minutes(QStringLiteral("99999999999"))),
               (std::uint64_t{2147483647} * 60) % 4294967296u);
 }
 
-TEST(AutoLogOffSeconds, wrapAroundFrom1093MinutesOn) {
+TEST(AutoLogOffSeconds, WrapAroundFrom1093MinutesOn) {
     EXPECT_EQ(autoLogOffSeconds(logOff(QStringLiteral("1"))), 60u);
     EXPECT_EQ(autoLogOffSeconds(logOff(QStringLiteral("1092"))), 65520u);
     EXPECT_EQ(autoLogOffSeconds(logOff(QStringLiteral("1093"))), 44u);
@@ -120,7 +120,7 @@ constexpr ShownCase ShownCases[] = {
     {__LINE__, 4294967295, true, PeriodUnit::Days, "49710"},
 };
 
-TEST(ShownAutoClear, countsMinutesUpTo999AndDaysBeyond) {
+TEST(ShownAutoClear, CountsMinutesUpTo999AndDaysBeyond) {
     for (const ShownCase& row : ShownCases) {
         const AutoClearEntry shown = shownAutoClear(row.seconds);
         EXPECT_EQ(shown.enabled, row.enabled) << "line " << row.line;
@@ -129,7 +129,7 @@ TEST(ShownAutoClear, countsMinutesUpTo999AndDaysBeyond) {
     }
 }
 
-TEST(ShownAutoLogOff, roundsMinutesDown) {
+TEST(ShownAutoLogOff, RoundsMinutesDown) {
     EXPECT_FALSE(shownAutoLogOff(0).enabled);
     EXPECT_EQ(shownAutoLogOff(0).text, QString());
     EXPECT_TRUE(shownAutoLogOff(1).enabled);
@@ -138,7 +138,7 @@ TEST(ShownAutoLogOff, roundsMinutesDown) {
     EXPECT_EQ(shownAutoLogOff(65535).text, QStringLiteral("1092"));
 }
 
-TEST(ShownPeriods, goBackToTheDriveAsTheyCame) {
+TEST(ShownPeriods, GoBackToTheDriveAsTheyCame) {
     for (const std::uint32_t seconds : {0u, 60u, 59940u, 86400u, 172800u, 863913600u}) {
         EXPECT_EQ(autoClearSeconds(shownAutoClear(seconds)), seconds);
     }

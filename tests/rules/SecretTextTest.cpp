@@ -5,20 +5,20 @@
 namespace zelto {
 namespace {
 
-TEST(SecretText, aCopyIsNotSharedWithItsOriginal) {
+TEST(SecretText, ACopyIsNotSharedWithItsOriginal) {
     const QString original = QStringLiteral("secret");
     const QString copy = unsharedCopy(original);
     EXPECT_EQ(copy, original);
     EXPECT_NE(copy.constData(), original.constData());
 }
 
-TEST(SecretText, aCopyKeepsEveryCharacter) {
+TEST(SecretText, ACopyKeepsEveryCharacter) {
     const QString withNul = QStringLiteral("a") + QChar(u'\0') + QStringLiteral("b");
     EXPECT_EQ(unsharedCopy(withNul), withNul);
     EXPECT_EQ(unsharedCopy(QString()), QString());
 }
 
-TEST(SecretText, wipingLeavesAnEmptyText) {
+TEST(SecretText, WipingLeavesAnEmptyText) {
     QString text = unsharedCopy(QStringLiteral("secret"));
     wipeText(text);
     EXPECT_TRUE(text.isEmpty());
@@ -26,14 +26,14 @@ TEST(SecretText, wipingLeavesAnEmptyText) {
     EXPECT_TRUE(text.isEmpty());
 }
 
-TEST(SecretText, wipingOneTextLeavesItsCopyAlone) {
+TEST(SecretText, WipingOneTextLeavesItsCopyAlone) {
     QString text = unsharedCopy(QStringLiteral("secret"));
     const QString copy = unsharedCopy(text);
     wipeText(text);
     EXPECT_EQ(copy, QStringLiteral("secret"));
 }
 
-TEST(SecretText, wipingPasswordsEmptiesAllFourAndKeepsTheChoices) {
+TEST(SecretText, WipingPasswordsEmptiesAllFourAndKeepsTheChoices) {
     _tagPasswordSettingsParameters parameters{
         .Use1stAnd2ndPassword = true,
         .strCurrent1stPassword = unsharedCopy(QStringLiteral("1")),

@@ -11,7 +11,7 @@ SetupProgress progressOf(std::uint8_t state, std::int32_t waitCount = SetupProgr
 
 constexpr SetupObservation NothingYet{.driveStillAway = true, .toolVolumeSeen = false};
 
-TEST(SetupSteps, withoutASetupNothingHappens) {
+TEST(SetupSteps, WithoutASetupNothingHappens) {
     for (const std::uint8_t state :
          {std::uint8_t{0}, std::uint8_t{4}, std::uint8_t{5}, std::uint8_t{255}}) {
         const SetupStep step = advanceSetup(progressOf(state), NothingYet);
@@ -21,7 +21,7 @@ TEST(SetupSteps, withoutASetupNothingHappens) {
     }
 }
 
-TEST(SetupSteps, theDriveThatIsBackOpensTheWaitForItsVolume) {
+TEST(SetupSteps, TheDriveThatIsBackOpensTheWaitForItsVolume) {
     const SetupStep step = advanceSetup(progressOf(1, 17), {.driveStillAway = false});
     EXPECT_EQ(step.event, SetupEvent::None);
     EXPECT_EQ(step.progress.InitialSettingState, 2);
@@ -29,14 +29,14 @@ TEST(SetupSteps, theDriveThatIsBackOpensTheWaitForItsVolume) {
     EXPECT_EQ(step.progress.ReservedAreaDiskNumber, 3);
 }
 
-TEST(SetupSteps, theVolumeThatIsSeenMakesFormattingDueAtTheNextTick) {
+TEST(SetupSteps, TheVolumeThatIsSeenMakesFormattingDueAtTheNextTick) {
     const SetupStep step = advanceSetup(progressOf(2, 17), {.toolVolumeSeen = true});
     EXPECT_EQ(step.event, SetupEvent::None);
     EXPECT_EQ(step.progress.InitialSettingState, 3);
     EXPECT_EQ(step.progress.WaitCount, 17);
 }
 
-TEST(SetupSteps, formattingIsDueOnce) {
+TEST(SetupSteps, FormattingIsDueOnce) {
     const SetupStep step = advanceSetup(progressOf(3), NothingYet);
     EXPECT_EQ(step.event, SetupEvent::FormatAndCopy);
     EXPECT_EQ(step.progress.InitialSettingState, 4);
@@ -45,7 +45,7 @@ TEST(SetupSteps, formattingIsDueOnce) {
 
 class SetupWaits : public testing::TestWithParam<std::uint8_t> {};
 
-TEST_P(SetupWaits, endsAfterSixtyTicks) {
+TEST_P(SetupWaits, EndsAfterSixtyTicks) {
     SetupProgress progress = progressOf(GetParam());
     for (int tick = 1; tick < 60; ++tick) {
         const SetupStep step = advanceSetup(progress, NothingYet);
@@ -60,7 +60,7 @@ TEST_P(SetupWaits, endsAfterSixtyTicks) {
     EXPECT_FALSE(last.progress.isUnderWay());
 }
 
-TEST_P(SetupWaits, theLastTickStillFindsWhatItWaitsFor) {
+TEST_P(SetupWaits, TheLastTickStillFindsWhatItWaitsFor) {
     const SetupStep step =
         advanceSetup(progressOf(GetParam(), 1), {.driveStillAway = false, .toolVolumeSeen = true});
     EXPECT_EQ(step.event, SetupEvent::None);
@@ -69,7 +69,7 @@ TEST_P(SetupWaits, theLastTickStillFindsWhatItWaitsFor) {
 
 INSTANTIATE_TEST_SUITE_P(SetupSteps, SetupWaits, testing::Values(std::uint8_t{1}, std::uint8_t{2}));
 
-TEST(ProgressText, isShownOnOddCounts) {
+TEST(ProgressText, IsShownOnOddCounts) {
     EXPECT_FALSE(showsProgressText(progressOf(1, 60)));
     EXPECT_TRUE(showsProgressText(progressOf(1, 59)));
     EXPECT_FALSE(showsProgressText(progressOf(2, 0)));
