@@ -73,8 +73,10 @@ void AppDelegate::tickSetup() {
 }
 
 void AppDelegate::formatAndCopy() {
-    const std::string disk = g_BsdNameList.front();
-    if (!FormatDrive(disk)) {
+    // Since the volume was seen, the drive may have gone and another disk may have got its name.
+    GetBsdNameList(Setup.ReservedAreaDiskNumber);
+    const std::string disk = g_BsdNameList.empty() ? std::string() : g_BsdNameList.front();
+    if (disk.empty() || !FormatDrive(disk)) {
         ZeltoSettingWindow.SetupStepsView->setFailed();
         ShowMessage(localized("IDS_ERR_FORMAT"));
         TerminateApplication();

@@ -156,6 +156,19 @@ TEST_F(SetupProgressTest, ADriveThatIsPulledDuringTheWaitForItsVolumeIsNotFound)
     EXPECT_TRUE(hasQuit());
 }
 
+TEST_F(SetupProgressTest, ADriveThatIsPulledBeforeTheFormatLeavesItsNameToNobody) {
+    commitSetup();
+    while (setupState() < 3) {
+        tick();
+    }
+    unplug(drive);
+    tick();
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
+    EXPECT_THAT(diskToolRuns(), IsEmpty());
+    EXPECT_EQ(setupState(), 4);
+    EXPECT_TRUE(hasQuit());
+}
+
 TEST_F(SetupProgressTest, NothingIsSentToADriveAfterTheProgramHasGivenUp) {
     commitSetupWithoutToolVolume();
     while (setupState() == 1) {
