@@ -22,6 +22,11 @@ def submit_password(program, password):
     program.click("AuthenticateSubmit")
 
 
+def submit_first_of_two(program):
+    submit_password(program, FIRST)
+    program.wait_for_text("AuthenticateMessage", "IDS_ENTER_2ND_PASSWORD")
+
+
 def log_in(ring, drive):
     """With the one password; the drive is unlocked then."""
     program = open_log_in(ring)

@@ -66,6 +66,7 @@ def check_tool_area(ring, drive, unit, bundle=BUNDLE):
     expect("the tool volume is mounted", folder is not None)
     expect("it carries the program",
            os.path.exists(os.path.join(folder, "ZeltoAppMac.app", "zelto")))
+    expect("desktops find what to run", os.path.exists(os.path.join(folder, "autorun.sh")))
     ring.desktop.unmount(partition)
     drive.unplug()
 

@@ -15,6 +15,11 @@ def start_set_up(ring):
     return program
 
 
+def commit_set_up(program):
+    program.click("MainSettingsOKButton")
+    program.wait_for_window("ZeltoSettingWindow")
+
+
 def expect_new(drive):
     expect_equal("the drive's state", drive.requests.state(), vendor.NO_PASSWORD)
     expect_equal("the old areas are in force", drive.requests.areas(), [(0, 2 ** 64 - 1)])
@@ -54,8 +59,7 @@ def unplugged_while_it_reconnects_and_never_back_the_wait_ends(ring):
     drive = ring.drive()
     program = start_set_up(ring)
     drive.vanish_at(0xC1, obeyed=True)
-    program.click("MainSettingsOKButton")
-    program.wait_for_window("ZeltoSettingWindow")
+    commit_set_up(program)
     drive.wait_until_gone()
     # The program gives the drive a minute.
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
@@ -68,8 +72,7 @@ def unplugged_while_it_reconnects_and_never_back_the_wait_ends(ring):
 def unplugged_while_the_tool_area_is_formatted_the_user_is_told(ring):
     drive = ring.drive()
     program = start_set_up(ring)
-    program.click("MainSettingsOKButton")
-    program.wait_for_window("ZeltoSettingWindow")
+    commit_set_up(program)
     # The first sectors written to the tool area are the format's.
     drive.wait_for_write(unit=3)
     drive.unplug()
@@ -83,8 +86,7 @@ def unplugged_while_the_tool_area_is_formatted_the_user_is_told(ring):
 def unplugged_while_the_program_is_copied_the_user_is_told(ring):
     drive = ring.drive()
     program = start_set_up(ring)
-    program.click("MainSettingsOKButton")
-    program.wait_for_window("ZeltoSettingWindow")
+    commit_set_up(program)
     wait_for("the program is being copied",
              lambda: glob.glob(f"/media/{ring.desktop.name}/ZELTO TOOL/.*/new/*"))
     drive.unplug()
@@ -165,8 +167,7 @@ def unplugged_while_a_busy_volume_is_reported_the_drive_is_locked(ring):
 def unplugged_between_wrong_passwords_the_drive_goes_on_counting(ring):
     drive = ring.set_up_drive(two_passwords=True)
     program = flows.open_log_in(ring)
-    flows.submit_password(program, flows.FIRST)
-    program.wait_for_text("AuthenticateMessage", "IDS_ENTER_2ND_PASSWORD")
+    flows.submit_first_of_two(program)
     flows.submit_password(program, "wrong 1")
     program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
     drive.unplug()
@@ -177,8 +178,7 @@ def unplugged_between_wrong_passwords_the_drive_goes_on_counting(ring):
     expect_equal("power-up locks it", drive.requests.state(), vendor.LOCKED)
 
     program = flows.open_log_in(ring)
-    flows.submit_password(program, flows.FIRST)
-    program.wait_for_text("AuthenticateMessage", "IDS_ENTER_2ND_PASSWORD")
+    flows.submit_first_of_two(program)
     flows.submit_password(program, "wrong 2")
     program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
     expect_equal("the drive's state", drive.requests.state(), vendor.FULLY_LOCKED)
