@@ -41,6 +41,8 @@ std::unique_ptr<FatVolume> makeVolume(BlockDevice& disk) {
 struct Size {
     std::uint64_t sectors;
     FatLayout::Kind kind;
+
+    friend void PrintTo(const Size& size, std::ostream* out) { *out << size.sectors << " sectors"; }
 };
 
 class EverySize : public testing::TestWithParam<Size> {};

@@ -2,6 +2,8 @@
 
 #include "digest/SHA256.h"
 
+#include <ostream>
+
 namespace zelto {
 namespace {
 
@@ -298,6 +300,8 @@ struct StoryCase {
     const char* name;
     Wishes wishes;
     std::uint64_t sectors = 262144;
+
+    friend void PrintTo(const StoryCase& story, std::ostream* out) { *out << story.name; }
 };
 
 class SetupStory : public SettingsBench, public testing::WithParamInterface<StoryCase> {};

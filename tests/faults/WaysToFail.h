@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,8 @@ namespace zelto::test {
 struct WayToFail {
     const char* name;
     simulator::Fault fault;
+
+    friend void PrintTo(const WayToFail& way, std::ostream* out) { *out << way.name; }
 
     /// In a letter: (R)efused, (L)ost answer, (Z)ero bytes, (S)hort, (G)one.
     [[nodiscard]] char letter() const {

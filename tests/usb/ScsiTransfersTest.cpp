@@ -1,5 +1,7 @@
 #include "tests/usb/ScsiTest.h"
 
+#include <ostream>
+
 namespace zelto::simulator::test {
 namespace {
 
@@ -11,6 +13,8 @@ struct Form {
     std::uint8_t read;
     std::uint8_t write;
     std::size_t size;
+
+    friend void PrintTo(const Form& form, std::ostream* out) { *out << form.name; }
 
     [[nodiscard]] Bytes command(std::uint8_t operation, std::uint64_t first,
                                 std::uint32_t count) const {
