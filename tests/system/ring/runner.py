@@ -67,7 +67,10 @@ class Ring:
             except (Failure, AttributeError):
                 pass
         for tool, lines in ((["ps", "-o", "pid,etime,args", "-u", str(self.desktop.uid)], 40),
-                            (["findmnt", "--types", "vfat"], 10), (["dmesg"], 25)):
+                            (["findmnt", "--types", "vfat"], 10), (["dmesg"], 25),
+                            (["journalctl", "--no-pager", "-u", "udisks2", "-u", "polkit",
+                              "-u", "systemd-udevd"], 20),
+                            (["busctl", "tree", "--list", "org.freedesktop.UDisks2"], 30)):
             output = subprocess.run(tool, capture_output=True, text=True, check=False).stdout
             for line in output.rstrip().split("\n")[-lines:]:
                 say(f"{tool[0]}: {line}")
