@@ -137,12 +137,13 @@ bool LinuxDiskTool::eject(const std::string& bsdName) {
 
 bool LinuxDiskTool::eraseDisk(const std::string& label, const std::string& bsdName) {
     // A drive that has just come back is in the kernel's tree a while before the service has heard
-    // of it and of its medium.
+    // of it and of its medium; longest where the computer is busy with its coming and going.
+    const auto arrivalDelay = 3 * m_propertyDelay;
     const auto isKnown = [&](const UDisksState& now) {
         const auto* found = now.findDevice(bsdName);
         return found != nullptr && found->sizeInBytes > 0;
     };
-    if (!service().waitFor(isKnown, m_propertyDelay)) {
+    if (!service().waitFor(isKnown, arrivalDelay)) {
         return false;
     }
     const auto state = service().state();

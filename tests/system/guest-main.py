@@ -21,10 +21,6 @@ def prepare(system):
         # All that the administrator of such a computer has to do.
         subprocess.run(["cp", "/host/60-zelto.rules", "/etc/udev/rules.d/"], check=True)
     subprocess.run(["udevadm", "control", "--reload"], check=True)
-    # A drive's arrival is about a hundred events, and an emulated processor may be slow to let the
-    # disk service read them. By default their socket holds fewer, and what it loses is lost.
-    with open("/proc/sys/net/core/rmem_default", "w", encoding="ascii") as size:
-        size.write(str(16 << 20))
 
 
 def main():
