@@ -121,9 +121,12 @@ bool LinuxDiskTool::eject(const std::string& bsdName) {
     if (disk == nullptr || state->findDrive(disk->drive) == nullptr) {
         return false;
     }
-    const auto mediumHasGone = [drive = disk->drive](const UDisksState& now) {
-        const auto* found = now.findDrive(drive);
-        return found == nullptr || !found->mediaAvailable;
+    // The service is not always right about drives; a disk without a size has no medium either.
+    const auto mediumHasGone = [path = disk->path, drive = disk->drive](const UDisksState& now) {
+        const auto* ejected = now.find(path);
+        const auto* driveNow = now.findDrive(drive);
+        return ejected == nullptr || ejected->sizeInBytes == 0 || driveNow == nullptr ||
+               !driveNow->mediaAvailable;
     };
     // Never PowerOff: it takes the whole device off the bus, and the log-out still has to reach it.
     return doFreed(

@@ -194,6 +194,14 @@ TEST_F(DiskToolTest, CountsAnEjectionAsDoneWhenTheMediumIsGoneAllTheSame) {
     EXPECT_EQ(run({"eject", "sdb"}), 0);
 }
 
+TEST_F(DiskToolTest, CountsAnEjectionAsDoneWhenTheDiskHasNoSizeAnyMore) {
+    udisks.script("Eject", [&](const QDBusMessage& call) {
+        udisks.set(Disk, "Block", "Size", quint64{0});
+        return call.createErrorReply("org.freedesktop.UDisks2.Error.Failed", "no such drive");
+    });
+    EXPECT_EQ(impatientTool().run({"eject", "sdb"}), 0);
+}
+
 TEST_F(DiskToolTest, ErasesADiskAndLeavesItsNewVolumeMounted) {
     udisks.addPartition({"/media/a/OLD"});
     EXPECT_EQ(erase(), 0);

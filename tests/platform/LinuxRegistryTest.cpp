@@ -208,5 +208,13 @@ TEST(DeviceRule, GivesTheDriveToTheActiveSessionBetweenTheRulesItDependsOn) {
     EXPECT_THAT(rule, ::testing::Not(::testing::HasSubstr("ATTRS{")));
 }
 
+TEST(DeviceRule, DeclaresTheAreasToBeNoPartOfTheComputer) {
+    std::ifstream file(std::filesystem::path(ZELTO_SOURCE_FOLDER) / "packaging/60-zelto.rules");
+    const std::string rule{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_THAT(rule, ::testing::ContainsRegex(
+                          "\nSUBSYSTEM==\"block\", ENV\\{ID_VENDOR_ID\\}==\"07f7\", "
+                          "ENV\\{ID_MODEL_ID\\}==\"0135\", ENV\\{UDISKS_SYSTEM\\}=\"0\""));
+}
+
 } // namespace
 } // namespace zelto::linux_platform
