@@ -5,6 +5,7 @@
 #include <QDBusPendingReply>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QLoggingCategory>
 #include <QTimer>
 
 #include <algorithm>
@@ -24,6 +25,9 @@ const QString PropertiesInterface = QStringLiteral("org.freedesktop.DBus.Propert
 constexpr int WithoutLimit = std::numeric_limits<int>::max();
 /// A change is normally announced; this is for the announcement that got lost.
 constexpr std::chrono::milliseconds AskAgainAfter{1000};
+
+/// What the service says goes to the system's log: a window has no words for it.
+Q_LOGGING_CATEGORY(log, "zelto.disks")
 
 } // namespace
 
@@ -59,7 +63,12 @@ QDBusMessage UDisks::call(const QString& object, const QString& interface, const
     }
     // The application may be ending; what has been asked for still has to come to its end.
     pending.waitForFinished();
-    return pending.reply();
+    auto reply = pending.reply();
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        qCWarning(log, "%ls of %ls: %ls: %ls", qUtf16Printable(method), qUtf16Printable(object),
+                  qUtf16Printable(reply.errorName()), qUtf16Printable(reply.errorMessage()));
+    }
+    return reply;
 }
 
 std::optional<UDisksState> UDisks::state() {

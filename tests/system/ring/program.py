@@ -28,7 +28,7 @@ def texts():
 class Program:
     def __init__(self, desktop, name="zelto"):
         self._desktop = desktop
-        self._name = name
+        self.log = f"/host/results/{name}.log"
         self._sockets = f"{desktop.runtime}/zelto-driver"
         self._connection = None
         self._lines = None
@@ -42,7 +42,7 @@ class Program:
     # Its life.
 
     def start(self, path=PROGRAM):
-        log = open(f"/host/results/{self._name}.log", "ab")
+        log = open(self.log, "ab")
         self._process = self._desktop.start(
             [path], stdout=log, stderr=log,
             environment={"QT_PLUGIN_PATH": DRIVER_PLUGINS,

@@ -43,6 +43,14 @@ class Ring:
         self._programs.append(program)
         return program
 
+    def start_program(self, window=None):
+        """Starts the installed program; with a window's name, waits until that is open."""
+        program = self.program()
+        program.start()
+        if window:
+            program.wait_for_window(window)
+        return program
+
     def start_as_user(self, arguments, **options):
         """A program of the user's that ends with the scenario at the latest."""
         log = open(f"/host/results/{self.name}.helpers.log", "ab")
@@ -66,12 +74,15 @@ class Ring:
                 program.picture(f"{self.name}.failed")
             except (Failure, AttributeError):
                 pass
-        for tool, lines in ((["ps", "-o", "pid,etime,args", "-u", str(self.desktop.uid)], 40),
-                            (["findmnt", "--types", "vfat"], 10), (["dmesg"], 25),
+        # The most telling first: a log may be cut.
+        for tool, lines in ((["tail", *(program.log for program in self._programs)], 20),
                             (["journalctl", "--no-pager", "-u", "udisks2", "-u", "polkit",
                               "-u", "systemd-udevd"], 20),
-                            (["busctl", "tree", "--list", "org.freedesktop.UDisks2"], 30)):
-            output = subprocess.run(tool, capture_output=True, text=True, check=False).stdout
+                            (["busctl", "tree", "--list", "org.freedesktop.UDisks2"], 30),
+                            (["ps", "-o", "pid,etime,args", "-u", str(self.desktop.uid)], 40),
+                            (["findmnt", "--types", "vfat"], 10), (["dmesg"], 25)):
+            output = subprocess.run(tool, capture_output=True, text=True, check=False,
+                                    stdin=subprocess.DEVNULL).stdout
             for line in output.rstrip().split("\n")[-lines:]:
                 say(f"{tool[0]}: {line}")
 
