@@ -48,8 +48,7 @@ class Drive:
             self._process.terminate()
             self._process.wait(timeout=60)
             self._process = None
-            wait_for("the drive has left the bus",
-                     lambda: volumes.usb_device(self.serial) is None)
+            self.wait_until_gone()
 
     def throw_away(self):
         self.put_away()
@@ -69,13 +68,15 @@ class Drive:
     # What a person does with it.
 
     def plug(self):
+        # Where the drive itself has decided when to go, the computer may not have noticed yet.
+        self.wait_until_gone()
         self._tell("plug")
         self.wait_until_plugged()
 
     def unplug(self):
         self._areas = self.requests.areas()
         self._tell("unplug")
-        wait_for("the drive has left the bus", lambda: volumes.usb_device(self.serial) is None)
+        self.wait_until_gone()
 
     # What time and accident do to it.
 

@@ -70,12 +70,16 @@ def mount_point(device):
     return mounts().get(device)
 
 
-def file_system(device):
-    """What udev found on it, such as "vfat"."""
+def udev_property(device, name):
     number = read(f"/sys/class/block/{device}/dev")
     properties = read(f"/run/udev/data/b{number}")
-    found = re.search(r"^E:ID_FS_TYPE=(.*)$", properties, re.MULTILINE)
+    found = re.search(rf"^E:{name}=(.*)$", properties, re.MULTILINE)
     return found[1] if found else ""
+
+
+def file_system(device):
+    """What udev found on it, such as "vfat"."""
+    return udev_property(device, "ID_FS_TYPE")
 
 
 def removable_volumes():

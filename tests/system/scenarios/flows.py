@@ -11,15 +11,25 @@ FIRST, SECOND = FIRST_PASSWORD, SECOND_PASSWORD
 
 def open_log_in(ring):
     """The program, started before a locked drive."""
-    program = ring.program()
-    program.start()
-    program.wait_for_window("AuthenticateWindow")
+    return ring.start_program("AuthenticateWindow")
+
+
+def open_after_loss(ring):
+    """The program, started before a drive that is locked for good."""
+    program = ring.start_program()
+    program.answer_alert("IDS_ERR_ZELTO_DRIVE_LOST")
+    program.wait_for_window("MainSettingsWindow")
     return program
 
 
 def submit_password(program, password):
     program.type("AuthenticateTextField", password)
     program.click("AuthenticateSubmit")
+
+
+def submit_wrong_password(program, password):
+    submit_password(program, password)
+    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
 
 
 def submit_first_of_two(program):
@@ -44,9 +54,17 @@ def secure_volume(drive):
     return disk
 
 
-def open_settings(program):
+def log_in_to_settings(ring, drive):
+    program = log_in(ring, drive)
     program.click("UnlockingSetup")
     program.wait_for_window("MainSettingsWindow")
+    return program
+
+
+def log_off(program, drive):
+    program.click("UnlockingLogOff")
+    program.wait_for_end()
+    expect_locked(drive)
 
 
 def expect_locked(drive):

@@ -4,6 +4,7 @@ import os
 
 from ring import vendor, volumes
 from ring.checks import expect, expect_equal, wait_for
+from ring.drive import UNITS
 from ring.program import PROGRAM
 from ring.runner import scenario
 from scenarios import flows
@@ -19,9 +20,7 @@ def files_on_the_secure_volume_come_back_with_the_next_log_in(ring):
     folder = ring.desktop.mount(flows.secure_volume(drive))
     flows.write_file(ring, folder, "secret.txt", SECRET)
     program.picture("unlocked")
-    program.click("UnlockingLogOff")
-    program.wait_for_end()
-    flows.expect_locked(drive)
+    flows.log_off(program, drive)
     expect("nothing is mounted from the secure unit", not os.path.ismount(folder))
     expect("what was written cannot be read from the drive's memory",
            not drive.image_contains(SECRET))
@@ -29,9 +28,7 @@ def files_on_the_secure_volume_come_back_with_the_next_log_in(ring):
     program = flows.log_in(ring, drive)
     folder = ring.desktop.mount(flows.secure_volume(drive))
     expect_equal("the file", flows.read_file(folder, "secret.txt"), SECRET)
-    program.click("UnlockingLogOff")
-    program.wait_for_end()
-    flows.expect_locked(drive)
+    flows.log_off(program, drive)
     expect_equal("what was sent", drive.logged_writes(), [0xB3, 0xB4, 0xB3, 0xB4])
 
 
@@ -48,9 +45,8 @@ def the_unlocked_drive_is_pictured_for_the_documents(ring):
         ["xterm", "-geometry", "92x12+270+160", "-fa", "DejaVu Sans Mono", "-fs", "10", "-e", "sh",
          "-c", f"lsblk -o NAME,VENDOR,MODEL,SIZE,FSTYPE,MOUNTPOINTS /dev/sd?; echo; "
                f"ls -l {folder}; touch {drawn}; exec sleep 3600"])
-    program = wait_for("the terminal has drawn", lambda: os.path.exists(drawn)) and ring.program()
-    program.start()
-    program.wait_for_window("UnlockingWindow")
+    wait_for("the terminal has drawn", lambda: os.path.exists(drawn))
+    program = ring.start_program("UnlockingWindow")
     program.picture("system")
 
 
@@ -60,9 +56,7 @@ def logging_off_leaves_the_normal_volumes_mounted(ring):
     normal = ring.desktop.mount(volumes.disk(drive.serial, 1))
     program = flows.log_in(ring, drive)
     ring.desktop.mount(flows.secure_volume(drive))
-    program.click("UnlockingLogOff")
-    program.wait_for_end()
-    flows.expect_locked(drive)
+    flows.log_off(program, drive)
     expect("the normal volume is still mounted", os.path.ismount(normal))
 
 
@@ -82,12 +76,8 @@ def a_busy_volume_keeps_the_drive_unlocked_and_its_holder_is_named(ring):
 
     holder.kill()
     holder.wait()
-    program = ring.program()
-    program.start()
-    program.wait_for_window("UnlockingWindow")
-    program.click("UnlockingLogOff")
-    program.wait_for_end()
-    flows.expect_locked(drive)
+    program = ring.start_program("UnlockingWindow")
+    flows.log_off(program, drive)
 
 
 @scenario
@@ -97,9 +87,7 @@ def a_drive_that_the_desktop_mounts_by_itself_is_logged_off(ring):
     program = flows.log_in(ring, drive)
     disk = flows.secure_volume(drive)
     folder = wait_for("the desktop has mounted it", lambda: volumes.mount_point(disk))
-    program.click("UnlockingLogOff")
-    program.wait_for_end()
-    flows.expect_locked(drive)
+    flows.log_off(program, drive)
     expect("the volume is gone", not os.path.ismount(folder))
 
 
@@ -121,8 +109,7 @@ def two_passwords_are_asked_for_one_after_the_other(ring):
 def a_wrong_first_password_is_refused_and_can_be_corrected(ring):
     drive = ring.set_up_drive()
     program = flows.open_log_in(ring)
-    flows.submit_password(program, "wrong")
-    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    flows.submit_wrong_password(program, "wrong")
     expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
     flows.submit_password(program, flows.FIRST)
     program.wait_for_window("UnlockingWindow")
@@ -133,27 +120,20 @@ def wrong_second_passwords_lock_the_drive_for_good(ring):
     drive = ring.set_up_drive(two_passwords=True)
     program = flows.open_log_in(ring)
     flows.submit_first_of_two(program)
-    flows.submit_password(program, "wrong 1")
-    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
-    flows.submit_password(program, "wrong 2")
+    flows.submit_wrong_password(program, "wrong 1")
     # The refusal itself still says that the password was wrong; the next start says the rest.
-    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    flows.submit_wrong_password(program, "wrong 2")
     expect_equal("the drive's state", drive.requests.state(), vendor.FULLY_LOCKED)
     program.click("AuthenticateCancel")
     program.wait_for_end()
 
-    program = ring.program()
-    program.start()
-    program.answer_alert("IDS_ERR_ZELTO_DRIVE_LOST")
-    program.wait_for_window("MainSettingsWindow")
+    program = flows.open_after_loss(ring)
     program.picture("drive-lost")
 
 
 @scenario
 def no_drive_is_told_and_one_that_comes_is_found(ring):
-    program = ring.program()
-    program.start()
-    program.wait_for_window("SelectZeltoWindow")
+    program = ring.start_program("SelectZeltoWindow")
     program.wait_for_text("SelectZeltoComboBox", "IDS_ERR_NOT_FOUND_ZELTO")
     expect("there is nothing to select", not program.is_enabled("SelectZeltoOK"))
     ring.set_up_drive()
@@ -173,9 +153,7 @@ def of_two_drives_the_chosen_one_is_opened(ring):
     # Side by side, the two would be set up one after the other on the same bus.
     drives = {drive.serial: drive for drive in
               (ring.set_up_drive(), ring.set_up_drive(serial="ZD0000000000000B"))}
-    program = ring.program()
-    program.start()
-    program.wait_for_window("SelectZeltoWindow")
+    program = ring.start_program("SelectZeltoWindow")
     expect_equal("the list", program.look("SelectZeltoComboBox")["rows"],
                  [["Device 0"], ["Device 1"]])
     program.choose("SelectZeltoComboBox", 1)
@@ -193,12 +171,19 @@ def a_drive_that_may_not_be_opened_is_told_apart_from_no_drive(ring):
     drive = ring.set_up_drive()
     node = volumes.usb_node(drive.serial)
     os.chmod(node, 0o600)  # this also takes the mask off the access list
-    program = ring.program()
-    program.start()
-    program.wait_for_window("SelectZeltoWindow")
+    program = ring.start_program("SelectZeltoWindow")
     wait_for("a hint says what to do", lambda: program.text("SelectZeltoAccessHint"))
     program.picture("drive-without-permission")
     expect("there is nothing to select", not program.is_enabled("SelectZeltoOK"))
+
+
+@scenario
+def no_area_of_the_drive_counts_as_a_part_of_the_computer(ring):
+    drive = ring.set_up_drive()
+    for unit in range(1, UNITS + 1):
+        wait_for(f"the disk service is told so of unit {unit}",
+                 lambda number=unit: volumes.udev_property(
+                     volumes.disk(drive.serial, number), "UDISKS_SYSTEM") == "0")
 
 
 @scenario

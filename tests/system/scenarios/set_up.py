@@ -11,9 +11,7 @@ from scenarios import flows
 
 
 def start_on_new_drive(ring):
-    program = ring.program()
-    program.start()
-    program.wait_for_window("MainSettingsWindow")
+    program = ring.start_program("MainSettingsWindow")
     expect("nothing can be committed yet", not program.is_enabled("MainSettingsOKButton"))
     return program
 

@@ -10,16 +10,10 @@ from scenarios import flows
 NEW = "a new password"
 
 
-def confirm(program, key):
-    """The harmless answer is the preset one; going ahead takes the other."""
-    program.answer_alert(key, button="OK")
-
-
 @scenario
 def changed_periods_reach_the_drive(ring):
     drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     expect("the layout is fixed", not program.is_enabled("AreaSettingsButton"))
     expect("no change, no commit", not program.is_enabled("MainSettingsOKButton"))
     program.switch("AutoClearEnabledCheckBox", True)
@@ -44,16 +38,14 @@ def changed_periods_reach_the_drive(ring):
 @scenario
 def a_changed_password_is_the_only_one_that_opens(ring):
     drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     change_password(program, flows.FIRST)
     program.click("MainSettingsOKButton")
     program.wait_for_end()
     drive.requests.log_out()
 
     program = flows.open_log_in(ring)
-    flows.submit_password(program, flows.FIRST)
-    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    flows.submit_wrong_password(program, flows.FIRST)
     flows.submit_password(program, NEW)
     program.wait_for_window("UnlockingWindow")
     expect("the volume is the same as before", volumes.file_system(flows.secure_volume(drive)))
@@ -62,8 +54,7 @@ def a_changed_password_is_the_only_one_that_opens(ring):
 @scenario
 def a_wrong_current_password_changes_nothing(ring):
     drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     change_password(program, "not the password")
     program.click("MainSettingsOKButton")
     program.answer_alert("IDS_ERR_CURRENT_1ST_PASSWORD_INVALID")
@@ -87,8 +78,7 @@ def change_password(program, current):
 @scenario
 def the_clock_is_set_from_the_settings(ring):
     drive = ring.set_up_drive(clock_set=False)
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     program.wait_for_text("DeviceTimeText", "IDS_ERR_TIME_STATUS_INVALID")
     program.click("MainSettingsSetTimeButton")
     program.answer_alert("IDS_TIME_SYNC_COMPLETE")
@@ -102,8 +92,7 @@ def a_lost_clock_locks_the_drive_until_it_is_set(ring):
     drive = ring.set_up_drive(erase_period=86400)
     drive.lose_clock()
     expect_equal("the drive's state", drive.requests.state(), vendor.FULLY_LOCKED)
-    program = ring.program()
-    program.start()
+    program = ring.start_program()
     program.answer_alert("IDS_FULLLOCK_TIME_STATUS_INVALID")
     program.answer_alert("IDS_SET_CURRENT_YIME")
     program.wait_for_end()
@@ -116,8 +105,7 @@ def a_lost_clock_locks_the_drive_until_it_is_set(ring):
 def a_lost_clock_is_left_alone_when_the_user_cancels(ring):
     drive = ring.set_up_drive(erase_period=86400)
     drive.lose_clock()
-    program = ring.program()
-    program.start()
+    program = ring.start_program()
     program.answer_alert("IDS_FULLLOCK_TIME_STATUS_INVALID", button="IDS_CANCEL_BUTTON")
     program.wait_for_end()
     expect("the drive's clock is still not valid", not drive.requests.clock_is_valid())
@@ -141,10 +129,7 @@ def auto_clear_takes_the_key_also_while_unlocked(ring):
              lambda: drive.requests.state() == vendor.FULLY_LOCKED)
     wait_for("the volume is gone",
              lambda: not volumes.has_medium(drive.serial, drive.secure_unit))
-    program = ring.program()
-    program.start()
-    program.answer_alert("IDS_ERR_ZELTO_DRIVE_LOST")
-    program.wait_for_window("MainSettingsWindow")
+    flows.open_after_loss(ring)
 
 
 @scenario
@@ -164,11 +149,10 @@ def the_idle_drive_locks_itself(ring):
 @scenario
 def clear_all_makes_the_drive_new_again(ring):
     drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
+    program = flows.log_in_to_settings(ring, drive)
     ring.desktop.mount(flows.secure_volume(drive))
-    flows.open_settings(program)
     program.click("MainSettingsClearAllButton")
-    confirm(program, "IDS_CLEAR_ALL_CONFIRM")
+    program.answer_alert("IDS_CLEAR_ALL_CONFIRM")
     program.wait_for_end()
     expect_equal("what was sent", drive.logged_writes(),
                  [0xB3, 0xBC, 0xBD, 0xB7, 0xC5, 0xB4, 0xB0, 0xC5])
@@ -176,17 +160,14 @@ def clear_all_makes_the_drive_new_again(ring):
     drive.plug()
     expect_equal("the drive's state", drive.requests.state(), vendor.NO_PASSWORD)
     expect_equal("its one area is all sectors", drive.requests.areas(), [(0, 2 ** 64 - 1)])
-    program = ring.program()
-    program.start()
-    program.wait_for_window("MainSettingsWindow")
+    program = ring.start_program("MainSettingsWindow")
     expect("its layout may be chosen", program.is_enabled("AreaSettingsButton"))
 
 
 @scenario
 def clear_all_does_nothing_when_the_user_cancels(ring):
     drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     program.click("MainSettingsClearAllButton")
     program.answer_alert("IDS_CLEAR_ALL_CONFIRM", button="IDS_CANCEL_BUTTON")
     program.wait_for_enabled("MainSettingsClearAllButton")
@@ -196,10 +177,9 @@ def clear_all_does_nothing_when_the_user_cancels(ring):
 @scenario
 def an_erased_key_loses_the_drive(ring):
     drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     program.click("EraseEncryptionKeyButton")
-    confirm(program, "IDS_ERASE_ENCRYPTION_KEY_CONFIRM")
+    program.answer_alert("IDS_ERASE_ENCRYPTION_KEY_CONFIRM")
     program.wait_for_end()
     wait_for("the drive is fully locked",
              lambda: drive.requests.state() == vendor.FULLY_LOCKED)

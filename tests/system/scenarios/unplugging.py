@@ -20,6 +20,11 @@ def commit_set_up(program):
     program.wait_for_window("ZeltoSettingWindow")
 
 
+def plug_in_locked(drive):
+    drive.plug()
+    expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
+
+
 def expect_new(drive):
     expect_equal("the drive's state", drive.requests.state(), vendor.NO_PASSWORD)
     expect_equal("the old areas are in force", drive.requests.areas(), [(0, 2 ** 64 - 1)])
@@ -33,7 +38,6 @@ def unplugged_while_the_areas_are_sent_a_new_drive_stays_new(ring):
     program.click("MainSettingsOKButton")
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_enabled("MainSettingsOKButton")
-    drive.wait_until_gone()
     drive.plug()
     expect_new(drive)
 
@@ -47,11 +51,8 @@ def unplugged_while_the_password_is_sent_a_new_drive_can_be_set_up_again(ring):
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.click("MainSettingsCancelButton")
     program.wait_for_end()
-    drive.wait_until_gone()
     drive.plug()
-    program = ring.program()
-    program.start()
-    program.wait_for_window("MainSettingsWindow")
+    ring.start_program("MainSettingsWindow")
 
 
 @scenario
@@ -64,8 +65,7 @@ def unplugged_while_it_reconnects_and_never_back_the_wait_ends(ring):
     # The program gives the drive a minute.
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_end()
-    drive.plug()
-    expect_equal("the drive is set up and locked", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
 
 
 @scenario
@@ -78,8 +78,7 @@ def unplugged_while_the_tool_area_is_formatted_the_user_is_told(ring):
     drive.unplug()
     program.answer_alert("IDS_ERR_FORMAT")
     program.wait_for_end()
-    drive.plug()
-    expect_equal("the drive is set up and locked", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
 
 
 @scenario
@@ -92,8 +91,7 @@ def unplugged_while_the_program_is_copied_the_user_is_told(ring):
     drive.unplug()
     program.answer_alert("IDS_ERR_FILE_COPY")
     program.wait_for_end()
-    drive.plug()
-    expect_equal("the drive is set up and locked", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
 
 
 @scenario
@@ -104,9 +102,7 @@ def unplugged_while_the_password_is_checked_the_user_is_told(ring):
     flows.submit_password(program, flows.FIRST)
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_end()
-    drive.wait_until_gone()
-    drive.plug()
-    expect_equal("power-up locks it", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
 
 
 @scenario
@@ -120,9 +116,7 @@ def unplugged_while_unlocked_the_drive_is_locked_and_its_mounts_are_gone(ring):
     program.click("UnlockingLogOff")
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_end()
-    drive.wait_until_gone()
-    drive.plug()
-    expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
     program = flows.log_in(ring, drive)
     expect("its volume is still there", volumes.file_system(flows.secure_volume(drive)))
 
@@ -159,8 +153,7 @@ def unplugged_while_a_busy_volume_is_reported_the_drive_is_locked(ring):
     drive.unplug()
     program.answer_alert("IDS_ERR_UNMOUNT")
     program.wait_for_end()
-    drive.plug()
-    expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
 
 
 @scenario
@@ -168,32 +161,27 @@ def unplugged_between_wrong_passwords_the_drive_goes_on_counting(ring):
     drive = ring.set_up_drive(two_passwords=True)
     program = flows.open_log_in(ring)
     flows.submit_first_of_two(program)
-    flows.submit_password(program, "wrong 1")
-    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    flows.submit_wrong_password(program, "wrong 1")
     drive.unplug()
     flows.submit_password(program, "wrong 2")
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_end()
-    drive.plug()
-    expect_equal("power-up locks it", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
 
     program = flows.open_log_in(ring)
     flows.submit_first_of_two(program)
-    flows.submit_password(program, "wrong 2")
-    program.answer_alert("IDS_ERR_AUTHENTICATE_FAILED")
+    flows.submit_wrong_password(program, "wrong 2")
     expect_equal("the drive's state", drive.requests.state(), vendor.FULLY_LOCKED)
 
 
 @scenario
 def unplugged_while_the_clock_is_set_the_user_is_told_and_may_retry(ring):
     drive = ring.set_up_drive(clock_set=False)
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     drive.vanish_at(0xBB, obeyed=False)
     program.click("MainSettingsSetTimeButton")
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_enabled("MainSettingsSetTimeButton")
-    drive.wait_until_gone()
     drive.plug()
     expect("the clock is as it was", not drive.requests.clock_is_valid())
 
@@ -205,10 +193,7 @@ def unplugged_past_its_auto_clear_period_the_drive_has_lost_its_key(ring):
     drive.advance(601)
     drive.plug()
     expect_equal("the drive's state", drive.requests.state(), vendor.FULLY_LOCKED)
-    program = ring.program()
-    program.start()
-    program.answer_alert("IDS_ERR_ZELTO_DRIVE_LOST")
-    program.wait_for_window("MainSettingsWindow")
+    flows.open_after_loss(ring)
 
 
 @scenario
@@ -219,23 +204,19 @@ def unplugged_while_it_logs_off_the_drive_is_locked(ring):
     drive.vanish_at(0xB4, obeyed=False)
     program.click("UnlockingLogOff")
     program.wait_for_end()
-    drive.wait_until_gone()
-    drive.plug()
-    expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
 
 
 @scenario
 def unplugged_while_settings_are_sent_the_user_is_told_and_may_retry(ring):
     drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     program.switch("AutoLogOffEnabledCheckBox", True)
     program.type("AutoLogOffText", "7")
     drive.vanish_at(0xBD, obeyed=False)
     program.click("MainSettingsOKButton")
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_enabled("MainSettingsOKButton")
-    drive.wait_until_gone()
     drive.plug()
     expect_equal("the period is as it was", drive.requests.idle_period(), 0)
 
@@ -243,14 +224,11 @@ def unplugged_while_settings_are_sent_the_user_is_told_and_may_retry(ring):
 @scenario
 def unplugged_before_the_key_is_cleared_nothing_is_lost(ring):
     drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
-    flows.open_settings(program)
+    program = flows.log_in_to_settings(ring, drive)
     # The first reset is refused while there is a key; the drive goes before it is cleared.
     drive.vanish_at(0xB0, obeyed=False)
     program.click("MainSettingsClearAllButton")
     program.answer_alert("IDS_CLEAR_ALL_CONFIRM")
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_enabled("MainSettingsClearAllButton")
-    drive.wait_until_gone()
-    drive.plug()
-    expect_equal("nothing is lost", drive.requests.state(), vendor.LOCKED)
+    plug_in_locked(drive)
