@@ -37,6 +37,40 @@ bool hasOrGetsSize(int descriptor, std::uint64_t size, std::string& error) {
     return true;
 }
 
+/// Takes bytes apart at the borders of blocks: each piece with its block's number and the offset
+/// in there.
+template <std::size_t BlockSize, typename Byte, typename Action>
+bool eachPiece(std::uint64_t sector, std::span<Byte> bytes, Action action) {
+    constexpr std::uint64_t BlockSectors = BlockSize / SectorSize;
+    while (!bytes.empty()) {
+        const std::size_t offset = sector % BlockSectors * SectorSize;
+        const std::size_t size = std::min(bytes.size(), BlockSize - offset);
+        action(sector / BlockSectors, offset, bytes.first(size));
+        sector += size / SectorSize;
+        bytes = bytes.subspan(size);
+    }
+    return true;
+}
+
+/// The kernel may transfer a part of what it is asked to. Nothing at all is a failure, also when
+/// reading: somebody has cut the image.
+template <typename Byte, typename Transfer>
+bool inFull(Transfer transfer, int descriptor, std::uint64_t sector, std::span<Byte> bytes) {
+    auto offset = static_cast<off_t>(sector * SectorSize);
+    while (!bytes.empty()) {
+        const ssize_t done = transfer(descriptor, bytes.data(), bytes.size(), offset);
+        if (done < 0 && errno == EINTR) {
+            continue;
+        }
+        if (done <= 0) {
+            return false;
+        }
+        bytes = bytes.subspan(static_cast<std::size_t>(done));
+        offset += done;
+    }
+    return true;
+}
+
 } // namespace
 
 bool SectorStore::holds(std::uint64_t sector, std::size_t size) const {
@@ -49,41 +83,25 @@ bool SectorStore::holds(std::uint64_t sector, std::size_t size) const {
 MemorySectorStore::MemorySectorStore(std::uint64_t sectorCount) : m_sectorCount(sectorCount) {}
 
 bool MemorySectorStore::read(std::uint64_t sector, std::span<std::uint8_t> bytes) {
-    if (!holds(sector, bytes.size())) {
-        return false;
-    }
-    constexpr std::uint64_t BlockSectors = BlockSize / SectorSize;
-    while (!bytes.empty()) {
-        const std::size_t offset = sector % BlockSectors * SectorSize;
-        const std::size_t size = std::min(bytes.size(), BlockSize - offset);
-        if (const auto block = m_blocks.find(sector / BlockSectors); block != m_blocks.end()) {
-            std::memcpy(bytes.data(), &block->second[offset], size);
-        } else {
-            std::memset(bytes.data(), 0, size);
-        }
-        sector += size / SectorSize;
-        bytes = bytes.subspan(size);
-    }
-    return true;
+    return holds(sector, bytes.size()) &&
+           eachPiece<BlockSize>(sector, bytes, [&](auto number, std::size_t offset, auto piece) {
+               if (const auto block = m_blocks.find(number); block != m_blocks.end()) {
+                   std::memcpy(piece.data(), &block->second[offset], piece.size());
+               } else {
+                   std::memset(piece.data(), 0, piece.size());
+               }
+           });
 }
 
 bool MemorySectorStore::write(std::uint64_t sector, std::span<const std::uint8_t> bytes) {
-    if (!holds(sector, bytes.size())) {
-        return false;
-    }
-    constexpr std::uint64_t BlockSectors = BlockSize / SectorSize;
-    while (!bytes.empty()) {
-        const std::size_t offset = sector % BlockSectors * SectorSize;
-        const std::size_t size = std::min(bytes.size(), BlockSize - offset);
-        auto& block = m_blocks[sector / BlockSectors];
-        if (!block) {
-            block = std::make_unique<std::uint8_t[]>(BlockSize);
-        }
-        std::memcpy(&block[offset], bytes.data(), size);
-        sector += size / SectorSize;
-        bytes = bytes.subspan(size);
-    }
-    return true;
+    return holds(sector, bytes.size()) &&
+           eachPiece<BlockSize>(sector, bytes, [&](auto number, std::size_t offset, auto piece) {
+               auto& block = m_blocks[number];
+               if (!block) {
+                   block = std::make_unique<std::uint8_t[]>(BlockSize);
+               }
+               std::memcpy(&block[offset], piece.data(), piece.size());
+           });
 }
 
 bool MemorySectorStore::discardAll() {
@@ -117,42 +135,11 @@ FileSectorStore::~FileSectorStore() {
 }
 
 bool FileSectorStore::read(std::uint64_t sector, std::span<std::uint8_t> bytes) {
-    if (!holds(sector, bytes.size())) {
-        return false;
-    }
-    auto offset = static_cast<off_t>(sector * SectorSize);
-    while (!bytes.empty()) {
-        const ssize_t done = ::pread(m_descriptor, bytes.data(), bytes.size(), offset);
-        // The end of the file, too, is a failure: somebody has cut the image.
-        if (done <= 0) {
-            if (done < 0 && errno == EINTR) {
-                continue;
-            }
-            return false;
-        }
-        bytes = bytes.subspan(static_cast<std::size_t>(done));
-        offset += done;
-    }
-    return true;
+    return holds(sector, bytes.size()) && inFull(::pread, m_descriptor, sector, bytes);
 }
 
 bool FileSectorStore::write(std::uint64_t sector, std::span<const std::uint8_t> bytes) {
-    if (!holds(sector, bytes.size())) {
-        return false;
-    }
-    auto offset = static_cast<off_t>(sector * SectorSize);
-    while (!bytes.empty()) {
-        const ssize_t done = ::pwrite(m_descriptor, bytes.data(), bytes.size(), offset);
-        if (done <= 0) {
-            if (done < 0 && errno == EINTR) {
-                continue;
-            }
-            return false;
-        }
-        bytes = bytes.subspan(static_cast<std::size_t>(done));
-        offset += done;
-    }
-    return true;
+    return holds(sector, bytes.size()) && inFull(::pwrite, m_descriptor, sector, bytes);
 }
 
 bool FileSectorStore::flush() {

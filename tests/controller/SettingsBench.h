@@ -110,6 +110,15 @@ protected:
         EXPECT_FALSE(dialog.isVisible());
     }
 
+    /// Does something in the dialog for the passwords of a new drive with laid-out areas; `work`
+    /// gets its form.
+    void inPasswordDialog(const std::function<void(Form<Ui::PasswordSettingsWindow>&)>& work) {
+        begin();
+        layOut({});
+        auto& form = app().PasswordSettingsWindow;
+        inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] { work(form); });
+    }
+
     void layOut(const Wishes& wishes) {
         auto& form = app().AreaSettingsWindow;
         inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {

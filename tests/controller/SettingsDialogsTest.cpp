@@ -189,10 +189,7 @@ TEST_F(AreaDialog, OnADriveWithoutRoomNothingCanBeLaidOut) {
 class PasswordDialog : public SettingsBench {};
 
 TEST_F(PasswordDialog, OnePasswordNeedsAValidPairOnly) {
-    begin();
-    layOut({});
-    auto& form = app().PasswordSettingsWindow;
-    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    inPasswordDialog([&](auto& form) {
         EXPECT_EQ(app().TextInputMode, 4);
         EXPECT_FALSE(form.PS_OKButton->isEnabled());
         EXPECT_FALSE(form.PS_2ndPasswordText->isEnabled());
@@ -219,10 +216,7 @@ TEST_F(PasswordDialog, OnePasswordNeedsAValidPairOnly) {
 }
 
 TEST_F(PasswordDialog, TwoPasswordsNeedTrialsOfOneTo99) {
-    begin();
-    layOut({});
-    auto& form = app().PasswordSettingsWindow;
-    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    inPasswordDialog([&](auto& form) {
         type(form.PS_1stPasswordText, "abc");
         type(form.PS_Again1stPasswordText, "abc");
         click(form.PS_1stAnd2ndCell);
@@ -239,10 +233,7 @@ TEST_F(PasswordDialog, TwoPasswordsNeedTrialsOfOneTo99) {
 }
 
 TEST_F(PasswordDialog, GoingBackToOnePasswordKeepsTheSecondOnesText) {
-    begin();
-    layOut({});
-    auto& form = app().PasswordSettingsWindow;
-    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    inPasswordDialog([&](auto& form) {
         type(form.PS_1stPasswordText, "abc");
         type(form.PS_Again1stPasswordText, "abc");
         click(form.PS_1stAnd2ndCell);

@@ -102,10 +102,7 @@ TEST_F(PastedTexts, InTheAreaDialogAreAcceptedAsSmallNumbersOnly) {
 }
 
 TEST_F(PastedTexts, InThePasswordSettingsAreAcceptedAsPasswordsAndTrialsOnly) {
-    begin();
-    layOut({});
-    auto& form = app().PasswordSettingsWindow;
-    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    inPasswordDialog([&](auto& form) {
         for (const PastedText& pasted : pastedTexts()) {
             type(form.PS_1stPasswordText, pasted.text);
             type(form.PS_Again1stPasswordText, pasted.text);
@@ -128,10 +125,7 @@ TEST_F(PastedTexts, InThePasswordSettingsAreAcceptedAsPasswordsAndTrialsOnly) {
 }
 
 TEST_F(PastedTexts, LeftInTheSecondPasswordOfAFirstOnlyChoiceAreNeverUsed) {
-    begin();
-    layOut({});
-    auto& form = app().PasswordSettingsWindow;
-    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
+    inPasswordDialog([&](auto& form) {
         type(form.PS_1stPasswordText, "abc");
         type(form.PS_Again1stPasswordText, "abc");
         click(form.PS_1stAnd2ndCell);
