@@ -197,6 +197,20 @@ def unplugged_past_its_auto_clear_period_the_drive_has_lost_its_key(ring):
 
 
 @scenario
+def unplugged_while_the_idle_period_runs_the_drive_is_locked_and_counts_anew(ring):
+    drive = ring.set_up_drive(idle_period=600)
+    program = flows.log_in(ring, drive)
+    drive.advance(500)
+    drive.unplug()
+    program.click("UnlockingCancel")
+    program.wait_for_end()
+    plug_in_locked(drive)
+    flows.log_in(ring, drive)
+    drive.advance(500)
+    expect_equal("the drive's state", drive.requests.state(), vendor.UNLOCKED)
+
+
+@scenario
 def unplugged_while_it_logs_off_the_drive_is_locked(ring):
     drive = ring.set_up_drive()
     program = flows.log_in(ring, drive)
