@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <sched.h>
 #include <sys/epoll.h>
 #include <utility>
 
@@ -56,18 +57,32 @@ void EventLoop::run() {
     }
 }
 
-int EventLoop::waitingTime(Milliseconds longest) const {
-    if (m_timers.empty()) {
-        return static_cast<int>(longest.count());
-    }
-    const auto left = std::chrono::ceil<Milliseconds>(m_timers.begin()->first - m_now());
-    return static_cast<int>(std::clamp(left, Milliseconds{0}, longest).count());
+EventLoop::Clock::time_point EventLoop::endOfWait(Milliseconds longest) const {
+    const Clock::time_point end = m_now() + longest;
+    return m_timers.empty() ? end : std::min(end, m_timers.begin()->first);
 }
 
 void EventLoop::runOnce(Milliseconds longest) {
     std::array<epoll_event, 16> events{};
-    const int count = ::epoll_wait(m_poll.get(), events.data(), static_cast<int>(events.size()),
-                                   waitingTime(longest));
+    const auto wait = [&](Milliseconds time) {
+        return ::epoll_wait(m_poll.get(), events.data(), static_cast<int>(events.size()),
+                            static_cast<int>(time.count()));
+    };
+    int count = wait(Milliseconds{0});
+    if (count == 0) {
+        const Clock::time_point end = endOfWait(longest);
+        const Clock::time_point endOfAwakeness =
+            m_hasJustServed ? std::min(end, m_now() + m_awakeSpan) : Clock::time_point::min();
+        while (count == 0 && m_now() < endOfAwakeness) {
+            ::sched_yield(); // to whoever makes the next request
+            count = wait(Milliseconds{0});
+        }
+        if (count == 0) {
+            const auto left = std::chrono::ceil<Milliseconds>(end - m_now());
+            count = wait(std::max(left, Milliseconds{0}));
+        }
+    }
+    m_hasJustServed = count > 0;
     for (int index = 0; index < count; ++index) {
         const auto entry = m_handlers.find(events.at(static_cast<std::size_t>(index)).data.fd);
         if (entry != m_handlers.end()) {

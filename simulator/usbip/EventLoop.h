@@ -34,6 +34,10 @@ public:
     /// Calls `handler` once, when the time has passed.
     void callAfter(Milliseconds delay, Handler handler);
 
+    /// For so long after something has happened the loop stays awake and looks for more: an answer
+    /// often has the next request on its heels, and waking up takes longer than serving it.
+    void stayAwakeFor(Milliseconds span) { m_awakeSpan = span; }
+
     /// Runs until stop.
     void run();
     void stop() { m_isStopping = true; }
@@ -41,13 +45,15 @@ public:
     void runOnce(Milliseconds longest);
 
 private:
-    [[nodiscard]] int waitingTime(Milliseconds longest) const;
+    [[nodiscard]] Clock::time_point endOfWait(Milliseconds longest) const;
     void callDueTimers();
 
     Now m_now;
     FileDescriptor m_poll;
     std::map<int, std::shared_ptr<Handler>> m_handlers;
     std::multimap<Clock::time_point, Handler> m_timers;
+    Milliseconds m_awakeSpan{0};
+    bool m_hasJustServed = false;
     bool m_isStopping = false;
 };
 

@@ -10,6 +10,7 @@
 #include <iostream>
 #include <random>
 #include <sys/signalfd.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -121,6 +122,11 @@ int run(const Options& options) {
         }
     }
     EventLoop loop;
+    if (std::thread::hardware_concurrency() > 1) {
+        // The next transfer of a command comes within this time. On a single processor nobody
+        // could make it while the drive is awake.
+        loop.stayAwakeFor(EventLoop::Milliseconds{2});
+    }
     DriveHost host(loop, std::move(drive), &wallClock, [&logFile](const std::string& line) {
         if (logFile.is_open()) {
             // Line by line, so that whoever follows the file sees a request when it was answered.

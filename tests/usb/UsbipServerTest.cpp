@@ -3,6 +3,7 @@
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
+#include <sys/eventfd.h>
 #include <sys/socket.h>
 
 namespace zelto::simulator::test {
@@ -194,6 +195,25 @@ TEST(Loop, CallsTimersInTheirOrderAndOnce) {
     });
     loop.run();
     EXPECT_EQ(order, "ab");
+}
+
+TEST(Loop, CallsTimersOnTimeAlsoWhileItStaysAwake) {
+    using std::chrono::milliseconds;
+    EventLoop::Clock::time_point time{};
+    EventLoop loop([&] { return time += milliseconds{1}; }); // time passes as it is asked for
+    loop.stayAwakeFor(std::chrono::hours{1});
+    const FileDescriptor event{::eventfd(1, EFD_CLOEXEC)};
+    EventLoop::Clock::time_point called{};
+    loop.watch(event.get(), EventLoop::Interest::Read, [&] {
+        loop.forget(event.get());
+        loop.callAfter(milliseconds{50}, [&] {
+            called = time;
+            loop.stop();
+        });
+    });
+    loop.run();
+    EXPECT_GE(called.time_since_epoch(), milliseconds{50});
+    EXPECT_LT(called.time_since_epoch(), milliseconds{100});
 }
 
 } // namespace
