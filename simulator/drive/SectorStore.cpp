@@ -40,7 +40,7 @@ bool hasOrGetsSize(int descriptor, std::uint64_t size, std::string& error) {
 /// Takes bytes apart at the borders of blocks: each piece with its block's number and the offset
 /// in there.
 template <std::size_t BlockSize, typename Byte, typename Action>
-bool eachPiece(std::uint64_t sector, std::span<Byte> bytes, Action action) {
+void eachPiece(std::uint64_t sector, std::span<Byte> bytes, Action action) {
     constexpr std::uint64_t BlockSectors = BlockSize / SectorSize;
     while (!bytes.empty()) {
         const std::size_t offset = sector % BlockSectors * SectorSize;
@@ -49,7 +49,6 @@ bool eachPiece(std::uint64_t sector, std::span<Byte> bytes, Action action) {
         sector += size / SectorSize;
         bytes = bytes.subspan(size);
     }
-    return true;
 }
 
 /// The kernel may transfer a part of what it is asked to. Nothing at all is a failure, also when
@@ -83,25 +82,31 @@ bool SectorStore::holds(std::uint64_t sector, std::size_t size) const {
 MemorySectorStore::MemorySectorStore(std::uint64_t sectorCount) : m_sectorCount(sectorCount) {}
 
 bool MemorySectorStore::read(std::uint64_t sector, std::span<std::uint8_t> bytes) {
-    return holds(sector, bytes.size()) &&
-           eachPiece<BlockSize>(sector, bytes, [&](auto number, std::size_t offset, auto piece) {
-               if (const auto block = m_blocks.find(number); block != m_blocks.end()) {
-                   std::memcpy(piece.data(), &block->second[offset], piece.size());
-               } else {
-                   std::memset(piece.data(), 0, piece.size());
-               }
-           });
+    if (!holds(sector, bytes.size())) {
+        return false;
+    }
+    eachPiece<BlockSize>(sector, bytes, [&](auto number, std::size_t offset, auto piece) {
+        if (const auto block = m_blocks.find(number); block != m_blocks.end()) {
+            std::memcpy(piece.data(), &block->second[offset], piece.size());
+        } else {
+            std::memset(piece.data(), 0, piece.size());
+        }
+    });
+    return true;
 }
 
 bool MemorySectorStore::write(std::uint64_t sector, std::span<const std::uint8_t> bytes) {
-    return holds(sector, bytes.size()) &&
-           eachPiece<BlockSize>(sector, bytes, [&](auto number, std::size_t offset, auto piece) {
-               auto& block = m_blocks[number];
-               if (!block) {
-                   block = std::make_unique<std::uint8_t[]>(BlockSize);
-               }
-               std::memcpy(&block[offset], piece.data(), piece.size());
-           });
+    if (!holds(sector, bytes.size())) {
+        return false;
+    }
+    eachPiece<BlockSize>(sector, bytes, [&](auto number, std::size_t offset, auto piece) {
+        auto& block = m_blocks[number];
+        if (!block) {
+            block = std::make_unique<std::uint8_t[]>(BlockSize);
+        }
+        std::memcpy(&block[offset], piece.data(), piece.size());
+    });
+    return true;
 }
 
 bool MemorySectorStore::discardAll() {

@@ -196,9 +196,13 @@ TEST(KernelOrder, ComparesNumbersAsNumbers) {
     EXPECT_NE(precedesInKernelOrder("a01", "a1"), precedesInKernelOrder("a1", "a01"));
 }
 
-TEST(DeviceRule, GivesTheDriveToTheActiveSessionBetweenTheRulesItDependsOn) {
+std::string deviceRule() {
     std::ifstream file(std::filesystem::path(ZELTO_SOURCE_FOLDER) / "packaging/60-zelto.rules");
-    const std::string rule{std::istreambuf_iterator<char>(file), {}};
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(DeviceRule, GivesTheDriveToTheActiveSessionBetweenTheRulesItDependsOn) {
+    const auto rule = deviceRule();
     for (const auto* part :
          {"ACTION==\"remove\"", "ENV{DEVTYPE}!=\"usb_device\"", "ATTR{idVendor}==\"07f7\"",
           "ATTR{idProduct}==\"0135\"", "MODE=\"0660\"", "TAG+=\"uaccess\"",
@@ -209,8 +213,7 @@ TEST(DeviceRule, GivesTheDriveToTheActiveSessionBetweenTheRulesItDependsOn) {
 }
 
 TEST(DeviceRule, DeclaresTheAreasToBeNoPartOfTheComputer) {
-    std::ifstream file(std::filesystem::path(ZELTO_SOURCE_FOLDER) / "packaging/60-zelto.rules");
-    const std::string rule{std::istreambuf_iterator<char>(file), {}};
+    const auto rule = deviceRule();
     EXPECT_THAT(rule, ::testing::ContainsRegex(
                           "\nSUBSYSTEM==\"block\", ENV\\{ID_VENDOR_ID\\}==\"07f7\", "
                           "ENV\\{ID_MODEL_ID\\}==\"0135\", ENV\\{UDISKS_SYSTEM\\}=\"0\""));
