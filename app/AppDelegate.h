@@ -261,8 +261,8 @@ private:
     // app/AppDelegate_ToolArea.cpp
     void copyFilesBesideBundle(const std::filesystem::path& volume);
 
-    // session/AppDelegate_Messages.cpp: every message and every wait goes through these, so that
-    // the gate is closed while the message is up or the wait lasts.
+    // session/AppDelegate_Messages.cpp: every message and every pause goes through these, so
+    // that the gate is closed while the message is up or the pause lasts.
     /// An alert with the application's title and the one button "OK".
     void ShowMessage(const QString& message, const QString& detail = {});
     /// A confirmation that Return and Escape cancel; true when the user pressed OK.
@@ -270,7 +270,6 @@ private:
     /// IDS_ERR_UNMOUNT, with the programs that keep the volumes of g_BsdNameList busy.
     void ReportUnmountFailure();
     AlertButton RunAlertPanel(const AlertPanel& panel);
-    [[nodiscard]] int RunDiskTool(const std::vector<std::string>& arguments);
     void Pause(std::chrono::seconds duration);
 
     // session/AppDelegate_Dispatch.cpp

@@ -15,7 +15,8 @@ constexpr const char* BundleName = "ZeltoAppMac.app";
 } // namespace
 
 bool AppDelegate::FormatDrive(const std::string& bsdName) {
-    return RunDiskTool({"eraseDisk", "MS-DOS", ToolVolumeLabel, "MBR", bsdName}) == 0;
+    const EventGate::Closing closing(m_gate);
+    return m_platform.disks.eraseDisk(bsdName, ToolVolumeLabel);
 }
 
 bool AppDelegate::CopyToolFile(const std::string& bsdName) {

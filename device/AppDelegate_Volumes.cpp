@@ -30,9 +30,9 @@ bool AppDelegate::UnmountVolume(const std::vector<std::string>& bsdNames, std::u
             mounted.end()) {
             continue;
         }
-        if (RunDiskTool({eject == 0 ? "umount" : "eject", name}) != 0) {
-            allSucceeded = false;
-        }
+        const EventGate::Closing closing(m_gate);
+        const bool done = eject == 0 ? m_platform.disks.umount(name) : m_platform.disks.eject(name);
+        allSucceeded = done && allSucceeded;
     }
     return allSucceeded;
 }

@@ -25,7 +25,9 @@ public:
     [[nodiscard]] virtual std::vector<MountedFileSystem> getmntinfo() = 0;
 };
 
-/// The system's disk tool, as a program would run it: arguments in, exit status out.
+/// The system's disk tool. An operation waits until it has ended, however long that takes: a slow
+/// flush and the formatting of a large volume may take minutes. Windows go on repainting meanwhile,
+/// but take no input. The result is true when it was done.
 class DiskTool {
 public:
     DiskTool() = default;
@@ -33,17 +35,16 @@ public:
     DiskTool& operator=(const DiskTool&) = delete;
     virtual ~DiskTool() = default;
 
-    /// Runs the tool and waits until it has ended, however long that takes: a slow flush and the
-    /// formatting of a large volume may take minutes. Windows go on repainting meanwhile, but take
-    /// no input. The result is the exit status, 0 for success.
-    ///
-    ///   "umount" NAME   unmounts that one volume; never forced, never lazy
-    ///   "eject" NAME    unmounts every volume of the disk that NAME is on, then ejects the medium;
-    ///                   the USB device itself keeps its power and stays reachable
-    ///   "eraseDisk" "MS-DOS" LABEL "MBR" NAME
-    ///                   wipes the disk, writes a master boot record with one FAT partition of that
-    ///                   label, and leaves the volume mounted
-    [[nodiscard]] virtual int run(const std::vector<std::string>& arguments) = 0;
+    /// Unmounts that one volume; never forced, never lazy.
+    [[nodiscard]] virtual bool umount(const std::string& bsdName) = 0;
+
+    /// Unmounts every volume of the disk that this disk or partition is on, then ejects the medium.
+    /// The USB device itself keeps its power and stays reachable.
+    [[nodiscard]] virtual bool eject(const std::string& bsdName) = 0;
+
+    /// Wipes the disk, writes a master boot record with one FAT partition of that label, and leaves
+    /// the volume mounted.
+    [[nodiscard]] virtual bool eraseDisk(const std::string& bsdName, const std::string& label) = 0;
 
     /// The BSD name of a disk's partition, counted from 1: "disk2" and 1 give "disk2s1" where the
     /// system names partitions so, "sdb" and 1 give "sdb1" on Linux.
@@ -51,7 +52,7 @@ public:
                                                     unsigned number) const = 0;
 
     /// The names of the programs of this user that keep one of these disks or partitions busy,
-    /// sorted, without repetition; empty when none is known. Asked after a failed run.
+    /// sorted, without repetition; empty when none is known. Asked after a failure.
     [[nodiscard]] virtual std::vector<std::string>
     holders(const std::vector<std::string>& bsdNames) const = 0;
 };

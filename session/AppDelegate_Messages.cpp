@@ -55,11 +55,6 @@ AlertButton AppDelegate::RunAlertPanel(const AlertPanel& panel) {
     return m_platform.alerts.NSRunAlertPanel(panel);
 }
 
-int AppDelegate::RunDiskTool(const std::vector<std::string>& arguments) {
-    const EventGate::Closing closing(m_gate);
-    return m_platform.disks.run(arguments);
-}
-
 void AppDelegate::Pause(std::chrono::seconds duration) {
     const EventGate::Closing closing(m_gate);
     m_platform.clock.sleep(duration);

@@ -12,8 +12,6 @@ namespace zelto::linux_platform {
 
 namespace {
 
-enum ExitStatus { Done = 0, Failed = 1, Usage = 64 };
-
 const QString BlockInterface = QStringLiteral("org.freedesktop.UDisks2.Block");
 const QString DriveInterface = QStringLiteral("org.freedesktop.UDisks2.Drive");
 const QString FilesystemInterface = QStringLiteral("org.freedesktop.UDisks2.Filesystem");
@@ -80,22 +78,6 @@ UDisks& LinuxDiskTool::service() {
     return *m_service;
 }
 
-int LinuxDiskTool::run(const std::vector<std::string>& arguments) {
-    const auto busy = m_waiting.showWork();
-    const auto status = [](bool done) { return done ? Done : Failed; };
-    if (arguments.size() == 2 && arguments[0] == "umount") {
-        return status(umount(arguments[1]));
-    }
-    if (arguments.size() == 2 && arguments[0] == "eject") {
-        return status(eject(arguments[1]));
-    }
-    if (arguments.size() == 5 && arguments[0] == "eraseDisk" && arguments[1] == "MS-DOS" &&
-        arguments[3] == "MBR" && arguments[2].size() <= LongestLabel) {
-        return status(eraseDisk(arguments[2], arguments[4]));
-    }
-    return Usage;
-}
-
 std::string LinuxDiskTool::partitionName(const std::string& disk, unsigned number) const {
     const bool endsInDigit = !disk.empty() && disk.back() >= '0' && disk.back() <= '9';
     return disk + (endsInDigit ? "p" : "") + std::to_string(number);
@@ -109,12 +91,14 @@ std::vector<std::string> LinuxDiskTool::holders(const std::vector<std::string>& 
 }
 
 bool LinuxDiskTool::umount(const std::string& bsdName) {
+    const auto busy = m_waiting.showWork();
     const auto state = service().state();
     const auto* block = state ? state->findDevice(bsdName) : nullptr;
     return block != nullptr && unmountEverywhere(block->path);
 }
 
 bool LinuxDiskTool::eject(const std::string& bsdName) {
+    const auto busy = m_waiting.showWork();
     const auto state = service().state();
     const auto* block = state ? state->findDevice(bsdName) : nullptr;
     const auto* disk = block != nullptr ? state->diskOf(*block) : nullptr;
@@ -138,7 +122,11 @@ bool LinuxDiskTool::eject(const std::string& bsdName) {
         mediumHasGone);
 }
 
-bool LinuxDiskTool::eraseDisk(const std::string& label, const std::string& bsdName) {
+bool LinuxDiskTool::eraseDisk(const std::string& bsdName, const std::string& label) {
+    if (label.size() > LongestLabel) {
+        return false;
+    }
+    const auto busy = m_waiting.showWork();
     // A drive that has just come back is in the kernel's tree a while before the service has heard
     // of it and of its medium; longest where the computer is busy with its coming and going.
     const auto arrivalDelay = 3 * m_propertyDelay;

@@ -15,8 +15,8 @@
 
 namespace zelto::linux_platform {
 
-/// The disk tool's verbs as calls to UDisks2. Desktops mount what appears without being asked, so
-/// each step expects a volume that is mounted again; and since the service can report a failure
+/// The disk tool's operations as calls to UDisks2. Desktops mount what appears without being asked,
+/// so each step expects a volume that is mounted again; and since the service can report a failure
 /// for what it has done, a step that failed is judged by the state that it left.
 class LinuxDiskTool final : public DiskTool {
 public:
@@ -25,13 +25,15 @@ public:
     /// How long the service's properties may lag behind its answers.
     static constexpr std::chrono::milliseconds PropertyDelay{20'000};
 
-    /// The bus is asked for at the first run, not before.
+    /// The bus is asked for at the first operation, not before.
     LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts,
                   std::filesystem::path proc = "/proc",
                   std::chrono::milliseconds propertyDelay = PropertyDelay);
 
-    /// Exit status: 0 done, 1 failed, 64 arguments that are none of the tool's verbs.
-    [[nodiscard]] int run(const std::vector<std::string>& arguments) override;
+    [[nodiscard]] bool umount(const std::string& bsdName) override;
+    [[nodiscard]] bool eject(const std::string& bsdName) override;
+    /// A label longer than FAT's eleven bytes is refused before anything is touched.
+    [[nodiscard]] bool eraseDisk(const std::string& bsdName, const std::string& label) override;
     [[nodiscard]] std::string partitionName(const std::string& disk,
                                             unsigned number) const override;
     [[nodiscard]] std::vector<std::string>
@@ -39,9 +41,6 @@ public:
 
 private:
     [[nodiscard]] UDisks& service();
-    [[nodiscard]] bool umount(const std::string& bsdName);
-    [[nodiscard]] bool eject(const std::string& bsdName);
-    [[nodiscard]] bool eraseDisk(const std::string& label, const std::string& bsdName);
 
     [[nodiscard]] bool unmountEverywhere(const QString& block);
     [[nodiscard]] bool unmountDisk(const QString& disk);

@@ -6,34 +6,43 @@ namespace zelto::simulator {
 
 namespace {
 
-constexpr int Done = 0;
-constexpr int Failed = 1;
+/// FAT's, in bytes.
+constexpr std::size_t LongestLabel = 11;
 
 } // namespace
 
-int VirtualDiskTool::run(const std::vector<std::string>& arguments) {
-    std::string text = "diskutil";
-    for (const std::string& argument : arguments) {
-        text += " " + argument;
-    }
-    m_log.note(LogLine::Kind::DiskTool, text);
+bool VirtualDiskTool::run(DiskVerb verb, const std::string& arguments, const std::string& bsdName,
+                          const std::function<bool()>& action) {
+    m_log.note(LogLine::Kind::DiskTool, "diskutil " + arguments);
     if (m_beforeRun) {
-        m_beforeRun(arguments);
+        m_beforeRun(bsdName);
     }
-    if (arguments.size() < 2) {
-        return Failed;
-    }
-    const auto failure = m_failures.find(arguments.front());
-    if (failure != m_failures.end()) {
-        return failure->second;
-    }
-    if (arguments.front() == "umount" && arguments.size() == 2) {
-        return umount(arguments[1]);
-    }
-    if (arguments.front() == "eject" && arguments.size() == 2) {
-        return eject(arguments[1]);
-    }
-    return arguments.front() == "eraseDisk" ? eraseDisk(arguments) : Failed;
+    const ToolBehaviour behaviour = m_behaviours[verb];
+    return behaviour == ToolBehaviour::Works ? action() : behaviour == ToolBehaviour::OnlyPretends;
+}
+
+bool VirtualDiskTool::umount(const std::string& bsdName) {
+    return run(DiskVerb::Umount, "umount " + bsdName, bsdName,
+               [&] { return m_mounts.unmount(bsdName); });
+}
+
+bool VirtualDiskTool::eject(const std::string& bsdName) {
+    return run(DiskVerb::Eject, "eject " + bsdName, bsdName, [&] {
+        const auto place = m_disks.find(bsdName);
+        const bool free = place && unmountAll(*place->disk);
+        if (free) {
+            m_disks.eject(*place->disk);
+        }
+        return free;
+    });
+}
+
+bool VirtualDiskTool::eraseDisk(const std::string& bsdName, const std::string& label) {
+    return run(DiskVerb::EraseDisk, "eraseDisk MS-DOS " + label + " MBR " + bsdName, bsdName, [&] {
+        const auto place = m_disks.find(bsdName);
+        return place && !place->partition && label.size() <= LongestLabel &&
+               unmountAll(*place->disk) && format(*place->disk, label);
+    });
 }
 
 std::string VirtualDiskTool::partitionName(const std::string& disk, unsigned number) const {
@@ -54,17 +63,6 @@ std::vector<std::string> VirtualDiskTool::holders(const std::vector<std::string>
     return {programs.begin(), programs.end()};
 }
 
-void VirtualDiskTool::setFailure(const std::string& verb, std::optional<int> status) {
-    m_failures.erase(verb);
-    if (status) {
-        m_failures.emplace(verb, *status);
-    }
-}
-
-int VirtualDiskTool::umount(const std::string& name) {
-    return m_mounts.unmount(name) ? Done : Failed;
-}
-
 bool VirtualDiskTool::unmountAll(const VirtualDisk& disk) {
     bool unmounted = true;
     for (const std::string& volume : VirtualDisks::volumeNames(disk)) {
@@ -75,37 +73,19 @@ bool VirtualDiskTool::unmountAll(const VirtualDisk& disk) {
     return unmounted;
 }
 
-int VirtualDiskTool::eject(const std::string& name) {
-    const auto place = m_disks.find(name);
-    if (!place || !unmountAll(*place->disk)) {
-        return Failed;
-    }
-    m_disks.eject(*place->disk);
-    return Done;
-}
-
-int VirtualDiskTool::eraseDisk(const std::vector<std::string>& arguments) {
-    constexpr std::size_t ArgumentCount = 5;
-    const bool understood =
-        arguments.size() == ArgumentCount && arguments[1] == "MS-DOS" && arguments[3] == "MBR";
-    const auto place = understood ? m_disks.find(arguments[4]) : std::nullopt;
-    if (!place || place->partition || !unmountAll(*place->disk)) {
-        return Failed;
-    }
-    VirtualDisk& disk = *place->disk;
+bool VirtualDiskTool::format(VirtualDisk& disk, const std::string& label) {
     Partition partition = partitionFilling(disk.device->sectorCount(), 0);
     partition.type = fatPartitionType(partition.sectorCount);
     BlockDevicePart part(*disk.device, partition.firstSector, partition.sectorCount);
     if (partition.sectorCount == 0 || !writeMasterBootRecord(*disk.device, partition) ||
-        !formatFat(part, arguments[2], static_cast<std::uint32_t>(partition.firstSector),
-                   m_clock.now())) {
-        return Failed;
+        !formatFat(part, label, static_cast<std::uint32_t>(partition.firstSector), m_clock.now())) {
+        return false;
     }
     m_disks.readPartitions(disk);
     if (m_eraseMounts) {
         m_mounts.mount(disk.partitionName(partition.number));
     }
-    return Done;
+    return true;
 }
 
 } // namespace zelto::simulator

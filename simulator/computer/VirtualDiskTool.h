@@ -4,9 +4,21 @@
 
 #include <functional>
 #include <map>
-#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace zelto::simulator {
+
+enum class DiskVerb { Umount, Eject, EraseDisk };
+
+enum class ToolBehaviour {
+    Works,
+    /// It does nothing and says so.
+    Fails,
+    /// It does nothing and says that it was done.
+    OnlyPretends,
+};
 
 /// The disk tool of the virtual computer. It really unmounts, ejects and formats.
 class VirtualDiskTool : public DiskTool {
@@ -15,34 +27,36 @@ public:
                     EventLog& log)
         : m_disks(disks), m_mounts(mounts), m_clock(clock), m_log(log) {}
 
-    [[nodiscard]] int run(const std::vector<std::string>& arguments) override;
+    [[nodiscard]] bool umount(const std::string& bsdName) override;
+    [[nodiscard]] bool eject(const std::string& bsdName) override;
+    [[nodiscard]] bool eraseDisk(const std::string& bsdName, const std::string& label) override;
     [[nodiscard]] std::string partitionName(const std::string& disk,
                                             unsigned number) const override;
     [[nodiscard]] std::vector<std::string>
     holders(const std::vector<std::string>& bsdNames) const override;
 
-    /// Every run of a verb ends with this status and does nothing; nothing: it works again.
-    void setFailure(const std::string& verb, std::optional<int> status);
+    /// From now on, with every run of this verb.
+    void setBehaviour(DiskVerb verb, ToolBehaviour behaviour) { m_behaviours[verb] = behaviour; }
     /// eraseDisk forgets to mount what it has made.
     void setEraseMounts(bool mounts) { m_eraseMounts = mounts; }
-    /// Called before each run, which may take this long.
-    void setBeforeRun(std::function<void(const std::vector<std::string>&)> hook) {
+    /// Called before each run with the name of the disk or partition that it is for.
+    void setBeforeRun(std::function<void(const std::string& bsdName)> hook) {
         m_beforeRun = std::move(hook);
     }
 
 private:
-    [[nodiscard]] int umount(const std::string& name);
-    [[nodiscard]] int eject(const std::string& name);
-    [[nodiscard]] int eraseDisk(const std::vector<std::string>& arguments);
+    [[nodiscard]] bool run(DiskVerb verb, const std::string& arguments, const std::string& bsdName,
+                           const std::function<bool()>& action);
     [[nodiscard]] bool unmountAll(const VirtualDisk& disk);
+    [[nodiscard]] bool format(VirtualDisk& disk, const std::string& label);
 
     VirtualDisks& m_disks;
     VirtualMountTable& m_mounts;
     VirtualClock& m_clock;
     EventLog& m_log;
-    std::map<std::string, int> m_failures;
+    std::map<DiskVerb, ToolBehaviour> m_behaviours;
     bool m_eraseMounts = true;
-    std::function<void(const std::vector<std::string>&)> m_beforeRun;
+    std::function<void(const std::string&)> m_beforeRun;
 };
 
 } // namespace zelto::simulator

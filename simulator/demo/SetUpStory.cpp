@@ -148,8 +148,7 @@ void useTheDrive(Story& story, const Drive& drive) {
     story.tell("The secure area is blank; its owner formats it and keeps something there.");
     const VirtualDisk* const secure = diskOfUnit(story, "KESTRIN ZELTO DISK1");
     const bool formatted =
-        secure != nullptr &&
-        story.computer.diskTool.run({"eraseDisk", "MS-DOS", "SECRET", "MBR", secure->bsdName}) == 0;
+        secure != nullptr && story.computer.diskTool.eraseDisk(secure->bsdName, "SECRET");
     story.check("the volume SECRET is there",
                 formatted && story.computer.files.fileExistsAtPath("/media/user/SECRET"));
     story.check("a copy of the utility fits on it",

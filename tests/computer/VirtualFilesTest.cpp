@@ -17,8 +17,7 @@ protected:
     void plugWithToolVolume(std::uint64_t sectors = 40960) {
         m_drive = makeDrive("ZD0000000000A1", sectors);
         m_computer.plug(m_drive);
-        ASSERT_EQ(m_computer.diskTool.run({"eraseDisk", "MS-DOS", "ZELTO TOOL", "MBR", "disk2"}),
-                  0);
+        ASSERT_TRUE(m_computer.diskTool.eraseDisk("disk2", "ZELTO TOOL"));
     }
 
     VirtualComputer m_computer;

@@ -3,7 +3,9 @@
 namespace zelto {
 namespace {
 
+using simulator::DiskVerb;
 using simulator::LogLine;
+using simulator::ToolBehaviour;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -207,9 +209,9 @@ class ToolAreaTest : public SessionTest {};
 
 TEST_F(ToolAreaTest, FormattingIsTrueExactlyOnACleanExit) {
     m_bench.start();
-    m_bench.computer.diskTool.setFailure("eraseDisk", 1);
+    m_bench.computer.diskTool.setBehaviour(DiskVerb::EraseDisk, ToolBehaviour::Fails);
     EXPECT_FALSE(m_bench.app().FormatDrive("disk2"));
-    m_bench.computer.diskTool.setFailure("eraseDisk", 0);
+    m_bench.computer.diskTool.setBehaviour(DiskVerb::EraseDisk, ToolBehaviour::OnlyPretends);
     EXPECT_TRUE(m_bench.app().FormatDrive("disk2"));
     EXPECT_THAT(m_bench.diskToolRuns(),
                 Contains("diskutil eraseDisk MS-DOS ZELTO TOOL MBR disk2").Times(2));

@@ -3,7 +3,9 @@
 namespace zelto {
 namespace {
 
+using simulator::DiskVerb;
 using simulator::Fault;
+using simulator::ToolBehaviour;
 using test::SettingsBench;
 using test::Wishes;
 using testing::ElementsAre;
@@ -128,7 +130,7 @@ TEST_F(ClearAll, UnmountsAllVolumesFirst) {
 
 TEST_F(ClearAll, AVolumeThatDoesNotUnmountStopsItBeforeAnyCommand) {
     beginWithSettingsOf({.secureDisk = 0});
-    computer.diskTool.setFailure("umount", 1);
+    computer.diskTool.setBehaviour(DiskVerb::Umount, ToolBehaviour::Fails);
     clearAnsweringYes();
     EXPECT_THAT(commands(), IsEmpty());
     EXPECT_EQ(messages().back(), localized("IDS_ERR_UNMOUNT"));

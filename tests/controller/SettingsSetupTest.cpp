@@ -8,6 +8,8 @@ namespace zelto {
 namespace {
 
 using namespace std::chrono_literals;
+using simulator::DiskVerb;
+using simulator::ToolBehaviour;
 using test::SettingsBench;
 using test::Wishes;
 using testing::ElementsAre;
@@ -187,7 +189,7 @@ TEST_F(FirstTimeSetup, ReportsAFormatThatFails) {
     begin();
     fill({});
     commit();
-    computer.diskTool.setFailure("eraseDisk", 1);
+    computer.diskTool.setBehaviour(DiskVerb::EraseDisk, ToolBehaviour::Fails);
     computer.advance(20s);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
     EXPECT_TRUE(hasQuit());
@@ -288,7 +290,7 @@ TEST_F(FirstTimeSetup, ABusyVolumeStopsItBeforeAnythingIsSent) {
     app().Settings.InitialSetting = true;
     app().Changed.AreaSettingsPerformed = true;
     app().UpdateMainSettingsOKButton();
-    computer.diskTool.setFailure("umount", 1);
+    computer.diskTool.setBehaviour(DiskVerb::Umount, ToolBehaviour::Fails);
     computer.log.clear();
     commit();
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_UNMOUNT")));

@@ -14,8 +14,7 @@ using testing::Not;
 class TwoDrives : public SettingsBench {
 protected:
     TwoDrives() {
-        computer.diskTool.setBeforeRun(
-            [this](const auto& arguments) { noteRun(arguments.back()); });
+        computer.diskTool.setBeforeRun([this](const auto& bsdName) { noteRun(bsdName); });
         m_other = plugPreparedDrive({.serial = OtherSerial});
         m_remembered = m_other->drive().model().remembered();
         m_mounted = mountedOfOther();
