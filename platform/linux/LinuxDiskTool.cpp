@@ -1,6 +1,7 @@
 #include "platform/linux/LinuxDiskTool.h"
 
 #include "platform/linux/DiskHolders.h"
+#include "platform/linux/UDisksNames.h"
 
 #include <unistd.h>
 
@@ -11,11 +12,6 @@
 namespace zelto::linux_platform {
 
 namespace {
-
-const QString BlockInterface = QStringLiteral("org.freedesktop.UDisks2.Block");
-const QString DriveInterface = QStringLiteral("org.freedesktop.UDisks2.Drive");
-const QString FilesystemInterface = QStringLiteral("org.freedesktop.UDisks2.Filesystem");
-const QString TableInterface = QStringLiteral("org.freedesktop.UDisks2.PartitionTable");
 
 /// How often a volume that the desktop has mounted again is unmounted again.
 constexpr int Attempts = 5;
@@ -29,13 +25,12 @@ bool succeeded(const QDBusMessage& reply) {
 }
 
 bool failedWith(const QDBusMessage& reply, QLatin1String error) {
-    return reply.type() == QDBusMessage::ErrorMessage &&
-           reply.errorName() == QLatin1String("org.freedesktop.UDisks2.Error.") + error;
+    return reply.type() == QDBusMessage::ErrorMessage && reply.errorName() == error;
 }
 
 /// The service gives up waiting for the kernel after a while, and the kernel goes on.
 bool mayYetSucceed(const QDBusMessage& reply) {
-    return failedWith(reply, QLatin1String("Timedout")) ||
+    return failedWith(reply, udisks::error::TimedOut) ||
            reply.errorMessage().contains(QLatin1String("Timed out"), Qt::CaseInsensitive);
 }
 
@@ -116,7 +111,7 @@ bool LinuxDiskTool::eject(const std::string& bsdName) {
     return doFreed(
         disk->path,
         [&] {
-            return service().call(disk->drive, DriveInterface, QStringLiteral("Eject"),
+            return service().call(disk->drive, udisks::drive::Interface, udisks::drive::Eject,
                                   withOptions({}));
         },
         mediumHasGone);
@@ -158,20 +153,20 @@ bool LinuxDiskTool::unmountEverywhere(const QString& block) {
             return true;
         }
         // Without "force": that would only hide the volume from new programs.
-        const auto reply =
-            service().call(block, FilesystemInterface, QStringLiteral("Unmount"), withOptions({}));
+        const auto reply = service().call(block, udisks::filesystem::Interface,
+                                          udisks::filesystem::Unmount, withOptions({}));
         const auto before = state->find(block)->mountPoints;
         const auto fewer = [&](const UDisksState& now) {
             const auto* found = now.find(block);
             return found == nullptr || found->mountPoints != before;
         };
         const bool worthWaiting = succeeded(reply) || mayYetSucceed(reply) ||
-                                  failedWith(reply, QLatin1String("NotMounted"));
+                                  failedWith(reply, udisks::error::NotMounted);
         if (service().waitFor(fewer,
                               worthWaiting ? m_propertyDelay : std::chrono::milliseconds::zero())) {
             continue;
         }
-        if (failedWith(reply, QLatin1String("NotMounted"))) {
+        if (failedWith(reply, udisks::error::NotMounted)) {
             return true;
         }
         // It said that it had done it: once more, and it will say NotMounted if it has.
@@ -229,12 +224,12 @@ bool LinuxDiskTool::writeTable(const QString& disk) {
     return doFreed(
         disk,
         [&] {
-            return service().call(disk, BlockInterface, QStringLiteral("Format"),
-                                  withOptions({QStringLiteral("dos")}));
+            return service().call(disk, udisks::block::Interface, udisks::block::Format,
+                                  withOptions({udisks::MbrTable}));
         },
         [&](const UDisksState& now) {
             const auto* found = now.find(disk);
-            return found != nullptr && found->tableType == QLatin1String("dos") &&
+            return found != nullptr && found->tableType == udisks::MbrTable &&
                    now.partitionsOf(disk).empty();
         });
 }
@@ -244,7 +239,8 @@ QString LinuxDiskTool::createPartition(const UDisksBlock& disk) {
     if (plan.type.isEmpty()) {
         return {};
     }
-    const auto reply = service().call(disk.path, TableInterface, QStringLiteral("CreatePartition"),
+    const auto reply = service().call(disk.path, udisks::partition_table::Interface,
+                                      udisks::partition_table::CreatePartition,
                                       withOptions({plan.offset, plan.size, plan.type, QString()}));
     QString partition;
     if (!reply.arguments().isEmpty()) {
@@ -270,13 +266,13 @@ bool LinuxDiskTool::makeFat(const QString& disk, const QString& partition, const
         disk,
         [&] {
             return service().call(
-                partition, BlockInterface, QStringLiteral("Format"),
-                withOptions({QStringLiteral("vfat")}, {{QStringLiteral("label"), label}}));
+                partition, udisks::block::Interface, udisks::block::Format,
+                withOptions({udisks::FatFilesystem}, {{udisks::block::LabelOption, label}}));
         },
         [&](const UDisksState& now) {
             const auto* found = now.find(partition);
             return found != nullptr && found->hasFilesystem &&
-                   found->idType == QLatin1String("vfat") && found->idLabel == label &&
+                   found->idType == udisks::FatFilesystem && found->idLabel == label &&
                    found->idUuid != oldUuid;
         });
 }
@@ -286,9 +282,9 @@ bool LinuxDiskTool::mount(const QString& disk, const QString& partition) {
     if (service().waitFor(mounted, std::chrono::milliseconds::zero())) {
         return true; // the desktop was faster
     }
-    const auto reply =
-        service().call(partition, FilesystemInterface, QStringLiteral("Mount"), withOptions({}));
-    return settle(disk, reply, mounted) || failedWith(reply, QLatin1String("AlreadyMounted"));
+    const auto reply = service().call(partition, udisks::filesystem::Interface,
+                                      udisks::filesystem::Mount, withOptions({}));
+    return settle(disk, reply, mounted) || failedWith(reply, udisks::error::AlreadyMounted);
 }
 
 } // namespace zelto::linux_platform

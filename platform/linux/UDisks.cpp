@@ -1,5 +1,7 @@
 #include "platform/linux/UDisks.h"
 
+#include "platform/linux/UDisksNames.h"
+
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -16,11 +18,6 @@ namespace zelto::linux_platform {
 
 namespace {
 
-const QString Service = QStringLiteral("org.freedesktop.UDisks2");
-const QString ManagerObject = QStringLiteral("/org/freedesktop/UDisks2");
-const QString ObjectManagerInterface = QStringLiteral("org.freedesktop.DBus.ObjectManager");
-const QString PropertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
-
 /// Flushing a slow drive or waiting for the user at a prompt takes longer than any limit.
 constexpr int WithoutLimit = std::numeric_limits<int>::max();
 /// A change is normally announced; this is for the announcement that got lost.
@@ -34,16 +31,16 @@ Q_LOGGING_CATEGORY(log, "zelto.disks")
 UDisks::UDisks(QDBusConnection bus, const Waiting& waiting)
     : m_bus(std::move(bus)),
       m_waiting(waiting),
-      m_watcher(Service, m_bus, QDBusServiceWatcher::WatchForOwnerChange) {
+      m_watcher(udisks::Service, m_bus, QDBusServiceWatcher::WatchForOwnerChange) {
     qDBusRegisterMetaType<ManagedInterfaces>();
     qDBusRegisterMetaType<ManagedObjects>();
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &UDisks::noteChange);
-    m_bus.connect(Service, {}, PropertiesInterface, QStringLiteral("PropertiesChanged"), this,
-                  SLOT(noteChange()));
-    m_bus.connect(Service, {}, ObjectManagerInterface, QStringLiteral("InterfacesAdded"), this,
-                  SLOT(noteChange()));
-    m_bus.connect(Service, {}, ObjectManagerInterface, QStringLiteral("InterfacesRemoved"), this,
-                  SLOT(noteChange()));
+    m_bus.connect(udisks::Service, {}, udisks::properties::Interface,
+                  udisks::properties::PropertiesChanged, this, SLOT(noteChange()));
+    m_bus.connect(udisks::Service, {}, udisks::object_manager::Interface,
+                  udisks::object_manager::InterfacesAdded, this, SLOT(noteChange()));
+    m_bus.connect(udisks::Service, {}, udisks::object_manager::Interface,
+                  udisks::object_manager::InterfacesRemoved, this, SLOT(noteChange()));
 }
 
 void UDisks::noteChange() {
@@ -53,7 +50,7 @@ void UDisks::noteChange() {
 
 QDBusMessage UDisks::call(const QString& object, const QString& interface, const QString& method,
                           const QVariantList& arguments) {
-    auto message = QDBusMessage::createMethodCall(Service, object, interface, method);
+    auto message = QDBusMessage::createMethodCall(udisks::Service, object, interface, method);
     message.setArguments(arguments);
     QDBusPendingCallWatcher pending(m_bus.asyncCall(message, WithoutLimit));
     if (!pending.isFinished()) {
@@ -72,10 +69,10 @@ QDBusMessage UDisks::call(const QString& object, const QString& interface, const
 }
 
 std::optional<UDisksState> UDisks::state() {
-    const auto reply =
-        call(ManagerObject, ObjectManagerInterface, QStringLiteral("GetManagedObjects"), {});
+    const auto reply = call(udisks::ManagerObject, udisks::object_manager::Interface,
+                            udisks::object_manager::GetManagedObjects, {});
     if (reply.type() != QDBusMessage::ReplyMessage ||
-        reply.signature() != QLatin1String("a{oa{sa{sv}}}")) {
+        reply.signature() != udisks::object_manager::ReplySignature) {
         return std::nullopt;
     }
     return UDisksState::decode(qdbus_cast<ManagedObjects>(reply.arguments().constFirst()));

@@ -1,5 +1,7 @@
 #include "platform/linux/UDisksState.h"
 
+#include "platform/linux/UDisksNames.h"
+
 #include <QDBusArgument>
 
 #include <algorithm>
@@ -7,12 +9,6 @@
 namespace zelto::linux_platform {
 
 namespace {
-
-const QString BlockInterface = QStringLiteral("org.freedesktop.UDisks2.Block");
-const QString DriveInterface = QStringLiteral("org.freedesktop.UDisks2.Drive");
-const QString FilesystemInterface = QStringLiteral("org.freedesktop.UDisks2.Filesystem");
-const QString PartitionInterface = QStringLiteral("org.freedesktop.UDisks2.Partition");
-const QString TableInterface = QStringLiteral("org.freedesktop.UDisks2.PartitionTable");
 
 /// Paths come as bytes with a zero at their end.
 QByteArray withoutZero(const QByteArray& path) {
@@ -30,7 +26,7 @@ std::vector<QByteArray> paths(const QVariant& value) {
     }
     const auto argument = value.value<QDBusArgument>();
     // Taking an argument apart as a type that it is not is undefined.
-    if (argument.currentSignature() == QLatin1String("aay")) {
+    if (argument.currentSignature() == udisks::filesystem::MountPointsSignature) {
         for (const auto& path : qdbus_cast<QList<QByteArray>>(argument)) {
             decoded.push_back(withoutZero(path));
         }
@@ -39,20 +35,23 @@ std::vector<QByteArray> paths(const QVariant& value) {
 }
 
 UDisksBlock decodeBlock(const QString& path, const ManagedInterfaces& interfaces) {
-    const auto block = interfaces.value(BlockInterface);
+    const auto block = interfaces.value(udisks::block::Interface);
     UDisksBlock decoded;
     decoded.path = path;
-    decoded.device = withoutZero(block.value(QStringLiteral("Device")).toByteArray());
-    decoded.drive = objectPath(block.value(QStringLiteral("Drive")));
-    decoded.sizeInBytes = block.value(QStringLiteral("Size")).toULongLong();
-    decoded.idType = block.value(QStringLiteral("IdType")).toString();
-    decoded.idLabel = block.value(QStringLiteral("IdLabel")).toString();
-    decoded.idUuid = block.value(QStringLiteral("IdUUID")).toString();
-    decoded.hasFilesystem = interfaces.contains(FilesystemInterface);
-    decoded.mountPoints =
-        paths(interfaces.value(FilesystemInterface).value(QStringLiteral("MountPoints")));
-    decoded.tableType = interfaces.value(TableInterface).value(QStringLiteral("Type")).toString();
-    decoded.disk = objectPath(interfaces.value(PartitionInterface).value(QStringLiteral("Table")));
+    decoded.device = withoutZero(block.value(udisks::block::Device).toByteArray());
+    decoded.drive = objectPath(block.value(udisks::block::Drive));
+    decoded.sizeInBytes = block.value(udisks::block::Size).toULongLong();
+    decoded.idType = block.value(udisks::block::IdType).toString();
+    decoded.idLabel = block.value(udisks::block::IdLabel).toString();
+    decoded.idUuid = block.value(udisks::block::IdUuid).toString();
+    decoded.hasFilesystem = interfaces.contains(udisks::filesystem::Interface);
+    decoded.mountPoints = paths(
+        interfaces.value(udisks::filesystem::Interface).value(udisks::filesystem::MountPoints));
+    decoded.tableType = interfaces.value(udisks::partition_table::Interface)
+                            .value(udisks::partition_table::Type)
+                            .toString();
+    decoded.disk =
+        objectPath(interfaces.value(udisks::partition::Interface).value(udisks::partition::Table));
     return decoded;
 }
 
@@ -67,13 +66,13 @@ auto findIf(const Items& items, Predicate predicate) {
 UDisksState UDisksState::decode(const ManagedObjects& objects) {
     UDisksState state;
     for (auto object = objects.begin(); object != objects.end(); ++object) {
-        if (object.value().contains(BlockInterface)) {
+        if (object.value().contains(udisks::block::Interface)) {
             state.blocks.push_back(decodeBlock(object.key().path(), object.value()));
         }
-        if (object.value().contains(DriveInterface)) {
-            const auto drive = object.value().value(DriveInterface);
+        if (object.value().contains(udisks::drive::Interface)) {
+            const auto drive = object.value().value(udisks::drive::Interface);
             state.drives.push_back(
-                {object.key().path(), drive.value(QStringLiteral("MediaAvailable")).toBool()});
+                {object.key().path(), drive.value(udisks::drive::MediaAvailable).toBool()});
         }
     }
     return state;
