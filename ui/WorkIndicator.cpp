@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QEventLoop>
 #include <QTimer>
 
 namespace zelto {
@@ -78,20 +77,5 @@ BusyWindows::BusyWindows() {
 }
 
 BusyWindows::~BusyWindows() = default;
-
-void runKeepingWindowsAlive(const std::function<bool()>& done, int pollMilliseconds) {
-    const BusyWindows busy;
-    QEventLoop loop;
-    QTimer poll;
-    poll.callOnTimeout(&loop, [&] {
-        if (done()) {
-            loop.quit();
-        }
-    });
-    if (!done()) {
-        poll.start(pollMilliseconds);
-        loop.exec();
-    }
-}
 
 } // namespace zelto

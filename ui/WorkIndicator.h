@@ -2,7 +2,6 @@
 
 #include <QObject>
 
-#include <functional>
 #include <memory>
 
 namespace zelto {
@@ -23,10 +22,5 @@ private:
 
     std::unique_ptr<Filter> m_filter;
 };
-
-/// Asks `done` again and again until it says yes, at most `pollMilliseconds` apart, and keeps the
-/// windows repainting, deaf, meanwhile. Blocks for as long as that takes. Timers and sockets of
-/// the program run in between, so whoever calls this holds their events back.
-void runKeepingWindowsAlive(const std::function<bool()>& done, int pollMilliseconds = 20);
 
 } // namespace zelto

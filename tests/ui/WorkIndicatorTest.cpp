@@ -15,14 +15,6 @@
 namespace zelto {
 namespace {
 
-class CountsPaints : public QWidget {
-public:
-    int paints = 0;
-
-protected:
-    void paintEvent(QPaintEvent*) override { ++paints; }
-};
-
 class WorkIndicatorTest : public ::testing::Test {
 protected:
     WorkIndicatorTest() {
@@ -83,28 +75,6 @@ TEST_F(WorkIndicatorTest, BusyPeriodsNest) {
 TEST_F(WorkIndicatorTest, ThePointerIsAsBeforeAfterwards) {
     { const BusyWindows busy; }
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(WorkIndicatorTest, WindowsGoOnRepaintingWhileWorkIsUnderWay) {
-    CountsPaints picture;
-    picture.show();
-    QApplication::processEvents();
-    const int before = picture.paints;
-    int asked = 0;
-    runKeepingWindowsAlive(
-        [&] {
-            picture.update();
-            return ++asked == 50;
-        },
-        0);
-    EXPECT_EQ(asked, 50);
-    EXPECT_GT(picture.paints, before);
-}
-
-TEST_F(WorkIndicatorTest, WorkThatIsDoneAtOnceIsAskedForOnce) {
-    int asked = 0;
-    runKeepingWindowsAlive([&] { return ++asked == 1; });
-    EXPECT_EQ(asked, 1);
 }
 
 } // namespace
