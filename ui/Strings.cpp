@@ -26,20 +26,4 @@ QString localized(const char* key) {
     return qtTrId(key);
 }
 
-QString filled(const QString& format, const QStringList& arguments) {
-    QString result;
-    result.reserve(format.size());
-    for (qsizetype at = 0; at < format.size(); ++at) {
-        const bool isPlaceholder = format[at] == u'%' && at + 1 < format.size();
-        const int number = isPlaceholder ? format[at + 1].unicode() - u'0' : 0;
-        if (number >= 1 && number <= 9 && number <= arguments.size()) {
-            result += arguments[number - 1];
-            ++at;
-        } else {
-            result += format[at];
-        }
-    }
-    return result;
-}
-
 } // namespace zelto

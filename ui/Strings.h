@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 #include <type_traits>
 
@@ -13,10 +12,6 @@ bool installStrings();
 
 /// The text of the key. A key without a text is shown as it is.
 [[nodiscard]] QString localized(const char* key);
-
-/// `format` with %1 to %9 replaced by the arguments, in one pass: an argument that holds "%2" is
-/// left as it is. A placeholder without an argument stays.
-[[nodiscard]] QString filled(const QString& format, const QStringList& arguments);
 
 namespace detail {
 
@@ -31,10 +26,11 @@ requires std::is_integral_v<Integer> QString argumentText(Integer number) {
 
 } // namespace detail
 
-/// The text of the key with its placeholders filled by QStrings and integers, see filled().
+/// The text of the key with %1, %2 and so on replaced by QStrings and integers, all at once: an
+/// argument that holds "%2" is left as it is.
 template <typename First, typename... Others>
 [[nodiscard]] QString localized(const char* key, const First& first, const Others&... others) {
-    return filled(localized(key), {detail::argumentText(first), detail::argumentText(others)...});
+    return localized(key).arg(detail::argumentText(first), detail::argumentText(others)...);
 }
 
 } // namespace zelto

@@ -128,18 +128,6 @@ TEST_F(StringsTest, APathThatLooksLikeAPlaceholderIsNotFilled) {
     EXPECT_TRUE(text.contains(QStringLiteral("/b")));
 }
 
-TEST(FilledTest, ReplacesEachPlaceholderOnce) {
-    EXPECT_EQ(filled(QStringLiteral("%2-%1-%2"), {QStringLiteral("%2"), QStringLiteral("b")}),
-              QStringLiteral("b-%2-b"));
-}
-
-TEST(FilledTest, LeavesWhatIsNoPlaceholder) {
-    EXPECT_EQ(filled(QStringLiteral("100% of %1, %9, %0, %"), {QStringLiteral("x")}),
-              QStringLiteral("100% of x, %9, %0, %"));
-    EXPECT_EQ(filled(QString(), {QStringLiteral("x")}), QString());
-    EXPECT_EQ(filled(QStringLiteral("%1"), {}), QStringLiteral("%1"));
-}
-
 TEST_F(StringsTest, NumbersOfEveryWidthAreFilledIn) {
     EXPECT_TRUE(localized("IDS_TOTAL_CAPACITY", 18446744073709551615ULL)
                     .contains(QStringLiteral("18446744073709551615")));
