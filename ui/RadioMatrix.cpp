@@ -1,60 +1,42 @@
 #include "ui/RadioMatrix.h"
 
+#include <QButtonGroup>
 #include <QChildEvent>
 #include <QRadioButton>
 
 namespace zelto {
-namespace {
 
-constexpr auto TagProperty = "tag";
-
-} // namespace
+RadioMatrix::RadioMatrix(QWidget* parent) : QWidget(parent) {
+    connect(m_cells, &QButtonGroup::idClicked, this, &RadioMatrix::cellActivated);
+}
 
 int RadioMatrix::selectedTag() const {
-    for (const QRadioButton* cell : cells()) {
-        if (cell->isChecked()) {
-            return cell->property(TagProperty).toInt();
-        }
-    }
-    return -1;
+    return cells().checkedId();
 }
 
 void RadioMatrix::selectCellWithTag(int tag) {
-    for (QRadioButton* cell : cells()) {
-        if (cell->property(TagProperty).toInt() == tag) {
-            cell->setChecked(true);
-        }
+    if (QAbstractButton* cell = cells().button(tag)) {
+        cell->setChecked(true);
     }
 }
 
-// A child that is being added is not yet the class it will be, so its signals can't be connected
-// here. It becomes a cell when the form gives it its tag.
+// A form adds a button first and gives it its tag later, but before the button is polished; and
+// only a button that has been polished can be clicked.
 void RadioMatrix::childEvent(QChildEvent* event) {
-    if (event->added()) {
-        event->child()->installEventFilter(this);
+    if (event->polished()) {
+        (void)cells();
     }
     QWidget::childEvent(event);
 }
 
-bool RadioMatrix::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::DynamicPropertyChange) {
-        if (auto* cell = qobject_cast<QRadioButton*>(watched)) {
-            cell->removeEventFilter(this);
-            connect(cell, &QRadioButton::clicked, this,
-                    [this, cell] { Q_EMIT cellActivated(cell->property(TagProperty).toInt()); });
+QButtonGroup& RadioMatrix::cells() const {
+    for (QRadioButton* button : findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
+        const QVariant tag = button->property("tag");
+        if (tag.isValid() && button->group() == nullptr) {
+            m_cells->addButton(button, tag.toInt());
         }
     }
-    return QWidget::eventFilter(watched, event);
-}
-
-QList<QRadioButton*> RadioMatrix::cells() const {
-    QList<QRadioButton*> tagged;
-    for (QRadioButton* cell : findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
-        if (cell->property(TagProperty).isValid()) {
-            tagged.append(cell);
-        }
-    }
-    return tagged;
+    return *m_cells;
 }
 
 } // namespace zelto

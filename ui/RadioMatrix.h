@@ -1,8 +1,7 @@
 #pragma once
 
+#include <QButtonGroup>
 #include <QWidget>
-
-class QRadioButton;
 
 namespace zelto {
 
@@ -12,7 +11,7 @@ class RadioMatrix : public QWidget {
     Q_OBJECT
 
 public:
-    explicit RadioMatrix(QWidget* parent = nullptr) : QWidget(parent) {}
+    explicit RadioMatrix(QWidget* parent = nullptr);
 
     /// The tag of the selected cell; -1 while none is selected.
     [[nodiscard]] int selectedTag() const;
@@ -25,10 +24,12 @@ Q_SIGNALS:
 
 protected:
     void childEvent(QChildEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    [[nodiscard]] QList<QRadioButton*> cells() const;
+    /// All buttons that have a tag by now.
+    [[nodiscard]] QButtonGroup& cells() const;
+
+    QButtonGroup* m_cells = new QButtonGroup(this);
 };
 
 } // namespace zelto
