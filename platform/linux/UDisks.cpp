@@ -23,8 +23,9 @@ constexpr int WithoutLimit = std::numeric_limits<int>::max();
 /// A change is normally announced; this is for the announcement that got lost.
 constexpr std::chrono::milliseconds AskAgainAfter{1000};
 
-/// What the service says goes to the system's log: a window has no words for it.
-Q_LOGGING_CATEGORY(log, "zelto.disks")
+/// What the service refuses and why: a window has no words for it. Nothing of it is a secret, yet
+/// it stays unsaid until somebody asks, with QT_LOGGING_RULES="zelto.disks=true".
+Q_LOGGING_CATEGORY(diagnostics, "zelto.disks", QtCriticalMsg)
 
 } // namespace
 
@@ -62,8 +63,9 @@ QDBusMessage UDisks::call(const QString& object, const QString& interface, const
     pending.waitForFinished();
     auto reply = pending.reply();
     if (reply.type() == QDBusMessage::ErrorMessage) {
-        qCWarning(log, "%ls of %ls: %ls: %ls", qUtf16Printable(method), qUtf16Printable(object),
-                  qUtf16Printable(reply.errorName()), qUtf16Printable(reply.errorMessage()));
+        qCWarning(diagnostics, "%ls of %ls: %ls: %ls", qUtf16Printable(method),
+                  qUtf16Printable(object), qUtf16Printable(reply.errorName()),
+                  qUtf16Printable(reply.errorMessage()));
     }
     return reply;
 }

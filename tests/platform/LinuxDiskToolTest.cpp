@@ -3,6 +3,7 @@
 #include "tests/platform/FakeUDisks.h"
 
 #include <QDBusArgument>
+#include <QLoggingCategory>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,6 +16,30 @@ using tests::FakeUDisks;
 
 constexpr auto Disk = FakeUDisks::DiskPath;
 constexpr auto Partition = FakeUDisks::PartitionPath;
+
+/// What Qt's log is given while one lives, with rules as in QT_LOGGING_RULES.
+class CaughtLog {
+public:
+    explicit CaughtLog(const QString& rules) : m_before(qInstallMessageHandler(note)) {
+        lines.clear();
+        QLoggingCategory::setFilterRules(rules);
+    }
+    CaughtLog(const CaughtLog&) = delete;
+    CaughtLog& operator=(const CaughtLog&) = delete;
+    ~CaughtLog() {
+        QLoggingCategory::setFilterRules({});
+        qInstallMessageHandler(m_before);
+    }
+
+    static inline std::vector<std::string> lines;
+
+private:
+    static void note(QtMsgType, const QMessageLogContext& context, const QString& text) {
+        lines.push_back(std::string(context.category) + ": " + text.toStdString());
+    }
+
+    QtMessageHandler m_before;
+};
 
 class DiskToolTest : public ::testing::Test {
 protected:
@@ -312,6 +337,24 @@ TEST_F(DiskToolTest, ShowsThatWorkIsUnderWayOncePerRun) {
     udisks.addPartition({"/media/a/OLD"});
     EXPECT_TRUE(shower.eraseDisk("sdb", "ZELTO TOOL"));
     EXPECT_EQ(shown, 1);
+}
+
+TEST_F(DiskToolTest, KeepsToItselfWhatTheServiceRefuses) {
+    const CaughtLog log({});
+    udisks.addPartition({"/media/a/X"});
+    udisks.refuse("Unmount", "DeviceBusy", "target is busy");
+    EXPECT_FALSE(tool.umount("sdb1"));
+    EXPECT_THAT(log.lines, ::testing::IsEmpty());
+}
+
+TEST_F(DiskToolTest, SaysWhatTheServiceRefusesWhenAsked) {
+    const CaughtLog log("zelto.disks=true");
+    udisks.addPartition({"/media/a/X"});
+    udisks.refuse("Unmount", "DeviceBusy", "target is busy");
+    EXPECT_FALSE(tool.umount("sdb1"));
+    EXPECT_THAT(log.lines,
+                ElementsAre("zelto.disks: Unmount of /org/freedesktop/UDisks2/block_devices/sdb1: "
+                            "org.freedesktop.UDisks2.Error.DeviceBusy: target is busy"));
 }
 
 TEST_F(DiskToolTest, NamesPartitionsAsTheKernelDoes) {

@@ -46,7 +46,8 @@ class Program:
         self._process = self._desktop.start(
             [path], stdout=log, stderr=log,
             environment={"QT_PLUGIN_PATH": DRIVER_PLUGINS,
-                         "QT_QPA_GENERIC_PLUGINS": f"zeltotestdriver:{self._sockets}"})
+                         "QT_QPA_GENERIC_PLUGINS": f"zeltotestdriver:{self._sockets}",
+                         "QT_LOGGING_RULES": "zelto.disks=true"})
         self.connect(self._process.pid)
 
     def connect(self, pid):
