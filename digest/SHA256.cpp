@@ -162,4 +162,13 @@ void SHA256::Get(std::uint8_t* out) {
     std::ranges::copy(m_bDigest, out);
 }
 
+std::array<std::uint8_t, 32> digestOf(std::span<const std::uint8_t> message) {
+    std::array<std::uint8_t, 32> digest{};
+    SHA256 sha;
+    sha.Init();
+    sha.Input(message.data(), static_cast<std::uint32_t>(message.size()));
+    sha.Get(digest.data());
+    return digest;
+}
+
 } // namespace zelto

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 
 namespace zelto {
 
@@ -46,5 +47,8 @@ private:
     /// In bits.
     std::uint64_t m_nMessageLength = 0;
 };
+
+/// The digest of one whole message, most significant byte first.
+[[nodiscard]] std::array<std::uint8_t, 32> digestOf(std::span<const std::uint8_t> message);
 
 } // namespace zelto

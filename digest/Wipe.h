@@ -45,4 +45,20 @@ void wipeObject(Record& record) noexcept {
     detail::zeroMemory(std::addressof(record), sizeof record);
 }
 
+/// A record that is wiped when it goes, however its scope ends. Made in place: what initialises it
+/// leaves no copy behind.
+///
+///     Wiped<AuthInfo> info{{.kind = AuthInfo::Set}};
+template <WipeableRecord Record>
+struct Wiped {
+    Record value{};
+
+    ~Wiped() { wipeObject(value); }
+
+    [[nodiscard]] Record& operator*() { return value; }
+    [[nodiscard]] const Record& operator*() const { return value; }
+    [[nodiscard]] Record* operator->() { return std::addressof(value); }
+    [[nodiscard]] const Record* operator->() const { return std::addressof(value); }
+};
+
 } // namespace zelto

@@ -185,5 +185,11 @@ TEST(SHA256, LeavesNothingBehindWhenItGoes) {
     EXPECT_EQ(rest, 0);
 }
 
+TEST(SHA256, DigestsAWholeMessageAtOnce) {
+    const std::array<std::uint8_t, 3> abc{'a', 'b', 'c'};
+    EXPECT_EQ(toHex(zelto::digestOf(abc)), AbcDigest);
+    EXPECT_EQ(toHex(zelto::digestOf({})), EmptyDigest);
+}
+
 } // namespace
 } // namespace zelto

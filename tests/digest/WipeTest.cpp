@@ -5,12 +5,20 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <memory>
+#include <new>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace zelto {
 namespace {
+
+struct Secret {
+    std::uint8_t kind = 7;
+    std::array<std::uint8_t, 3> digest{1, 2, 3};
+};
 
 TEST(Wipe, ZeroesASpanOfBytesAndNothingBesideIt) {
     std::array<std::uint8_t, 6> bytes{1, 2, 3, 4, 5, 6};
@@ -42,13 +50,32 @@ TEST(Wipe, TakesAnEmptyRange) {
 }
 
 TEST(Wipe, ZeroesAWholeRecord) {
-    struct Record {
-        std::uint8_t kind = 7;
-        std::array<std::uint8_t, 3> digest{1, 2, 3};
-    } record;
+    Secret record;
     wipeObject(record);
     EXPECT_EQ(record.kind, 0);
     EXPECT_TRUE(std::ranges::all_of(record.digest, [](auto byte) { return byte == 0; }));
+}
+
+
+TEST(Wipe, AWipedRecordIsZeroOnceItHasGone) {
+    alignas(Wiped<Secret>) std::array<std::uint8_t, sizeof(Wiped<Secret>)> storage{};
+    auto* const secret = new (storage.data()) Wiped<Secret>{{.kind = 9}};
+    EXPECT_EQ((*secret)->kind, 9);
+    EXPECT_EQ((*secret)->digest[2], 3);
+    secret->~Wiped();
+    EXPECT_EQ(storage, decltype(storage){});
+}
+
+TEST(Wipe, ARecordIsWipedWhenAnExceptionEndsItsScope) {
+    alignas(Wiped<Secret>) std::array<std::uint8_t, sizeof(Wiped<Secret>)> storage{};
+    const auto destroy = [](Wiped<Secret>* secret) { secret->~Wiped(); };
+    try {
+        const std::unique_ptr<Wiped<Secret>, decltype(destroy)> secret(
+            new (storage.data()) Wiped<Secret>{}, destroy);
+        throw std::runtime_error("refused");
+    } catch (const std::runtime_error&) {
+        EXPECT_EQ(storage, decltype(storage){});
+    }
 }
 
 } // namespace
