@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/ControllerState.h"
 #include "app/EventGate.h"
-#include "device/AttachedDrives.h"
 #include "device/DeviceStatus.h"
 #include "device/Discovery.h"
 #include "device/PasswordRecords.h"
@@ -10,8 +10,8 @@
 #include "platform/Platform.h"
 #include "settings/AreaPacking.h"
 #include "settings/AreaSettings.h"
+#include "settings/MainSettingsView.h"
 #include "settings/OkButtonRules.h"
-#include "settings/SettingsModel.h"
 #include "ui/Forms.h"
 
 #include <QString>
@@ -28,13 +28,13 @@ namespace zelto {
 class AreaTableModel;
 
 /// The one controller: it owns the windows and all state, and every button, tick and device event
-/// ends up here. Each section below is one source file, in the folder of its topic; a section's
-/// fields come first, then what the windows call, what the world calls, and what it does itself.
+/// ends up here. Each section below is one source file, in the folder of its topic: what the
+/// windows call, what the world calls, and what it does itself. Its state is its base.
 ///
 /// Everything runs on the main thread. Operations that send commands to the drive block until the
 /// drive has answered (5 s at the most for each command); those that say so show an alert, run the
 /// disk tool or pause, and block for as long as that takes, with the gate closed to other events.
-class AppDelegate {
+class AppDelegate : public ControllerState {
 public:
     enum class TerminateReply { TerminateCancel, TerminateNow };
 
@@ -105,9 +105,6 @@ public:
 
     // --- Log-in: session/AppDelegate_Authentication.cpp ---------------------------------------
 
-    /// Whether the timer fills in the remaining time on the log-in window.
-    bool DisplayRemainingTimeAuthenticateWindow = false;
-
     void DisplayAuthenticateWindow(bool firstStep, const QString& message);
     /// The one text-change handler of all windows, routed by TextInputMode.
     void controlTextDidChange();
@@ -134,9 +131,6 @@ public:
     void Logout();
 
     // --- Timer and clocks: session/AppDelegate_Timer.cpp --------------------------------------
-
-    /// The drive has said during this run that its clock is not valid.
-    bool TimeStatusInvalid = false;
 
     /// The tick, once a second.
     void TimerHandler();
@@ -221,16 +215,8 @@ public:
     void MainSettingsAutoClearEraseAction();
     void MainSettingsClearAllAction();
 
-    // --- State shared by several topics -------------------------------------------------------
+    // --- The windows: their controls are their own members, under the controls' given names ---
 
-    AttachedDrives Drives;
-    SettingsModel Settings;
-    ChangedFlags Changed;
-    SetupProgress Setup;
-    /// Which window the text-change handler serves; see TextInputMode in ui/Forms.h.
-    std::uint8_t TextInputMode = 0;
-
-    // The windows. Their controls are their own members, under the controls' given names.
     Form<Ui::SelectZeltoWindow> SelectZeltoWindow;
     Form<Ui::AuthenticateWindow> AuthenticateWindow;
     Form<Ui::UnlockedWindow> UnlockedWindow;
@@ -254,7 +240,6 @@ private:
     // app/AppDelegate_Startup.cpp
     void relocate(const std::filesystem::path& bundle);
     void startSession();
-    void resetFields();
     /// One request to quit: granted or refused by applicationShouldTerminate.
     void terminate();
 
@@ -263,6 +248,10 @@ private:
 
     // session/AppDelegate_Messages.cpp: every message and every pause goes through these, so
     // that the gate is closed while the message is up or the pause lasts.
+    /// True when the command failed, which ErrorMessageBox has reported then.
+    [[nodiscard]] bool reportIfFailed(IOReturn result);
+    /// Reads the sense data of the drive's latest command and shows them in an alert.
+    void reportSense();
     /// An alert with the application's title and the one button "OK".
     void ShowMessage(const QString& message, const QString& detail = {});
     /// A confirmation that Return and Escape cancel; true when the user pressed OK.
@@ -280,21 +269,16 @@ private:
     void reportRefusedPassword();
 
     // session/AppDelegate_Timer.cpp
-    void blinkSetupText();
     void tickSetup();
-    void formatAndCopy();
+    void formatAndCopy(const SetupProgress& before);
+    void showSetup(const SetupView& view);
     void showDriveTime(const TimeStatus& status);
 
-    // settings/AppDelegate_Setup.cpp: the parts of a commit. All but sendAuthInfo report failure.
-    enum class AuthInfoUse { FirstSetup, Change };
+    // settings/AppDelegate_Setup.cpp: the parts of a commit. They report failure.
     [[nodiscard]] bool sendAreaInfos();
     [[nodiscard]] bool sendEncryptionInfo();
     [[nodiscard]] bool sendFirstPasswords();
-    /// Wipes the record, whatever the drive answers.
-    [[nodiscard]] IOReturn sendAuthInfo(AuthInfo& info, AuthInfoUse use);
     [[nodiscard]] bool sendPeriods();
-    /// True for success; any other result is reported first.
-    [[nodiscard]] bool Succeeded(IOReturn result);
     void beginSetupProgress();
 
     // settings/AppDelegate_Commit.cpp
@@ -306,13 +290,11 @@ private:
 
     // settings/AppDelegate_MainSettings.cpp: the parts of opening the window, and what it holds.
     [[nodiscard]] bool readAreasForSettings();
-    void switchSecurityControlsOff();
-    void offerSecurityControls();
+    void clearMainSettingsWindow();
+    [[nodiscard]] bool showSecurityOf(SecurityOccasion occasion, const DeviceStatus& status);
     [[nodiscard]] bool showSecurityOfDrive(const DeviceStatus& status);
-    void showPeriods(const TimeStatus& time);
-    [[nodiscard]] bool usesAutomaticKey() const;
-    [[nodiscard]] AutoClearEntry shownAutoClearEntry() const;
-    [[nodiscard]] AutoLogOffEntry shownAutoLogOffEntry() const;
+    void showSecurity(const SecurityView& view);
+    [[nodiscard]] SecurityView shownSecurity() const;
     [[nodiscard]] MainSettingsEntries mainSettingsEntries() const;
 
     // settings/AppDelegate_Areas.cpp

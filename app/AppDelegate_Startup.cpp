@@ -35,7 +35,8 @@ void AppDelegate::relocate(const std::filesystem::path& bundle) {
 }
 
 void AppDelegate::startSession() {
-    resetFields();
+    static_cast<ControllerState&>(*this) = {};
+    g_BsdNameList.clear();
     m_platform.application.scheduledTimer(
         1s, [this] { m_gate.deliver(EventGate::Event::Tick, [this] { TimerHandler(); }); });
     // A computer without USB is a computer without drives; the selection window says so.
@@ -49,17 +50,6 @@ void AppDelegate::startSession() {
     }
     DisplaySelectZeltoWindow();
     SelectZeltoWindow.centreAndMakeKeyAndOrderFront();
-}
-
-void AppDelegate::resetFields() {
-    Drives = {};
-    g_BsdNameList.clear();
-    TextInputMode = 0;
-    Settings = {};
-    Changed = {};
-    Setup = {};
-    TimeStatusInvalid = false;
-    DisplayRemainingTimeAuthenticateWindow = false;
 }
 
 AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() const {

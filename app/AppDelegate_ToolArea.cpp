@@ -54,8 +54,7 @@ void AppDelegate::copyFilesBesideBundle(const std::filesystem::path& volume) {
 
 bool AppDelegate::GetSecureAreaDiskNumber(std::uint32_t& diskNumber) {
     const auto areas = readAreaInfos(Device());
-    if (areas.failed()) {
-        ErrorMessageBox(areas.result);
+    if (reportIfFailed(areas.result)) {
         return false;
     }
     Settings.AreaInfos = areas.record;

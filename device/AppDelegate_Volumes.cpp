@@ -38,17 +38,16 @@ bool AppDelegate::UnmountVolume(const std::vector<std::string>& bsdNames, std::u
 }
 
 bool AppDelegate::SpinUpDrive() {
-    constexpr int Tries = 10;
-    for (int triesLeft = Tries;;) {
+    constexpr int Attempts = 10;
+    for (int attemptsLeft = Attempts;;) {
         const auto status = readDeviceStatus(Device(), StatusRequest::WithReadiness);
-        if (status.failed()) {
-            ErrorMessageBox(status.result);
+        if (reportIfFailed(status.result)) {
             return false;
         }
         if (status.record.isReady()) {
             return true;
         }
-        if (--triesLeft == 0) {
+        if (--attemptsLeft == 0) {
             ShowMessage(localized("IDS_ERR_SPINUP"));
             TerminateApplication();
             return false;

@@ -3,11 +3,6 @@
 #include "device/ZELTOctrl.h"
 
 namespace zelto {
-namespace {
-
-constexpr std::uint8_t ShowRemainingTimeBit = 0x01;
-
-} // namespace
 
 DeviceRead<DeviceStatus> readDeviceStatus(UsbDeviceInterface& device, StatusRequest request) {
     DeviceStatus::Bytes bytes{};
@@ -32,13 +27,7 @@ bool readShowRemainingTime(UsbDeviceInterface& device) {
     std::uint8_t byte = 0;
     const IOReturn result =
         TKVR21_ZELTO_ReadHintData(device, HintAddress::ShowRemainingTime, &byte, sizeof byte, 0);
-    return result == kIOReturnSuccess && (byte & ShowRemainingTimeBit) != 0;
-}
-
-IOReturn writeShowRemainingTime(UsbDeviceInterface& device, bool show) {
-    const std::uint8_t byte = show ? ShowRemainingTimeBit : 0;
-    return TKVR21_ZELTO_WriteHintData(device, HintAddress::ShowRemainingTime, &byte, sizeof byte,
-                                      true);
+    return result == kIOReturnSuccess && (byte & HintBits::ShowRemainingTime) != 0;
 }
 
 } // namespace zelto

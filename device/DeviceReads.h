@@ -30,7 +30,4 @@ enum class StatusRequest : std::uint16_t { Plain = 0, WithReadiness = 1 };
 /// The choice, kept in the drive's hint data, to show the remaining time at log-in; false when it
 /// cannot be read.
 [[nodiscard]] bool readShowRemainingTime(UsbDeviceInterface& device);
-/// Writes the whole hint byte; its other bits are cleared.
-[[nodiscard]] IOReturn writeShowRemainingTime(UsbDeviceInterface& device, bool show);
-
 } // namespace zelto

@@ -36,8 +36,8 @@ AuthPayload decodeAuthPayload(std::span<const std::uint8_t, AuthPayload::Size> b
     return payload;
 }
 
-std::array<std::uint8_t, AuthInfo::LongSize> encodeAuthInfo(const AuthInfo& info) {
-    std::array<std::uint8_t, AuthInfo::LongSize> bytes{};
+AuthInfo::Bytes encodeAuthInfo(const AuthInfo& info) {
+    AuthInfo::Bytes bytes{};
     put(bytes, AuthInfoField::Kind, info.kind);
     put(bytes, AuthInfoField::AlwaysOne, AlwaysOneValue);
     put(bytes, AuthInfoField::NumberOfTrials, info.numberOfTrials);

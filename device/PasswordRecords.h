@@ -27,6 +27,7 @@ struct AuthPayload {
 struct AuthInfo {
     static constexpr std::size_t ShortSize = 72;
     static constexpr std::size_t LongSize = 104;
+    using Bytes = std::array<std::uint8_t, LongSize>;
 
     /// Flags, byte 0. The system sends exactly these four combinations.
     enum Kind : std::uint8_t {
@@ -41,7 +42,7 @@ struct AuthInfo {
     };
 
     Kind kind = Set;
-    /// Tries allowed for the second password; 0 in records that do not set one on its own.
+    /// Trials allowed for the second password; 0 in records that do not set one on its own.
     std::uint8_t numberOfTrials = 0;
     PasswordDigest slot1{};
     PasswordDigest slot2{};
@@ -55,7 +56,7 @@ struct AuthInfo {
 
 /// The record in the form that its kind calls for, padded with zeros to the long form; the first
 /// `info.size()` bytes are the record.
-[[nodiscard]] std::array<std::uint8_t, AuthInfo::LongSize> encodeAuthInfo(const AuthInfo& info);
+[[nodiscard]] AuthInfo::Bytes encodeAuthInfo(const AuthInfo& info);
 
 /// The encryption record, sent with TKVR21_SetEncryptionInfo.
 struct EncryptionInfo {

@@ -22,9 +22,14 @@ inline constexpr std::uint16_t Product = 0x0135;
 } // namespace UsbIdentity
 
 namespace HintAddress {
-/// Bit 0 of this byte: show the remaining time on the log-in window.
+/// The byte of the hint data that this system uses.
 inline constexpr std::uint16_t ShowRemainingTime = 0x0FFF;
 } // namespace HintAddress
+
+namespace HintBits {
+/// Of that byte: show the remaining time on the log-in window.
+inline constexpr std::uint8_t ShowRemainingTime = 0x01;
+} // namespace HintBits
 
 /// Reads a DeviceStatus. `value` 1 asks for the readiness code, 0 does not.
 [[nodiscard]] IOReturn TKVR21_GetDeviceStatus(UsbDeviceInterface& device, std::uint8_t* buffer,

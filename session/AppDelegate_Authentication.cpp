@@ -1,7 +1,7 @@
 #include "app/AppDelegate.h"
 #include "device/Assertion.h"
 #include "device/DeviceReads.h"
-#include "device/ZELTOctrl.h"
+#include "device/DeviceWrites.h"
 #include "digest/SHA256.h"
 #include "digest/Wipe.h"
 #include "settings/PasswordRules.h"
@@ -68,12 +68,10 @@ void AppDelegate::AuthenticateTextDidChange() {
 
 void AppDelegate::AuthenticateSubmitAction() {
     auto& form = AuthenticateWindow;
-    AuthPayload payload{.firstStep = TextInputMode == TextInputModes::AuthenticateFirstStep};
-    SetPasswordData(form.AuthenticateTextField->text(), payload.digest);
-    AuthPayload::Bytes bytes = encodeAuthPayload(payload);
-    const IOReturn result = TKVR21_Authenticate(Device(), bytes.data(), 0);
-    wipe(payload.digest);
-    wipe(bytes);
+    Wiped<AuthPayload> payload{
+        {.firstStep = TextInputMode == TextInputModes::AuthenticateFirstStep}};
+    SetPasswordData(form.AuthenticateTextField->text(), payload->digest);
+    const IOReturn result = writeAuthPayload(Device(), *payload);
 
     if (result == kIOReturnNoDevice) {
         ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
@@ -93,12 +91,11 @@ void AppDelegate::AuthenticateSubmitAction() {
     }
 }
 
-/// The pauses pace repeated wrong tries.
+/// The pauses pace repeated wrong passwords.
 void AppDelegate::reportRefusedPassword() {
     Pause(1s);
     const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
-    if (status.failed()) {
-        ErrorMessageBox(status.result);
+    if (reportIfFailed(status.result)) {
         return;
     }
     if (saysAuthenticationFailed(status.record.sense)) {
@@ -119,21 +116,17 @@ void AppDelegate::AuthenticateCancelAction() {
 
 void AppDelegate::SetPasswordData(const QString& password, PasswordDigest& digest) const {
     const auto length = static_cast<std::size_t>(password.size());
-    std::array<std::uint8_t, PasswordLimits::LongestPassword> characters{};
-    if (length > characters.size()) {
+    Wiped<std::array<std::uint8_t, PasswordLimits::LongestPassword>> characters;
+    if (length > characters->size()) {
         failAssertion("[passwordString length]<=32");
     }
 
     QByteArray encoded = password.toUtf8();
     std::copy_n(encoded.cbegin(), std::min(length, static_cast<std::size_t>(encoded.size())),
-                characters.begin());
-    // The digest is of the characters alone, not of the padded buffer.
-    SHA256 sha;
-    sha.Init();
-    sha.Input(characters.data(), static_cast<std::uint32_t>(length));
-    sha.Get(digest.data());
-    wipe(characters);
+                characters->begin());
     wipe(encoded);
+    // The digest is of the characters alone, not of the padded buffer.
+    digest = digestOf(std::span(*characters).first(length));
 }
 
 } // namespace zelto

@@ -75,8 +75,7 @@ void AppDelegate::offerToSetClock() {
     if (answer != AlertButton::Default) {
         return;
     }
-    if (const IOReturn result = SetCurrentTime(); result != kIOReturnSuccess) {
-        ErrorMessageBox(result);
+    if (reportIfFailed(SetCurrentTime())) {
         return;
     }
     ShowMessage(localized("IDS_SET_CURRENT_YIME"));

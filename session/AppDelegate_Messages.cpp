@@ -14,6 +14,18 @@ void AppDelegate::ErrorMessageBox(IOReturn result) {
         ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
         return;
     }
+    reportSense();
+}
+
+bool AppDelegate::reportIfFailed(IOReturn result) {
+    if (result == kIOReturnSuccess) {
+        return false;
+    }
+    ErrorMessageBox(result);
+    return true;
+}
+
+void AppDelegate::reportSense() {
     const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
     if (status.failed()) {
         ShowMessage(localized("IDS_COMMAND_FAIL"));

@@ -1,17 +1,33 @@
 #include "app/AppDelegate.h"
 #include "device/DeviceReads.h"
+#include "device/DeviceWrites.h"
 #include "device/IORegistry.h"
-#include "device/ZELTOctrl.h"
 #include "platform/Clock.h"
 #include "session/ClockText.h"
 #include "session/RemainingTime.h"
-#include "settings/SetupSteps.h"
+#include "settings/SetupProgress.h"
 #include "ui/Strings.h"
 
+#include <utility>
+
 namespace zelto {
+namespace {
+
+QString setupText(SetupView::Text text) {
+    switch (text) {
+    case SetupView::Text::Blank:
+        return {};
+    case SetupView::Text::NowSetting:
+        return localized("IDS_NOW_SETTING");
+    case SetupView::Text::Complete:
+        return localized("IDS_SETTING_COMPLETE");
+    }
+    return {};
+}
+
+} // namespace
 
 void AppDelegate::TimerHandler() {
-    blinkSetupText();
     tickSetup();
     if (m_gate.isClosedForGood()) {
         return; // A set-up that has given up sends nothing more on its way out.
@@ -38,14 +54,10 @@ void AppDelegate::TimerHandler() {
     }
 }
 
-void AppDelegate::blinkSetupText() {
-    if (Setup.isUnderWay()) {
-        ZeltoSettingWindow.ZeltoSettingText->setText(
-            showsProgressText(Setup) ? localized("IDS_NOW_SETTING") : QString());
-    }
-}
-
 void AppDelegate::tickSetup() {
+    if (!Setup.isUnderWay()) {
+        return;
+    }
     SetupObservation observation{.driveStillAway = Drives.WaitReconnectZelto};
     if (Setup.InitialSettingState == SetupProgress::WaitingForToolVolume) {
         GetBsdNameList(Setup.ReservedAreaDiskNumber);
@@ -54,42 +66,48 @@ void AppDelegate::tickSetup() {
     const SetupStep step = advanceSetup(Setup, observation);
     switch (step.event) {
     case SetupEvent::None:
-        if (Setup.isUnderWay()) {
-            ZeltoSettingWindow.SetupStepsView->setCurrentStep(step.progress.InitialSettingState);
-        }
+        showSetup(setupUnderWay(Setup, step.progress));
         Setup = step.progress;
         break;
     case SetupEvent::NotFound:
-        ZeltoSettingWindow.SetupStepsView->setFailed();
+        showSetup(setupFailed(Setup));
         ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
         Setup = step.progress;
         TerminateApplication();
         break;
     case SetupEvent::FormatAndCopy:
-        Setup = step.progress;
-        formatAndCopy();
+        showSetup(setupUnderWay(Setup, Setup));
+        formatAndCopy(std::exchange(Setup, step.progress));
         break;
     }
 }
 
-void AppDelegate::formatAndCopy() {
+void AppDelegate::formatAndCopy(const SetupProgress& before) {
     // Since the volume was seen, the drive may have gone and another disk may have got its name.
     GetBsdNameList(Setup.ReservedAreaDiskNumber);
     const std::string disk = g_BsdNameList.empty() ? std::string() : g_BsdNameList.front();
     if (disk.empty() || !FormatDrive(disk)) {
-        ZeltoSettingWindow.SetupStepsView->setFailed();
+        showSetup(setupFailed(before));
         ShowMessage(localized("IDS_ERR_FORMAT"));
         TerminateApplication();
         return;
     }
     if (!CopyToolFile(disk)) {
-        ZeltoSettingWindow.SetupStepsView->setFailed();
+        showSetup(setupFailed(before));
         TerminateApplication();
         return;
     }
-    ZeltoSettingWindow.SetupStepsView->setCurrentStep(SetupSteps::Finished);
-    ZeltoSettingWindow.ZeltoSettingText->setText(localized("IDS_SETTING_COMPLETE"));
-    ZeltoSettingWindow.ZeltoSettingOKButton->setEnabled(true);
+    showSetup(setupDone());
+}
+
+void AppDelegate::showSetup(const SetupView& view) {
+    auto& form = ZeltoSettingWindow;
+    form.ZeltoSettingText->setText(setupText(view.text));
+    form.SetupStepsView->setCurrentStep(view.step);
+    if (view.outcome == SetupView::Outcome::Failed) {
+        form.SetupStepsView->setFailed();
+    }
+    form.ZeltoSettingOKButton->setEnabled(view.outcome == SetupView::Outcome::Done);
 }
 
 void AppDelegate::showDriveTime(const TimeStatus& status) {
@@ -104,13 +122,11 @@ void AppDelegate::showDriveTime(const TimeStatus& status) {
 }
 
 IOReturn AppDelegate::SetCurrentTime() {
-    const CurrentTime::Bytes bytes = encodeCurrentTime(clockAt(m_platform.clock.now()));
-    return TKVR21_ZELTO_SetCurrentTime(Device(), bytes.data(), bytes.size());
+    return writeCurrentTime(Device(), m_platform.clock.now());
 }
 
 void AppDelegate::MainSettingsSetTimeAction() {
-    if (const IOReturn result = SetCurrentTime(); result != kIOReturnSuccess) {
-        ErrorMessageBox(result);
+    if (reportIfFailed(SetCurrentTime())) {
         return;
     }
     // A clock that was valid before is set without a word.
@@ -121,9 +137,7 @@ void AppDelegate::MainSettingsSetTimeAction() {
 }
 
 void AppDelegate::UpdateCheckBoxShowRemainingTime() {
-    auto& box = *MainSettingsWindow.ShowRemainingTimeCheckBox;
-    box.setChecked(readShowRemainingTime(Device()));
-    box.setEnabled(true);
+    showSecurity(withRemainingTime(shownSecurity(), readShowRemainingTime(Device())));
 }
 
 void AppDelegate::UpdateUserDefaultsShowRemainingTime() {

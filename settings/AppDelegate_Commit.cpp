@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "device/DeviceReads.h"
-#include "device/ZELTOctrl.h"
+#include "device/DeviceWrites.h"
+#include "digest/Wipe.h"
 #include "settings/SecretText.h"
 #include "ui/Strings.h"
 
@@ -43,13 +44,9 @@ void AppDelegate::MainSettingsEncryptionKeyManual() {
 }
 
 void AppDelegate::MainSettingsAutoClearEnabledAction() {
-    auto& form = MainSettingsWindow;
-    const bool on = form.AutoClearEnabledCheckBox->isChecked();
+    const SecurityView shown = shownSecurity();
     Changed.AutoClearSettingsChanged = true;
-    form.AutoClearDaysOrMinutesRadioButton->selectCellWithTag(static_cast<int>(PeriodUnit::Days));
-    form.AutoClearText->clear();
-    form.AutoClearDaysOrMinutesRadioButton->setEnabled(on);
-    form.AutoClearText->setEnabled(on);
+    showSecurity(withAutoClear(shown, shown.autoClear.enabled));
     UpdateMainSettingsOKButton();
 }
 
@@ -64,13 +61,9 @@ void AppDelegate::MainSettingsAutoClearMinutesAction() {
 }
 
 void AppDelegate::MainSettingsAutoLogOffEnabledAction() {
-    auto& form = MainSettingsWindow;
-    const bool on = form.AutoLogOffEnabledCheckBox->isChecked();
+    const SecurityView shown = shownSecurity();
     Changed.AutoLogOffSettingsChanged = true;
-    if (!on) {
-        form.AutoLogOffText->clear();
-    }
-    form.AutoLogOffText->setEnabled(on);
+    showSecurity(withAutoLogOff(shown, shown.autoLogOff.enabled));
     UpdateMainSettingsOKButton();
 }
 
@@ -96,11 +89,11 @@ bool AppDelegate::changePasswords() {
 
 bool AppDelegate::changeSecondPassword() {
     const auto& passwords = Settings.PasswordSettingsParameters;
-    AuthInfo info{.kind = AuthInfo::Change,
-                  .numberOfTrials = static_cast<std::uint8_t>(passwords.NumberOfTrials)};
-    SetPasswordData(passwords.strNew2ndPassword, info.slot1);
-    SetPasswordData(passwords.strCurrent2ndPassword, info.slot2);
-    const IOReturn result = sendAuthInfo(info, AuthInfoUse::Change);
+    Wiped<AuthInfo> info{{.kind = AuthInfo::Change,
+                          .numberOfTrials = static_cast<std::uint8_t>(passwords.NumberOfTrials)}};
+    SetPasswordData(passwords.strNew2ndPassword, info->slot1);
+    SetPasswordData(passwords.strCurrent2ndPassword, info->slot2);
+    const IOReturn result = writeAuthInfo(Device(), *info, AuthInfoUse::Change);
     if (result != kIOReturnSuccess) {
         reportRefusedChange(result, "IDS_ERR_CURRENT_2ND_PASSWORD_INVALID");
         return false;
@@ -110,13 +103,13 @@ bool AppDelegate::changeSecondPassword() {
 
 bool AppDelegate::changeFirstPassword(AuthInfo::Kind kind) {
     const auto& passwords = Settings.PasswordSettingsParameters;
-    AuthInfo info{.kind = kind};
-    SetPasswordData(passwords.strNew1stPassword, info.slot1);
-    SetPasswordData(passwords.strCurrent1stPassword, info.slot2);
+    Wiped<AuthInfo> info{{.kind = kind}};
+    SetPasswordData(passwords.strNew1stPassword, info->slot1);
+    SetPasswordData(passwords.strCurrent1stPassword, info->slot2);
     if (kind == AuthInfo::ChangeBoth) {
-        SetPasswordData(passwords.strNew2ndPassword, info.slot3);
+        SetPasswordData(passwords.strNew2ndPassword, info->slot3);
     }
-    const IOReturn result = sendAuthInfo(info, AuthInfoUse::Change);
+    const IOReturn result = writeAuthInfo(Device(), *info, AuthInfoUse::Change);
     if (result != kIOReturnSuccess) {
         reportRefusedChange(result, "IDS_ERR_CURRENT_1ST_PASSWORD_INVALID");
         return false;
@@ -129,9 +122,10 @@ void AppDelegate::reportRefusedChange(IOReturn result, const char* wrongPassword
     constexpr Sense WrongPassword{.key = 5, .additionalCode = 0x74, .qualifier = 0x40};
     Pause(1s);
     const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
-    if (status.failed()) {
-        ErrorMessageBox(status.result);
-    } else if (status.record.sense == WrongPassword) {
+    if (reportIfFailed(status.result)) {
+        return;
+    }
+    if (status.record.sense == WrongPassword) {
         ShowMessage(localized(wrongPasswordKey));
     } else {
         ErrorMessageBox(result);

@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "device/DeviceReads.h"
+#include "device/DeviceWrites.h"
 #include "device/IORegistry.h"
 #include "device/ZELTOctrl.h"
 #include "settings/KeyDigits.h"
@@ -55,7 +56,7 @@ void AppDelegate::MainSettingsAutoClearEraseAction() {
         return;
     }
     const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
-    if (!Succeeded(status.result)) {
+    if (reportIfFailed(status.result)) {
         return;
     }
     if (status.record.state() != SecurityState::StateUnlocking) {
@@ -64,7 +65,7 @@ void AppDelegate::MainSettingsAutoClearEraseAction() {
     }
     // The drive erases its key by itself when the period has run out: now, as good as.
     constexpr std::uint32_t OneSecond = 1;
-    if (!Succeeded(TKVR21_ZELTO_SetErasePeriod(Device(), OneSecond))) {
+    if (reportIfFailed(TKVR21_ZELTO_SetErasePeriod(Device(), OneSecond))) {
         return;
     }
     Logout();
@@ -86,7 +87,7 @@ void AppDelegate::MainSettingsClearAllAction() {
         return;
     }
     const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
-    if (!Succeeded(status.result)) {
+    if (reportIfFailed(status.result)) {
         return;
     }
     const SecurityState state = status.record.state();
@@ -101,13 +102,12 @@ void AppDelegate::MainSettingsClearAllAction() {
 
 bool AppDelegate::clearPeriodsAndHint(SecurityState state) {
     // A fully locked drive takes no periods any more.
-    if (state != SecurityState::StateFullLock &&
-        !(Succeeded(TKVR21_ZELTO_SetErasePeriod(Device(), 0)) &&
-          Succeeded(TKVR21_ZELTO_SetIdleLockPeriod(Device(), 0)))) {
+    constexpr Periods Off;
+    if (state != SecurityState::StateFullLock && reportIfFailed(writePeriods(Device(), Off))) {
         return false;
     }
     constexpr bool ShowRemainingTime = true;
-    return Succeeded(writeShowRemainingTime(Device(), ShowRemainingTime));
+    return !reportIfFailed(writeShowRemainingTime(Device(), ShowRemainingTime));
 }
 
 /// A drive that refuses only because of its security state forgets its key first.
@@ -116,25 +116,25 @@ bool AppDelegate::resetAreaInfos() {
         return true;
     }
     const auto refused = readDeviceStatus(Device(), StatusRequest::Plain);
-    if (!Succeeded(refused.result)) {
+    if (reportIfFailed(refused.result)) {
         return false;
     }
     SecurityState state = refused.record.state();
     if (!saysSecurityStateForbids(refused.record.sense) ||
         state == SecurityState::StateNoPassword) {
-        ErrorMessageBox(kIOReturnSuccess);
+        reportSense();
         return false;
     }
     if (state == SecurityState::StateUnlocking) {
-        if (!Succeeded(TKVR21_Logout(Device(), 0))) {
+        if (reportIfFailed(TKVR21_Logout(Device(), 0))) {
             return false;
         }
         state = SecurityState::StateLocked;
     }
-    if (hasKeyToClear(state) && !Succeeded(TKVR21_ClearEncryptionInfo(Device(), true, false))) {
+    if (hasKeyToClear(state) && reportIfFailed(TKVR21_ClearEncryptionInfo(Device(), true, false))) {
         return false;
     }
-    return Succeeded(TKVR21_ResetAreaInfos(Device(), true, true));
+    return !reportIfFailed(TKVR21_ResetAreaInfos(Device(), true, true));
 }
 
 } // namespace zelto

@@ -4,43 +4,33 @@
 #include "settings/SecretText.h"
 #include "ui/Strings.h"
 
+#include <utility>
+
 namespace zelto {
-namespace {
-
-constexpr int AutomaticKeyTag = 0;
-constexpr int ManualKeyTag = 1;
-
-} // namespace
-
 void AppDelegate::DisplayMainSettingsWindow(bool refresh) {
     TextInputMode = TextInputModes::MainSettings;
     if (!refresh && !readAreasForSettings()) {
         return;
     }
-    const AreaView view = buildAreaView(Settings.AreaInfos, Settings.TotalSectorCount);
-    Settings.AreaInfosViewData = view.rows;
-    if (!refresh && view.hasSecureArea) {
+    const AreaView areas = buildAreaView(Settings.AreaInfos, Settings.TotalSectorCount);
+    Settings.AreaInfosViewData = areas.rows;
+    const bool existedBefore = std::exchange(Settings.SecureAreaExist, areas.hasSecureArea);
+    if (!refresh && areas.hasSecureArea) {
         Settings.SecureAreaAlreadyExist = true;
     }
-    const bool newSecureArea =
-        !Settings.SecureAreaAlreadyExist && !Settings.SecureAreaExist && view.hasSecureArea;
-    Settings.SecureAreaExist = view.hasSecureArea;
-
     // A status that cannot be read is all zero, and leaves the controls as for an open drive.
     const DeviceStatus status = readDeviceStatus(Device(), StatusRequest::Plain).record;
     MainSettingsWindow.FreeCapacityText->setText(
-        localized("IDS_FREE_CAPACITY", mebibytesOfSectors(view.freeSectors)));
-    if (!Settings.SecureAreaExist || status.state() == SecurityState::StateFullLock) {
-        switchSecurityControlsOff();
-    } else {
-        if (newSecureArea) {
-            offerSecurityControls();
-        }
-        if (!refresh && !showSecurityOfDrive(status)) {
-            return;
-        }
+        localized("IDS_FREE_CAPACITY", mebibytesOfSectors(areas.freeSectors)));
+    const SecurityFacts facts{.isOpening = !refresh,
+                              .wasOnDrive = Settings.SecureAreaAlreadyExist,
+                              .existedBefore = existedBefore,
+                              .existsNow = Settings.SecureAreaExist,
+                              .state = status.state()};
+    if (!showSecurityOf(securityOccasion(facts), status)) {
+        return;
     }
-    reloadAreaTable(view);
+    reloadAreaTable(areas);
     if (!refresh) {
         MainSettingsWindow.centreAndMakeKeyAndOrderFront();
     }
@@ -48,19 +38,9 @@ void AppDelegate::DisplayMainSettingsWindow(bool refresh) {
 }
 
 bool AppDelegate::readAreasForSettings() {
-    auto& form = MainSettingsWindow;
-    form.ZeltoDriveComboBox->addItem(
-        QString::asprintf("Device %d", static_cast<int>(Drives.SelectedZeltoIndex)));
-    form.ZeltoDriveComboBox->setCurrentIndex(0);
-    form.ZeltoDriveComboBox->setEnabled(false);
-    form.PCTimeText->clear();
-    form.DeviceTimeText->clear();
-    form.EraseEncryptionKeyButton->setEnabled(false);
-    form.ShowRemainingTimeCheckBox->setEnabled(false);
-    form.ShowRemainingTimeCheckBox->setChecked(false);
-
+    clearMainSettingsWindow();
     const auto areas = readAreaInfos(Device());
-    if (!Succeeded(areas.result)) {
+    if (reportIfFailed(areas.result)) {
         return false;
     }
     Settings.AreaInfos = areas.record;
@@ -69,90 +49,98 @@ bool AppDelegate::readAreasForSettings() {
         Settings.InitialSetting = true;
         Settings.TotalSectorCount = sectorsBesideToolArea(Settings.TotalSectorCount);
     } else {
-        form.AreaSettingsButton->setEnabled(false);
+        MainSettingsWindow.AreaSettingsButton->setEnabled(false);
     }
     const std::uint64_t mebibytes = mebibytesOfSectors(Settings.TotalSectorCount);
-    form.TotalCapacityText->setText(localized("IDS_TOTAL_CAPACITY", mebibytes));
+    MainSettingsWindow.TotalCapacityText->setText(localized("IDS_TOTAL_CAPACITY", mebibytes));
     Settings.AreaSettingsDiskCapacity[0] = mebibytes;
     return true;
 }
 
-/// Nothing to secure, or nothing that could still be secured.
-void AppDelegate::switchSecurityControlsOff() {
+void AppDelegate::clearMainSettingsWindow() {
     auto& form = MainSettingsWindow;
-    form.PasswordSettingsButton->setEnabled(false);
-    form.EncryptionKeyAutoManualSelectRadioButton->setEnabled(false);
-    form.EncryptionKeyButton->setEnabled(false);
-    wipeText(Settings.StrEncryptionKey);
-    form.AutoClearEnabledCheckBox->setChecked(false);
-    form.AutoClearEnabledCheckBox->setEnabled(false);
-    form.AutoClearDaysOrMinutesRadioButton->selectCellWithTag(static_cast<int>(PeriodUnit::Days));
-    form.AutoClearDaysOrMinutesRadioButton->setEnabled(false);
-    form.AutoClearText->clear();
-    form.AutoClearText->setEnabled(false);
-    form.AutoLogOffEnabledCheckBox->setEnabled(false);
-    form.AutoLogOffEnabledCheckBox->setChecked(false);
-    form.AutoLogOffText->clear();
-    form.AutoLogOffText->setEnabled(false);
+    form.ZeltoDriveComboBox->addItem(
+        QString::asprintf("Device %d", static_cast<int>(Drives.SelectedZeltoIndex)));
+    form.ZeltoDriveComboBox->setCurrentIndex(0);
+    form.ZeltoDriveComboBox->setEnabled(false);
+    form.PCTimeText->clear();
+    form.DeviceTimeText->clear();
+    showSecurity(withoutDrive(shownSecurity()));
 }
 
-/// A secure area has just been laid out. One laid out again later in the same run leaves the
-/// controls as the user has set them.
-void AppDelegate::offerSecurityControls() {
-    auto& form = MainSettingsWindow;
-    form.PasswordSettingsButton->setEnabled(true);
-    form.EncryptionKeyAutoManualSelectRadioButton->setEnabled(true);
-    form.EncryptionKeyAutoManualSelectRadioButton->selectCellWithTag(AutomaticKeyTag);
-    form.EncryptionKeyButton->setEnabled(false);
-    form.AutoClearEnabledCheckBox->setChecked(false);
-    form.AutoClearEnabledCheckBox->setEnabled(true);
-    form.AutoClearDaysOrMinutesRadioButton->setEnabled(false);
-    form.AutoClearText->setEnabled(false);
-    form.AutoLogOffEnabledCheckBox->setChecked(false);
-    form.AutoLogOffEnabledCheckBox->setEnabled(true);
-    form.AutoLogOffText->setEnabled(false);
-    UpdateCheckBoxShowRemainingTime();
-}
-
-bool AppDelegate::showSecurityOfDrive(const DeviceStatus& status) {
-    auto& form = MainSettingsWindow;
-    if (Settings.SecureAreaAlreadyExist) {
-        form.PasswordSettingsButton->setEnabled(true);
-        Settings.PasswordSettingsParameters.Use1stAnd2ndPassword = status.usesSecondPassword();
-        // The key of a drive that was set up is erased or replaced as a whole, never changed.
-        form.EncryptionKeyAutoManualSelectRadioButton->setEnabled(false);
-        form.EncryptionKeyButton->setEnabled(false);
-        form.EncryptionKeyAutoManualSelectRadioButton->selectCellWithTag(
-            status.hasAutomaticKey() ? AutomaticKeyTag : ManualKeyTag);
-        form.EraseEncryptionKeyButton->setEnabled(true);
+bool AppDelegate::showSecurityOf(SecurityOccasion occasion, const DeviceStatus& status) {
+    switch (occasion) {
+    case SecurityOccasion::NothingToSecure:
+        wipeText(Settings.StrEncryptionKey);
+        showSecurity(switchedOff(shownSecurity()));
+        return true;
+    case SecurityOccasion::FirstSecureAreaLaidOut:
+        showSecurity(offeredForFirstSecureArea(shownSecurity()));
         UpdateCheckBoxShowRemainingTime();
+        return true;
+    case SecurityOccasion::SecureAreaKept:
+        return true;
+    case SecurityOccasion::SecureDriveOpened:
+        return showSecurityOfDrive(status);
     }
-    const auto time = readTimeStatus(Device());
-    if (!Succeeded(time.result)) {
-        return false;
-    }
-    showPeriods(time.record);
     return true;
 }
 
-void AppDelegate::showPeriods(const TimeStatus& time) {
+bool AppDelegate::showSecurityOfDrive(const DeviceStatus& status) {
+    Settings.PasswordSettingsParameters.Use1stAnd2ndPassword = status.usesSecondPassword();
+    showSecurity(ofSecureDrive(shownSecurity(), status));
+    UpdateCheckBoxShowRemainingTime();
+    const auto time = readTimeStatus(Device());
+    if (reportIfFailed(time.result)) {
+        return false;
+    }
+    showSecurity(withPeriods(shownSecurity(), time.record));
+    return true;
+}
+
+void AppDelegate::showSecurity(const SecurityView& view) {
     auto& form = MainSettingsWindow;
-    const AutoClearEntry autoClear = shownAutoClear(time.autoClearPeriod);
-    form.AutoClearEnabledCheckBox->setEnabled(true);
-    form.AutoClearEnabledCheckBox->setChecked(autoClear.enabled);
-    form.AutoClearDaysOrMinutesRadioButton->setEnabled(autoClear.enabled);
-    form.AutoClearText->setEnabled(autoClear.enabled);
-    if (autoClear.enabled) {
-        form.AutoClearDaysOrMinutesRadioButton->selectCellWithTag(static_cast<int>(autoClear.unit));
-        form.AutoClearText->setText(autoClear.text);
-    }
-    const AutoLogOffEntry autoLogOff = shownAutoLogOff(time.idleLockPeriod);
-    form.AutoLogOffEnabledCheckBox->setEnabled(true);
-    form.AutoLogOffEnabledCheckBox->setChecked(autoLogOff.enabled);
-    form.AutoLogOffText->setEnabled(autoLogOff.enabled);
-    if (autoLogOff.enabled) {
-        form.AutoLogOffText->setText(autoLogOff.text);
-    }
+    form.PasswordSettingsButton->setEnabled(view.passwordsEnabled);
+    form.EncryptionKeyAutoManualSelectRadioButton->setEnabled(view.keyOriginEnabled);
+    form.EncryptionKeyAutoManualSelectRadioButton->selectCellWithTag(
+        static_cast<int>(view.keyOrigin));
+    form.EncryptionKeyButton->setEnabled(view.keyEntryEnabled);
+    form.EraseEncryptionKeyButton->setEnabled(view.keyErasureEnabled);
+    form.AutoClearEnabledCheckBox->setEnabled(view.autoClearEnabled);
+    form.AutoClearEnabledCheckBox->setChecked(view.autoClear.enabled);
+    form.AutoClearDaysOrMinutesRadioButton->setEnabled(view.autoClear.enabled);
+    form.AutoClearDaysOrMinutesRadioButton->selectCellWithTag(
+        static_cast<int>(view.autoClear.unit));
+    form.AutoClearText->setEnabled(view.autoClear.enabled);
+    form.AutoClearText->setText(view.autoClear.text);
+    form.AutoLogOffEnabledCheckBox->setEnabled(view.autoLogOffEnabled);
+    form.AutoLogOffEnabledCheckBox->setChecked(view.autoLogOff.enabled);
+    form.AutoLogOffText->setEnabled(view.autoLogOff.enabled);
+    form.AutoLogOffText->setText(view.autoLogOff.text);
+    form.ShowRemainingTimeCheckBox->setEnabled(view.remainingTimeEnabled);
+    form.ShowRemainingTimeCheckBox->setChecked(view.showsRemainingTime);
+}
+
+SecurityView AppDelegate::shownSecurity() const {
+    const auto& form = MainSettingsWindow;
+    // The controls' own state: all of them are disabled while the window itself is.
+    const auto enabled = [&form](const QWidget* control) { return control->isEnabledTo(&form); };
+    return {
+        .passwordsEnabled = enabled(form.PasswordSettingsButton),
+        .keyOriginEnabled = enabled(form.EncryptionKeyAutoManualSelectRadioButton),
+        .keyOrigin = keyOriginOfTag(form.EncryptionKeyAutoManualSelectRadioButton->selectedTag()),
+        .keyEntryEnabled = enabled(form.EncryptionKeyButton),
+        .keyErasureEnabled = enabled(form.EraseEncryptionKeyButton),
+        .autoClearEnabled = enabled(form.AutoClearEnabledCheckBox),
+        .autoClear = {.enabled = form.AutoClearEnabledCheckBox->isChecked(),
+                      .unit =
+                          periodUnitOfTag(form.AutoClearDaysOrMinutesRadioButton->selectedTag()),
+                      .text = form.AutoClearText->text()},
+        .autoLogOffEnabled = enabled(form.AutoLogOffEnabledCheckBox),
+        .autoLogOff = {.enabled = form.AutoLogOffEnabledCheckBox->isChecked(),
+                       .text = form.AutoLogOffText->text()},
+        .remainingTimeEnabled = enabled(form.ShowRemainingTimeCheckBox),
+        .showsRemainingTime = form.ShowRemainingTimeCheckBox->isChecked()};
 }
 
 void AppDelegate::UpdateMainSettingsOKButton() {
@@ -179,29 +167,12 @@ void AppDelegate::MainSettingsTextDidChenge() {
     UpdateMainSettingsOKButton();
 }
 
-bool AppDelegate::usesAutomaticKey() const {
-    return MainSettingsWindow.EncryptionKeyAutoManualSelectRadioButton->selectedTag() ==
-           AutomaticKeyTag;
-}
-
-AutoClearEntry AppDelegate::shownAutoClearEntry() const {
-    const auto& form = MainSettingsWindow;
-    return {.enabled = form.AutoClearEnabledCheckBox->isChecked(),
-            .unit = periodUnitOfTag(form.AutoClearDaysOrMinutesRadioButton->selectedTag()),
-            .text = form.AutoClearText->text()};
-}
-
-AutoLogOffEntry AppDelegate::shownAutoLogOffEntry() const {
-    const auto& form = MainSettingsWindow;
-    return {.enabled = form.AutoLogOffEnabledCheckBox->isChecked(),
-            .text = form.AutoLogOffText->text()};
-}
-
 MainSettingsEntries AppDelegate::mainSettingsEntries() const {
+    const SecurityView shown = shownSecurity();
     return {.secureAreaExists = Settings.SecureAreaExist,
             .changed = Changed,
-            .autoClear = shownAutoClearEntry(),
-            .autoLogOff = shownAutoLogOffEntry()};
+            .autoClear = shown.autoClear,
+            .autoLogOff = shown.autoLogOff};
 }
 
 } // namespace zelto

@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "device/DeviceWrites.h"
 #include "device/IORegistry.h"
 #include "device/ZELTOctrl.h"
 #include "digest/Wipe.h"
@@ -16,7 +17,8 @@ bool AppDelegate::ZeltoInitializeSettings() {
         ReportUnmountFailure();
         return false;
     }
-    if (Settings.SecureAreaExist && !usesAutomaticKey() && Settings.StrEncryptionKey.isEmpty()) {
+    if (Settings.SecureAreaExist && shownSecurity().keyOrigin == KeyOrigin::Manual &&
+        Settings.StrEncryptionKey.isEmpty()) {
         ShowMessage(localized("IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP"));
         return false;
     }
@@ -39,68 +41,39 @@ void AppDelegate::ZeltoSettingOKAction() {
 bool AppDelegate::sendAreaInfos() {
     const auto toolArea = appendToolArea(Settings.AreaInfos);
     if (!toolArea) {
-        return Succeeded(kIOReturnBadArgument);
+        reportSense();
+        return false;
     }
     Setup.ReservedAreaDiskNumber = *toolArea;
-    const auto entries = storedEntries(Settings.AreaInfos);
-    return Succeeded(TKVR21_SetAreaInfos(Device(), entries.data(),
-                                         static_cast<std::uint32_t>(entries.size()), false));
+    return !reportIfFailed(writeAreaInfos(Device(), storedEntries(Settings.AreaInfos)));
 }
 
 bool AppDelegate::sendEncryptionInfo() {
-    EncryptionInfo info{.automaticKey = usesAutomaticKey()};
-    if (!info.automaticKey) {
-        info.key = keyOfDigits(Settings.StrEncryptionKey);
+    Wiped<EncryptionInfo> info{{.automaticKey = shownSecurity().keyOrigin == KeyOrigin::Automatic}};
+    if (!info->automaticKey) {
+        info->key = keyOfDigits(Settings.StrEncryptionKey);
     }
-    EncryptionInfo::Bytes bytes = encodeEncryptionInfo(info);
-    const IOReturn result =
-        TKVR21_SetEncryptionInfo(Device(), bytes.data(), bytes.size(), true, false);
-    wipe(bytes);
-    wipeObject(info);
-    return Succeeded(result);
+    return !reportIfFailed(writeEncryptionInfo(Device(), *info));
 }
 
 bool AppDelegate::sendFirstPasswords() {
     const auto& passwords = Settings.PasswordSettingsParameters;
+    Wiped<PasswordDigest> first;
+    SetPasswordData(passwords.strNew1stPassword, *first);
     if (!passwords.Use1stAnd2ndPassword) {
-        AuthInfo first{.kind = AuthInfo::Set};
-        SetPasswordData(passwords.strNew1stPassword, first.slot1);
-        return Succeeded(sendAuthInfo(first, AuthInfoUse::FirstSetup));
+        return !reportIfFailed(writeFirstPassword(Device(), *first));
     }
-    AuthInfo second{.kind = AuthInfo::Set,
-                    .numberOfTrials = static_cast<std::uint8_t>(passwords.NumberOfTrials)};
-    SetPasswordData(passwords.strNew2ndPassword, second.slot1);
-    if (!Succeeded(sendAuthInfo(second, AuthInfoUse::FirstSetup))) {
-        return false;
-    }
-    AuthInfo both{.kind = AuthInfo::SetBoth};
-    SetPasswordData(passwords.strNew1stPassword, both.slot1);
-    SetPasswordData(passwords.strNew2ndPassword, both.slot2);
-    return Succeeded(sendAuthInfo(both, AuthInfoUse::FirstSetup));
-}
-
-IOReturn AppDelegate::sendAuthInfo(AuthInfo& info, AuthInfoUse use) {
-    auto bytes = encodeAuthInfo(info);
-    const IOReturn result = TKVR21_SetAuthInfo(Device(), static_cast<std::uint16_t>(info.size()),
-                                               bytes.data(), use == AuthInfoUse::FirstSetup, false);
-    wipe(bytes);
-    wipeObject(info);
-    return result;
+    Wiped<PasswordDigest> second;
+    SetPasswordData(passwords.strNew2ndPassword, *second);
+    return !reportIfFailed(writeBothPasswords(Device(), *first, *second,
+                                              static_cast<std::uint8_t>(passwords.NumberOfTrials)));
 }
 
 bool AppDelegate::sendPeriods() {
-    return Succeeded(
-               TKVR21_ZELTO_SetErasePeriod(Device(), autoClearSeconds(shownAutoClearEntry()))) &&
-           Succeeded(
-               TKVR21_ZELTO_SetIdleLockPeriod(Device(), autoLogOffSeconds(shownAutoLogOffEntry())));
-}
-
-bool AppDelegate::Succeeded(IOReturn result) {
-    if (result != kIOReturnSuccess) {
-        ErrorMessageBox(result);
-        return false;
-    }
-    return true;
+    const SecurityView shown = shownSecurity();
+    return !reportIfFailed(
+        writePeriods(Device(), {.autoClearSeconds = autoClearSeconds(shown.autoClear),
+                                .idleLockSeconds = autoLogOffSeconds(shown.autoLogOff)}));
 }
 
 /// From here on the timer leads: it waits for the drive, then for its tool area, and finishes.
@@ -112,9 +85,7 @@ void AppDelegate::beginSetupProgress() {
     (void)TKVR21_Reconnect(Device(), 1, 1);
 
     MainSettingsWindow.orderOut();
-    ZeltoSettingWindow.ZeltoSettingText->setText(localized("IDS_NOW_SETTING"));
-    ZeltoSettingWindow.ZeltoSettingOKButton->setEnabled(false);
-    ZeltoSettingWindow.SetupStepsView->setCurrentStep(Setup.InitialSettingState);
+    showSetup({});
     ZeltoSettingWindow.centreAndMakeKeyAndOrderFront();
 }
 

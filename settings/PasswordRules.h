@@ -22,10 +22,10 @@ inline constexpr std::int32_t MostTrials = 99;
 /// A valid password, entered the same way twice.
 [[nodiscard]] bool isValidPasswordPair(QStringView password, QStringView again);
 
-/// The number of tries that a text means; 0 when it is not a plain number.
+/// The number of trials that a text means; 0 when it is not a plain number.
 [[nodiscard]] std::int32_t trialCount(QStringView text);
 
-/// 1 to 99 tries.
+/// 1 to 99 trials.
 [[nodiscard]] bool isValidTrialCount(QStringView text);
 
 /// What the password dialogs hold for one kind of password.

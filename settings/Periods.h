@@ -19,12 +19,16 @@ struct AutoClearEntry {
     bool enabled = false;
     PeriodUnit unit = PeriodUnit::Days;
     QString text = {};
+
+    friend bool operator==(const AutoClearEntry&, const AutoClearEntry&) = default;
 };
 
 /// The auto log-off period as the main settings window holds it; the text counts minutes.
 struct AutoLogOffEntry {
     bool enabled = false;
     QString text = {};
+
+    friend bool operator==(const AutoLogOffEntry&, const AutoLogOffEntry&) = default;
 };
 
 /// Off, or a number of 1 to 9999 days or 1 to 999 minutes.

@@ -19,7 +19,7 @@ struct _tagPasswordSettingsParameters {
     QString strCurrent2ndPassword = QStringLiteral("");
     QString strNew1stPassword = QStringLiteral("");
     QString strNew2ndPassword = QStringLiteral("");
-    /// Tries allowed for the second password, 1 to 99; 0 when not given yet. Sent as its low byte.
+    /// Trials allowed for the second password, 1 to 99; 0 when not given yet. Sent as its low byte.
     std::int32_t NumberOfTrials = 0;
 };
 
@@ -65,30 +65,6 @@ struct ChangedFlags {
     bool AutoClearSettingsChanged = false;
     bool AutoLogOffSettingsChanged = false;
     bool ChangeRemainingTimeSetting = false;
-};
-
-/// First-time set-up after its commit, advanced by the timer.
-struct SetupProgress {
-    enum State : std::uint8_t {
-        NoSetup = 0,
-        WaitingForReconnect = 1,
-        WaitingForToolVolume = 2,
-        FormatAndCopyDue = 3,
-        /// Successfully or not.
-        Finished = 4,
-    };
-    /// Ticks that each of the two waits allows.
-    static constexpr std::int32_t WaitTicks = 60;
-
-    std::uint8_t InitialSettingState = NoSetup;
-    /// Ticks left to wait; its parity drives the blinking.
-    std::int32_t WaitCount = 0;
-    /// 1-based number of the tool area in the table that was sent.
-    std::uint8_t ReservedAreaDiskNumber = 0;
-
-    [[nodiscard]] bool isUnderWay() const {
-        return InitialSettingState != NoSetup && InitialSettingState != Finished;
-    }
 };
 
 } // namespace zelto

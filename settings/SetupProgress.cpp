@@ -1,4 +1,4 @@
-#include "settings/SetupSteps.h"
+#include "settings/SetupProgress.h"
 
 namespace zelto {
 namespace {
@@ -52,6 +52,24 @@ SetupStep advanceSetup(const SetupProgress& progress, const SetupObservation& ob
 
 bool showsProgressText(const SetupProgress& progress) {
     return progress.WaitCount % 2 != 0;
+}
+
+SetupView setupUnderWay(const SetupProgress& before, const SetupProgress& after) {
+    return {.text =
+                showsProgressText(before) ? SetupView::Text::NowSetting : SetupView::Text::Blank,
+            .step = after.InitialSettingState};
+}
+
+SetupView setupFailed(const SetupProgress& before) {
+    SetupView view = setupUnderWay(before, before);
+    view.outcome = SetupView::Outcome::Failed;
+    return view;
+}
+
+SetupView setupDone() {
+    return {.text = SetupView::Text::Complete,
+            .step = SetupProgress::Finished,
+            .outcome = SetupView::Outcome::Done};
 }
 
 } // namespace zelto

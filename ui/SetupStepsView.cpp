@@ -1,4 +1,4 @@
-#include "ui/SetupSteps.h"
+#include "ui/SetupStepsView.h"
 
 #include "ui/Glyph.h"
 
@@ -11,58 +11,59 @@ namespace zelto {
 namespace {
 
 constexpr std::array<const char*, 5> Titles{
-    QT_TRANSLATE_NOOP("zelto::SetupSteps", "The settings are on the drive"),
-    QT_TRANSLATE_NOOP("zelto::SetupSteps", "The drive starts anew"),
-    QT_TRANSLATE_NOOP("zelto::SetupSteps", "The tool area appears"),
-    QT_TRANSLATE_NOOP("zelto::SetupSteps", "The tool area is formatted and this program copied"),
-    QT_TRANSLATE_NOOP("zelto::SetupSteps", "Finished"),
+    QT_TRANSLATE_NOOP("zelto::SetupStepsView", "The settings are on the drive"),
+    QT_TRANSLATE_NOOP("zelto::SetupStepsView", "The drive starts anew"),
+    QT_TRANSLATE_NOOP("zelto::SetupStepsView", "The tool area appears"),
+    QT_TRANSLATE_NOOP("zelto::SetupStepsView",
+                      "The tool area is formatted and this program copied"),
+    QT_TRANSLATE_NOOP("zelto::SetupStepsView", "Finished"),
 };
 constexpr int StepCount = static_cast<int>(Titles.size());
 
 QString titleOf(int step) {
-    return SetupSteps::tr(Titles[static_cast<std::size_t>(step)]);
+    return SetupStepsView::tr(Titles[static_cast<std::size_t>(step)]);
 }
 
 } // namespace
 
-SetupSteps::SetupSteps(QWidget* parent) : QWidget(parent) {
+SetupStepsView::SetupStepsView(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     describe();
 }
 
-void SetupSteps::setCurrentStep(int step) {
+void SetupStepsView::setCurrentStep(int step) {
     m_current = std::clamp(step, 0, StepCount - 1);
     m_failed = false;
     describe();
 }
 
-void SetupSteps::setFailed() {
+void SetupStepsView::setFailed() {
     m_failed = true;
     describe();
 }
 
-SetupSteps::State SetupSteps::stateOf(int step) const {
+SetupStepsView::State SetupStepsView::stateOf(int step) const {
     if (step == m_current && m_failed) {
         return State::Failed;
     }
-    if (step < m_current || m_current == Finished) {
+    if (step < m_current || m_current == AllDone) {
         return State::Done;
     }
     return step == m_current ? State::UnderWay : State::ToCome;
 }
 
-void SetupSteps::describe() {
+void SetupStepsView::describe() {
     const QString words = m_failed ? tr("Step %1 of %2 failed: %3") : tr("Step %1 of %2: %3");
     setAccessibleDescription(
         words.arg(QString::number(m_current + 1), QString::number(StepCount), titleOf(m_current)));
     update();
 }
 
-int SetupSteps::lineHeight() const {
+int SetupStepsView::lineHeight() const {
     return fontMetrics().height() * 7 / 4;
 }
 
-QSize SetupSteps::sizeHint() const {
+QSize SetupStepsView::sizeHint() const {
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics metrics(bold);
@@ -73,7 +74,7 @@ QSize SetupSteps::sizeHint() const {
     return {lineHeight() * 3 / 2 + widest, lineHeight() * StepCount};
 }
 
-void SetupSteps::paintEvent(QPaintEvent*) {
+void SetupStepsView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double mark = fontMetrics().height() * 1.15;
@@ -98,7 +99,7 @@ void SetupSteps::paintEvent(QPaintEvent*) {
     }
 }
 
-void SetupSteps::paintMark(QPainter& painter, State state, const QRectF& box) const {
+void SetupStepsView::paintMark(QPainter& painter, State state, const QRectF& box) const {
     const QColor accent = palette().color(QPalette::Highlight);
     const QRectF inner = box.adjusted(1, 1, -1, -1);
     painter.setBrush(Qt::NoBrush);

@@ -5,7 +5,7 @@
 namespace zelto {
 
 /// The steps of first-time set-up, one line each: done, under way, still to come, failed.
-class SetupSteps : public QWidget {
+class SetupStepsView : public QWidget {
     Q_OBJECT
 
 public:
@@ -15,13 +15,13 @@ public:
         DriveReconnects = 1,
         VolumeAppears = 2,
         FormatAndCopy = 3,
-        Finished = 4
+        AllDone = 4
     };
     enum class State { Done, UnderWay, ToCome, Failed };
 
-    explicit SetupSteps(QWidget* parent = nullptr);
+    explicit SetupStepsView(QWidget* parent = nullptr);
 
-    /// The step that is under way; all before it are done. Finished: all are done. Forgets a
+    /// The step that is under way; all before it are done. AllDone: all are done. Forgets a
     /// failure. Numbers out of range are taken for the nearest step.
     void setCurrentStep(int step);
     /// The step under way could not be completed.

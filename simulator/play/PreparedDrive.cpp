@@ -1,7 +1,9 @@
 #include "simulator/play/PreparedDrive.h"
 
+#include "device/DeviceWrites.h"
 #include "device/ZELTOctrl.h"
 #include "digest/SHA256.h"
+#include "settings/AreaPacking.h"
 #include "simulator/fat/FatLayout.h"
 #include "simulator/fat/PartitionTable.h"
 
@@ -12,8 +14,6 @@ namespace zelto::simulator {
 
 namespace {
 
-constexpr std::uint64_t SectorsPerMebibyte = 2048;
-constexpr std::uint64_t ToolAreaSectors = 40960;
 const std::string ToolLabel = "ZELTO TOOL";
 
 /// A cable straight to the drive, without a computer.
@@ -56,97 +56,46 @@ private:
     Moment m_now;
 };
 
-PasswordDigest digestOf(const std::string& password) {
-    PasswordDigest digest{};
-    SHA256 sha;
-    const std::vector<std::uint8_t> bytes(password.begin(), password.end());
-    sha.Init();
-    sha.Input(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
-    sha.Get(digest.data());
-    return digest;
+PasswordDigest passwordDigest(const std::string& password) {
+    return digestOf({reinterpret_cast<const std::uint8_t*>(password.data()), password.size()});
 }
 
-std::vector<AreaInfoEntry> makeEntries(const DriveSetup& setup) {
-    std::vector<AreaInfoEntry> entries;
-    std::uint64_t next = 0;
-    const auto add = [&](std::uint64_t sectors, bool secure) {
-        AreaInfoEntry entry;
-        entry.type = secure ? AreaInfoEntry::SecureArea : AreaInfoEntry::NormalArea;
-        entry.flags = static_cast<std::uint8_t>(AreaInfoEntry::InUse | AreaInfoEntry::SentBySetup |
-                                                (secure ? AreaInfoEntry::Secure : 0));
-        entry.firstSector = next;
-        entry.sectorCount = sectors;
-        next += sectors;
-        entries.push_back(entry);
-    };
-    for (const DriveSetup::Area& area : setup.areas) {
-        add(area.mebibytes * SectorsPerMebibyte, area.isSecure);
+/// The areas as set-up lays them out, the tool area behind them.
+AreaInfoTable layOut(const DriveSetup& setup) {
+    AreaChoice choice;
+    for (std::size_t disk = 0; disk < setup.areas.size(); ++disk) {
+        choice.mebibytes.at(disk) = setup.areas[disk].mebibytes;
+        choice.secure.at(disk) = setup.areas[disk].isSecure;
     }
-    add(ToolAreaSectors, false);
-    return entries;
+    AreaInfoTable table;
+    rebuildUserAreas(table, choice);
+    (void)appendToolArea(table); // There is room for four areas.
+    return table;
 }
 
-bool sendAreas(UsbDeviceInterface& drive, const std::vector<AreaInfoEntry>& entries) {
-    std::vector<std::uint8_t> bytes;
-    for (const AreaInfoEntry& entry : entries) {
-        const auto encoded = encodeAreaInfoEntry(entry);
-        bytes.insert(bytes.end(), encoded.begin(), encoded.end());
-    }
-    return TKVR21_SetAreaInfos(drive, bytes.data(), static_cast<std::uint32_t>(bytes.size()),
-                               false) == kIOReturnSuccess;
-}
-
-bool sendPassword(UsbDeviceInterface& drive, const AuthInfo& info) {
-    const auto bytes = encodeAuthInfo(info);
-    return TKVR21_SetAuthInfo(drive, static_cast<std::uint16_t>(info.size()), bytes.data(), true,
-                              false) == kIOReturnSuccess;
+IOReturn sendPasswords(UsbDeviceInterface& drive, const DriveSetup& setup) {
+    const PasswordDigest first = passwordDigest(setup.firstPassword);
+    return setup.secondPassword.empty()
+               ? writeFirstPassword(drive, first)
+               : writeBothPasswords(drive, first, passwordDigest(setup.secondPassword),
+                                    setup.trials);
 }
 
 bool sendSecrets(UsbDeviceInterface& drive, const DriveSetup& setup) {
-    const auto key = encodeEncryptionInfo({.automaticKey = true, .key = {}});
-    if (TKVR21_SetEncryptionInfo(drive, key.data(), key.size(), true, false) != kIOReturnSuccess) {
-        return false;
-    }
-    AuthInfo first;
-    first.slot1 = digestOf(setup.firstPassword);
-    if (setup.secondPassword.empty()) {
-        return sendPassword(drive, first);
-    }
-    AuthInfo second;
-    second.numberOfTrials = setup.trials;
-    second.slot1 = digestOf(setup.secondPassword);
-    AuthInfo both = first;
-    both.kind = AuthInfo::SetBoth;
-    both.slot2 = second.slot1;
-    return sendPassword(drive, second) && sendPassword(drive, both);
-}
-
-bool sendClock(UsbDeviceInterface& drive, Moment now) {
-    const auto day = std::chrono::floor<std::chrono::days>(now);
-    const std::chrono::year_month_day date(day);
-    const std::chrono::hh_mm_ss time(now - day);
-    const CurrentTime current{.year = static_cast<std::uint16_t>(int(date.year())),
-                              .month = static_cast<std::uint8_t>(unsigned(date.month())),
-                              .day = static_cast<std::uint8_t>(unsigned(date.day())),
-                              .hour = static_cast<std::uint8_t>(time.hours().count()),
-                              .minute = static_cast<std::uint8_t>(time.minutes().count()),
-                              .second = static_cast<std::uint8_t>(time.seconds().count())};
-    const auto bytes = encodeCurrentTime(current);
-    return TKVR21_ZELTO_SetCurrentTime(drive, bytes.data(), bytes.size()) == kIOReturnSuccess;
+    return writeEncryptionInfo(drive, {.automaticKey = true}) == kIOReturnSuccess &&
+           sendPasswords(drive, setup) == kIOReturnSuccess;
 }
 
 bool sendSettings(UsbDeviceInterface& drive, const DriveSetup& setup, Moment now) {
-    const std::uint8_t hint = setup.showsRemainingTime ? 1 : 0;
-    return (!setup.clockIsSet || sendClock(drive, now)) &&
-           TKVR21_ZELTO_SetErasePeriod(drive, setup.autoClearSeconds) == kIOReturnSuccess &&
-           TKVR21_ZELTO_SetIdleLockPeriod(drive, setup.idleLockSeconds) == kIOReturnSuccess &&
-           TKVR21_ZELTO_WriteHintData(drive, HintAddress::ShowRemainingTime, &hint, 1, true) ==
-               kIOReturnSuccess;
+    return (!setup.clockIsSet || writeCurrentTime(drive, now) == kIOReturnSuccess) &&
+           writePeriods(drive, {.autoClearSeconds = setup.autoClearSeconds,
+                                .idleLockSeconds = setup.idleLockSeconds}) == kIOReturnSuccess &&
+           writeShowRemainingTime(drive, setup.showsRemainingTime) == kIOReturnSuccess;
 }
 
 bool logIn(UsbDeviceInterface& drive, const std::string& password, bool firstStep) {
-    const auto payload = encodeAuthPayload({.firstStep = firstStep, .digest = digestOf(password)});
-    return TKVR21_Authenticate(drive, payload.data(), 0) == kIOReturnSuccess;
+    return writeAuthPayload(drive, {.firstStep = firstStep, .digest = passwordDigest(password)}) ==
+           kIOReturnSuccess;
 }
 
 bool formatUnit(DriveOnBus& drive, std::size_t unit, const std::string& label, Moment now) {
@@ -171,14 +120,14 @@ bool formatAll(DriveOnBus& drive, const DriveSetup& setup, Moment now) {
 } // namespace
 
 std::shared_ptr<DriveOnBus> makePreparedDrive(const DriveSetup& setup, Moment now) {
-    const std::vector<AreaInfoEntry> entries = makeEntries(setup);
-    const AreaInfoEntry& last = entries.back();
+    const AreaInfoTable areas = layOut(setup);
+    const AreaInfoEntry last = areas.entry(areas.storedCount() - 1U);
     auto drive = makeDrive(setup.serial, last.firstSector + last.sectorCount);
     DirectHandle handle(*drive, now);
     const bool secure = std::ranges::any_of(setup.areas, &DriveSetup::Area::isSecure);
     drive->powerUp(now);
-    bool done = sendAreas(handle, entries) && (!secure || sendSecrets(handle, setup)) &&
-                sendSettings(handle, setup, now) &&
+    bool done = writeAreaInfos(handle, storedEntries(areas)) == kIOReturnSuccess &&
+                (!secure || sendSecrets(handle, setup)) && sendSettings(handle, setup, now) &&
                 TKVR21_Reconnect(handle, 1, 1) == kIOReturnSuccess && drive->takeReconnect();
     drive->powerOff(now);
     drive->powerUp(now);

@@ -70,15 +70,5 @@ TEST(DeviceReads, AChoiceThatCannotBeReadIsOff) {
     EXPECT_FALSE(readShowRemainingTime(device));
 }
 
-TEST(DeviceReads, TheChoiceIsWrittenAsOneByte) {
-    ScriptedDevice device;
-    EXPECT_EQ(writeShowRemainingTime(device, true), kIOReturnSuccess);
-    EXPECT_EQ(writeShowRemainingTime(device, false), kIOReturnSuccess);
-    ASSERT_EQ(device.transfers.size(), 2U);
-    EXPECT_EQ(toHex(device.transfers[0].setupPacket()), "40b70100ff0f0100");
-    EXPECT_EQ(toHex(device.transfers[0].sent), "01");
-    EXPECT_EQ(toHex(device.transfers[1].sent), "00");
-}
-
 } // namespace
 } // namespace zelto

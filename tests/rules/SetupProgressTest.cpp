@@ -1,4 +1,4 @@
-#include "settings/SetupSteps.h"
+#include "settings/SetupProgress.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ SetupProgress progressOf(std::uint8_t state, std::int32_t waitCount = SetupProgr
 
 constexpr SetupObservation NothingYet{.driveStillAway = true, .toolVolumeSeen = false};
 
-TEST(SetupSteps, WithoutASetupNothingHappens) {
+TEST(SetupProgress, WithoutASetupNothingHappens) {
     for (const std::uint8_t state :
          {std::uint8_t{0}, std::uint8_t{4}, std::uint8_t{5}, std::uint8_t{255}}) {
         const SetupStep step = advanceSetup(progressOf(state), NothingYet);
@@ -21,7 +21,7 @@ TEST(SetupSteps, WithoutASetupNothingHappens) {
     }
 }
 
-TEST(SetupSteps, TheDriveThatIsBackOpensTheWaitForItsVolume) {
+TEST(SetupProgress, TheDriveThatIsBackOpensTheWaitForItsVolume) {
     const SetupStep step = advanceSetup(progressOf(1, 17), {.driveStillAway = false});
     EXPECT_EQ(step.event, SetupEvent::None);
     EXPECT_EQ(step.progress.InitialSettingState, 2);
@@ -29,14 +29,14 @@ TEST(SetupSteps, TheDriveThatIsBackOpensTheWaitForItsVolume) {
     EXPECT_EQ(step.progress.ReservedAreaDiskNumber, 3);
 }
 
-TEST(SetupSteps, TheVolumeThatIsSeenMakesFormattingDueAtTheNextTick) {
+TEST(SetupProgress, TheVolumeThatIsSeenMakesFormattingDueAtTheNextTick) {
     const SetupStep step = advanceSetup(progressOf(2, 17), {.toolVolumeSeen = true});
     EXPECT_EQ(step.event, SetupEvent::None);
     EXPECT_EQ(step.progress.InitialSettingState, 3);
     EXPECT_EQ(step.progress.WaitCount, 17);
 }
 
-TEST(SetupSteps, FormattingIsDueOnce) {
+TEST(SetupProgress, FormattingIsDueOnce) {
     const SetupStep step = advanceSetup(progressOf(3), NothingYet);
     EXPECT_EQ(step.event, SetupEvent::FormatAndCopy);
     EXPECT_EQ(step.progress.InitialSettingState, 4);
@@ -74,6 +74,24 @@ TEST(ProgressText, IsShownOnOddCounts) {
     EXPECT_TRUE(showsProgressText(progressOf(1, 59)));
     EXPECT_FALSE(showsProgressText(progressOf(2, 0)));
     EXPECT_TRUE(showsProgressText(progressOf(2, -1)));
+}
+
+using View = SetupView;
+
+TEST(SetupView, BlinksWithTheCountThatATickFound) {
+    EXPECT_EQ(setupUnderWay(progressOf(1, 59), progressOf(1, 58)),
+              (View{View::Text::NowSetting, 1, View::Outcome::UnderWay}));
+    EXPECT_EQ(setupUnderWay(progressOf(1, 58), progressOf(2, 60)),
+              (View{View::Text::Blank, 2, View::Outcome::UnderWay}));
+}
+
+TEST(SetupView, AFailureStaysAtTheStepItHappenedIn) {
+    EXPECT_EQ(setupFailed(progressOf(2, 1)),
+              (View{View::Text::NowSetting, 2, View::Outcome::Failed}));
+}
+
+TEST(SetupView, ASetupThatIsDoneSaysSo) {
+    EXPECT_EQ(setupDone(), (View{View::Text::Complete, 4, View::Outcome::Done}));
 }
 
 } // namespace

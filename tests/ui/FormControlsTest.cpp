@@ -52,7 +52,7 @@ const ControlRow Controls[] = {
     {__LINE__, "UnlockingWindow", "UnlockingSetup", Button, true},
     {__LINE__, "ZeltoSettingWindow", "ZeltoSettingText", Label, true},
     {__LINE__, "ZeltoSettingWindow", "ZeltoSettingOKButton", Button, false},
-    {__LINE__, "ZeltoSettingWindow", "SetupStepsView", &SetupSteps::staticMetaObject, true},
+    {__LINE__, "ZeltoSettingWindow", "SetupStepsView", &SetupStepsView::staticMetaObject, true},
     {__LINE__, "MainSettingsWindow", "ZeltoDriveComboBox", Combo, false},
     {__LINE__, "MainSettingsWindow", "PCTimeText", Label, true},
     {__LINE__, "MainSettingsWindow", "DeviceTimeText", Label, true},

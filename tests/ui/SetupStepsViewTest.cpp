@@ -1,4 +1,4 @@
-#include "ui/SetupSteps.h"
+#include "ui/SetupStepsView.h"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +9,9 @@
 namespace zelto {
 namespace {
 
-using State = SetupSteps::State;
+using State = SetupStepsView::State;
 
-std::array<State, 5> statesOf(const SetupSteps& steps) {
+std::array<State, 5> statesOf(const SetupStepsView& steps) {
     std::array<State, 5> states{};
     for (int step = 0; step < 5; ++step) {
         states[static_cast<std::size_t>(step)] = steps.stateOf(step);
@@ -19,57 +19,57 @@ std::array<State, 5> statesOf(const SetupSteps& steps) {
     return states;
 }
 
-TEST(SetupStepsTest, StepsBeforeTheCurrentOneAreDone) {
-    SetupSteps steps;
-    steps.setCurrentStep(SetupSteps::VolumeAppears);
+TEST(SetupStepsViewTest, StepsBeforeTheCurrentOneAreDone) {
+    SetupStepsView steps;
+    steps.setCurrentStep(SetupStepsView::VolumeAppears);
     const std::array expected{State::Done, State::Done, State::UnderWay, State::ToCome,
                               State::ToCome};
     EXPECT_EQ(statesOf(steps), expected);
 }
 
-TEST(SetupStepsTest, OnceFinishedEveryStepIsDone) {
-    SetupSteps steps;
-    steps.setCurrentStep(SetupSteps::Finished);
+TEST(SetupStepsViewTest, OnceFinishedEveryStepIsDone) {
+    SetupStepsView steps;
+    steps.setCurrentStep(SetupStepsView::AllDone);
     for (const State state : statesOf(steps)) {
         EXPECT_EQ(state, State::Done);
     }
 }
 
-TEST(SetupStepsTest, AFailureMarksTheStepThatWasUnderWay) {
-    SetupSteps steps;
-    steps.setCurrentStep(SetupSteps::DriveReconnects);
+TEST(SetupStepsViewTest, AFailureMarksTheStepThatWasUnderWay) {
+    SetupStepsView steps;
+    steps.setCurrentStep(SetupStepsView::DriveReconnects);
     steps.setFailed();
-    EXPECT_EQ(steps.stateOf(SetupSteps::SettingsSent), State::Done);
-    EXPECT_EQ(steps.stateOf(SetupSteps::DriveReconnects), State::Failed);
-    EXPECT_EQ(steps.stateOf(SetupSteps::VolumeAppears), State::ToCome);
+    EXPECT_EQ(steps.stateOf(SetupStepsView::SettingsSent), State::Done);
+    EXPECT_EQ(steps.stateOf(SetupStepsView::DriveReconnects), State::Failed);
+    EXPECT_EQ(steps.stateOf(SetupStepsView::VolumeAppears), State::ToCome);
 }
 
-TEST(SetupStepsTest, ANewStepForgetsTheFailure) {
-    SetupSteps steps;
+TEST(SetupStepsViewTest, ANewStepForgetsTheFailure) {
+    SetupStepsView steps;
     steps.setFailed();
-    steps.setCurrentStep(SetupSteps::SettingsSent);
-    EXPECT_EQ(steps.stateOf(SetupSteps::SettingsSent), State::UnderWay);
+    steps.setCurrentStep(SetupStepsView::SettingsSent);
+    EXPECT_EQ(steps.stateOf(SetupStepsView::SettingsSent), State::UnderWay);
 }
 
-TEST(SetupStepsTest, NumbersOutOfRangeAreTakenForTheNearestStep) {
-    SetupSteps steps;
+TEST(SetupStepsViewTest, NumbersOutOfRangeAreTakenForTheNearestStep) {
+    SetupStepsView steps;
     steps.setCurrentStep(99);
-    EXPECT_EQ(steps.currentStep(), SetupSteps::Finished);
+    EXPECT_EQ(steps.currentStep(), SetupStepsView::AllDone);
     steps.setCurrentStep(-1);
-    EXPECT_EQ(steps.currentStep(), SetupSteps::SettingsSent);
+    EXPECT_EQ(steps.currentStep(), SetupStepsView::SettingsSent);
 }
 
-TEST(SetupStepsTest, TellsTheStepToThoseWhoDoNotSeeIt) {
-    SetupSteps steps;
-    steps.setCurrentStep(SetupSteps::FormatAndCopy);
+TEST(SetupStepsViewTest, TellsTheStepToThoseWhoDoNotSeeIt) {
+    SetupStepsView steps;
+    steps.setCurrentStep(SetupStepsView::FormatAndCopy);
     const QString told = steps.accessibleDescription();
     EXPECT_TRUE(told.contains(QStringLiteral("4")) && told.contains(QStringLiteral("5")));
     steps.setFailed();
     EXPECT_NE(steps.accessibleDescription(), told);
 }
 
-TEST(SetupStepsTest, LooksDifferentInEveryStepAndKeepsItsSize) {
-    SetupSteps steps;
+TEST(SetupStepsViewTest, LooksDifferentInEveryStepAndKeepsItsSize) {
+    SetupStepsView steps;
     const QSize size = steps.sizeHint();
     steps.resize(size);
     QImage before;
