@@ -20,7 +20,8 @@ std::vector<std::string> EventLog::texts(LogLine::Kind kind) const {
 std::vector<std::string> EventLog::story() const {
     std::vector<std::string> found;
     for (const LogLine& line : m_lines) {
-        if (line.text != "TKVR21_ZELTO_GetTimeStatus") {
+        if (line.kind != LogLine::Kind::StandardRequest &&
+            line.text != "TKVR21_ZELTO_GetTimeStatus") {
             found.push_back(line.text);
         }
     }

@@ -11,8 +11,10 @@ namespace zelto::simulator {
 /// One thing that the program did to the world around it.
 struct LogLine {
     enum class Kind {
-        /// A vendor request to a drive. Standard requests are not noted.
+        /// A vendor request to a drive.
         Command,
+        /// Any other request to a drive: the serial number is read.
+        StandardRequest,
         DiskTool,
         Opener,
         FlagTool,
@@ -24,7 +26,7 @@ struct LogLine {
     Kind kind = Kind::Command;
     /// In words: "TKVR21_Logout", "diskutil eject disk2", "sleep 1".
     std::string text;
-    /// Of a command: the drive, the setup packet, the data stage, and how it ended.
+    /// Of a request: the drive, the setup packet, the data stage, and how it ended.
     std::string serial = {};
     IOUSBDevRequest setup = {};
     std::vector<std::uint8_t> data = {};
@@ -45,7 +47,8 @@ public:
     [[nodiscard]] const std::vector<LogLine>& lines() const { return m_lines; }
     /// The lines of one kind in words.
     [[nodiscard]] std::vector<std::string> texts(LogLine::Kind kind) const;
-    /// All lines in words, without the reads that the tick repeats every second.
+    /// All lines in words, without standard requests and the reads that the tick repeats every
+    /// second.
     [[nodiscard]] std::vector<std::string> story() const;
     [[nodiscard]] std::size_t count(const std::string& text) const;
     /// The latest line with these words; null when there is none.

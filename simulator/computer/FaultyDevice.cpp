@@ -34,24 +34,8 @@ const Fault* FaultPlan::next(const IOUSBDevRequest& request) {
     return &m_fault;
 }
 
-std::uint16_t FaultyDevice::GetDeviceVendor() const {
-    return m_device->GetDeviceVendor();
-}
-
-std::uint16_t FaultyDevice::GetDeviceProduct() const {
-    return m_device->GetDeviceProduct();
-}
-
-std::uint16_t FaultyDevice::GetDeviceReleaseNumber() const {
-    return m_device->GetDeviceReleaseNumber();
-}
-
 IOReturn FaultyDevice::USBDeviceOpen() {
-    return m_isGone ? kIOReturnNoDevice : m_device->USBDeviceOpen();
-}
-
-std::uint8_t FaultyDevice::USBGetSerialNumberStringIndex() const {
-    return m_device->USBGetSerialNumberStringIndex();
+    return m_isGone ? kIOReturnNoDevice : ForwardingDevice::USBDeviceOpen();
 }
 
 void FaultyDevice::performUnanswered(const IOUSBDevRequest& request) {
@@ -61,18 +45,18 @@ void FaultyDevice::performUnanswered(const IOUSBDevRequest& request) {
         std::copy_n(request.pData, request.wLength, buffer.begin());
         copy.pData = buffer.data();
     }
-    static_cast<void>(m_device->DeviceRequest(copy));
+    static_cast<void>(ForwardingDevice::DeviceRequest(copy));
 }
 
 IOReturn FaultyDevice::performShort(IOUSBDevRequest& request, std::uint32_t length) {
     const bool toHost = (request.bmRequestType & 0x80U) != 0;
     if (!toHost || request.pData == nullptr) {
-        return m_device->DeviceRequest(request);
+        return ForwardingDevice::DeviceRequest(request);
     }
     std::vector<std::uint8_t> buffer(request.wLength);
     IOUSBDevRequest copy = request;
     copy.pData = buffer.data();
-    const IOReturn result = m_device->DeviceRequest(copy);
+    const IOReturn result = ForwardingDevice::DeviceRequest(copy);
     request.wLenDone = std::min(copy.wLenDone, length);
     std::copy_n(buffer.begin(), request.wLenDone, request.pData);
     return result;
@@ -84,7 +68,7 @@ IOReturn FaultyDevice::DeviceRequest(IOUSBDevRequest& request) {
     }
     const Fault* const fault = m_plan->next(request);
     if (fault == nullptr) {
-        return m_device->DeviceRequest(request);
+        return ForwardingDevice::DeviceRequest(request);
     }
     switch (fault->kind) {
     case Fault::Kind::FailsBefore:

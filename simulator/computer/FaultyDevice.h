@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UsbDevice.h"
+#include "simulator/computer/ForwardingDevice.h"
 
 #include <functional>
 #include <memory>
@@ -54,18 +54,13 @@ private:
     bool m_hasStruck = false;
 };
 
-/// A device handle on a bad cable: passes everything on to another handle, apart from the transfer
-/// that the plan has chosen.
-class FaultyDevice : public UsbDeviceInterface {
+/// A bad cable: passes everything on, apart from the transfer that the plan has chosen.
+class FaultyDevice : public ForwardingDevice {
 public:
     FaultyDevice(std::unique_ptr<UsbDeviceInterface> device, std::shared_ptr<FaultPlan> plan)
-        : m_device(std::move(device)), m_plan(std::move(plan)) {}
+        : ForwardingDevice(std::move(device)), m_plan(std::move(plan)) {}
 
-    [[nodiscard]] std::uint16_t GetDeviceVendor() const override;
-    [[nodiscard]] std::uint16_t GetDeviceProduct() const override;
-    [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override;
     [[nodiscard]] IOReturn USBDeviceOpen() override;
-    [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override;
     [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override;
 
 private:
@@ -73,7 +68,6 @@ private:
     /// Lets the device obey while the caller's buffer stays as it was.
     void performUnanswered(const IOUSBDevRequest& request);
 
-    std::unique_ptr<UsbDeviceInterface> m_device;
     std::shared_ptr<FaultPlan> m_plan;
     bool m_isGone = false;
 };

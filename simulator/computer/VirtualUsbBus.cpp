@@ -1,5 +1,7 @@
 #include "simulator/computer/VirtualUsbBus.h"
 
+#include "simulator/computer/LoggedDevice.h"
+
 #include <algorithm>
 
 namespace zelto::simulator {
@@ -7,7 +9,6 @@ namespace zelto::simulator {
 namespace {
 
 constexpr std::uint8_t StandardToHost = 0x80;
-constexpr std::uint8_t VendorToHost = 0xC0;
 constexpr std::uint8_t GetDescriptor = 6;
 constexpr std::uint8_t StringDescriptor = 3;
 
@@ -207,7 +208,11 @@ void VirtualUsbBus::IOObjectRelease(IOObject id) noexcept {
 std::unique_ptr<UsbDeviceInterface>
 VirtualUsbBus::makeHandle(const std::shared_ptr<Attachment>& attachment) {
     std::unique_ptr<UsbDeviceInterface> handle = std::make_unique<Handle>(*this, attachment);
-    return m_wrapper ? m_wrapper(std::move(handle)) : std::move(handle);
+    for (const HandleLayer& layer : m_handleLayers) {
+        handle = layer(std::move(handle));
+    }
+    return std::make_unique<LoggedDevice>(std::move(handle), m_log,
+                                          attachment->device->description().serial);
 }
 
 IOReturn VirtualUsbBus::standardRequest(const Attachment& attachment, IOUSBDevRequest& request) {
@@ -236,28 +241,14 @@ IOReturn VirtualUsbBus::request(Attachment& attachment, IOUSBDevRequest& request
     if (m_beforeRequest) {
         m_beforeRequest(request);
     }
-    LogLine line;
-    line.text = commandName(request);
-    line.serial = attachment.device->description().serial;
-    const bool toHost = request.bmRequestType == VendorToHost;
-    if (!toHost && request.wLength > 0) {
-        line.data.assign(request.pData, request.pData + request.wLength);
+    if (!attachment.isAttached) {
+        return kIOReturnNoDevice;
     }
-    line.result = attachment.isAttached ? attachment.device->control(request, m_clock.now())
-                                        : kIOReturnNoDevice;
-    if (toHost && line.result == kIOReturnSuccess) {
-        line.data.assign(request.pData, request.pData + request.wLenDone);
-    }
-    line.setup = request;
-    line.setup.pData = nullptr;
-    const IOReturn result = line.result;
-    m_log.note(std::move(line));
-    if (attachment.isAttached) {
-        const Device device = attachment.device;
-        notifyChanged();
-        if (device->takeReconnect()) {
-            reconnect(device);
-        }
+    const Device device = attachment.device;
+    const IOReturn result = device->control(request, m_clock.now());
+    notifyChanged();
+    if (device->takeReconnect()) {
+        reconnect(device);
     }
     return result;
 }

@@ -25,8 +25,8 @@ struct Attachment {
 class VirtualUsbBus : public UsbNotifications {
 public:
     using Device = std::shared_ptr<PluggableDevice>;
-    /// Puts a layer around each handle that the program gets (a FaultyDevice, say).
-    using HandleWrapper =
+    /// Makes a layer around a handle (a FaultyDevice, say).
+    using HandleLayer =
         std::function<std::unique_ptr<UsbDeviceInterface>(std::unique_ptr<UsbDeviceInterface>)>;
 
     VirtualUsbBus(VirtualClock& clock, VirtualApplication& application, EventLog& log)
@@ -48,7 +48,8 @@ public:
     void setHasService(bool hasService) { m_hasService = hasService; }
     /// A system that lists devices but reports no events.
     void setOffersPort(bool offersPort) { m_offersPort = offersPort; }
-    void setHandleWrapper(HandleWrapper wrapper) { m_wrapper = std::move(wrapper); }
+    /// From now on every handle that the program gets has this layer, around those of before.
+    void addHandleLayer(HandleLayer layer) { m_handleLayers.push_back(std::move(layer)); }
     /// Called before each vendor request reaches its device: the moment to pull the plug in.
     void setBeforeRequest(std::function<void(const IOUSBDevRequest&)> hook) {
         m_beforeRequest = std::move(hook);
@@ -104,7 +105,7 @@ private:
     std::optional<std::chrono::seconds> m_reconnectDelay = std::chrono::seconds(2);
     bool m_hasService = true;
     bool m_offersPort = true;
-    HandleWrapper m_wrapper;
+    std::vector<HandleLayer> m_handleLayers;
     std::function<void(const IOUSBDevRequest&)> m_beforeRequest;
     std::function<void()> m_changed;
 };

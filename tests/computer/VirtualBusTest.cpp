@@ -1,5 +1,6 @@
 #include "device/VendorRequest.h"
 #include "device/ZELTOctrl.h"
+#include "simulator/computer/FaultyDevice.h"
 #include "simulator/computer/OtherUsbDevices.h"
 #include "simulator/computer/VirtualComputer.h"
 
@@ -187,6 +188,74 @@ TEST_F(VirtualBusTest, NotesEveryCommandWithItsNameItsBytesAndItsResult) {
     EXPECT_EQ(m_computer.log.lines()[1].data.size(), 34U);
     EXPECT_EQ(m_computer.log.lines()[1].result, kIOUSBPipeStalled);
     EXPECT_EQ(m_computer.log.lines()[1].serial, "ZD0000000000A1");
+}
+
+TEST_F(VirtualBusTest, NotesARequestThatFailsBeforeItReachesTheDrive) {
+    const auto plan = std::make_shared<FaultPlan>();
+    m_computer.usb.addHandleLayer([plan](std::unique_ptr<UsbDeviceInterface> handle) {
+        return std::make_unique<FaultyDevice>(std::move(handle), plan);
+    });
+    m_computer.plug(m_drive);
+    listen();
+    m_computer.log.clear();
+    plan->failWhen([](const IOUSBDevRequest&) { return true; },
+                   {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
+    EXPECT_EQ(readStatus(*m_handles[0]), kIOReturnTimeout);
+    ASSERT_THAT(m_computer.log.texts(LogLine::Kind::Command),
+                ElementsAre("TKVR21_GetDeviceStatus"));
+    EXPECT_EQ(m_computer.log.lines()[0].result, kIOReturnTimeout);
+    EXPECT_EQ(m_computer.log.lines()[0].setup.bRequest, VendorRequest::GetDeviceStatus);
+}
+
+TEST_F(VirtualBusTest, NotesARequestToADriveThatIsGone) {
+    m_computer.plug(m_drive);
+    listen();
+    m_computer.unplug(m_drive);
+    m_computer.log.clear();
+    EXPECT_EQ(readStatus(*m_handles[0]), kIOReturnNoDevice);
+    EXPECT_EQ(m_computer.log.count("TKVR21_GetDeviceStatus"), 1U);
+}
+
+TEST_F(VirtualBusTest, NotesTheReadingOfASerialNumberApartFromTheCommands) {
+    m_computer.plug(m_drive);
+    listen();
+    m_computer.log.clear();
+    EXPECT_EQ(readSerial(*m_handles[0]), "ZD0000000000A1");
+    EXPECT_EQ(m_computer.log.texts(LogLine::Kind::StandardRequest).size(), 1U);
+    EXPECT_TRUE(m_computer.log.texts(LogLine::Kind::Command).empty());
+    EXPECT_TRUE(m_computer.log.story().empty());
+}
+
+/// A layer that says its name to every request.
+class NamedLayer : public ForwardingDevice {
+public:
+    NamedLayer(std::unique_ptr<UsbDeviceInterface> device, std::string& heard, char name)
+        : ForwardingDevice(std::move(device)), m_heard(heard), m_name(name) {}
+    [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override {
+        m_heard += m_name;
+        return ForwardingDevice::DeviceRequest(request);
+    }
+
+private:
+    std::string& m_heard;
+    char m_name;
+};
+
+TEST_F(VirtualBusTest, PutsEveryLayerAroundAHandleTheLatestOutermost) {
+    std::string heard;
+    for (const char name : {'a', 'b', 'c'}) {
+        m_computer.usb.addHandleLayer([&heard, name](std::unique_ptr<UsbDeviceInterface> handle) {
+            return std::make_unique<NamedLayer>(std::move(handle), heard, name);
+        });
+    }
+    m_computer.plug(m_drive);
+    listen();
+    EXPECT_EQ(readStatus(*m_handles[0]), kIOReturnSuccess);
+    EXPECT_EQ(heard, "cba");
+    EXPECT_EQ(m_handles[0]->GetDeviceVendor(), UsbIdentity::Vendor);
+    EXPECT_EQ(m_handles[0]->GetDeviceProduct(), UsbIdentity::Product);
+    EXPECT_EQ(m_handles[0]->GetDeviceReleaseNumber(), 0x0100);
+    EXPECT_EQ(m_handles[0]->USBGetSerialNumberStringIndex(), 3);
 }
 
 TEST_F(VirtualBusTest, PullsThePlugInTheMiddleOfAFlowWhenAskedTo) {

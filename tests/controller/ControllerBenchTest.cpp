@@ -82,15 +82,14 @@ TEST_F(ControllerBenchTest, DrivesADialogThatBlocksItsCaller) {
 }
 
 TEST_F(ControllerBenchTest, PutsAFaultIntoTheDrivesCable) {
-    const auto plan = m_bench.putFaultsInto();
     m_bench.plugPreparedDrive();
     m_bench.start();
-    plan->failWhen([](const IOUSBDevRequest& request) { return request.bRequest == 0xB3; },
-                   {.kind = simulator::Fault::Kind::VanishesBefore});
+    m_bench.plan->failWhen([](const IOUSBDevRequest& request) { return request.bRequest == 0xB3; },
+                           {.kind = simulator::Fault::Kind::VanishesBefore});
     m_bench.type("AuthenticateTextField", "first");
     m_bench.press("AuthenticateSubmit");
     EXPECT_TRUE(m_bench.hasQuit());
-    EXPECT_TRUE(plan->hasStruck());
+    EXPECT_TRUE(m_bench.plan->hasStruck());
 }
 
 TEST_F(ControllerBenchTest, StartsAgainOnTheSameComputer) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/support/ControllerBench.h"
-#include "tests/support/ForgedReplies.h"
 #include "ui/Strings.h"
 
 #include <gmock/gmock.h>
@@ -20,26 +19,17 @@ protected:
     static constexpr std::uint8_t HintReadCode = 0xB6;
     static constexpr std::uint8_t SetClockCode = 0xBB;
 
-    SessionTest() {
-        m_bench.computer.usb.setHandleWrapper(
-            [forgeries = m_forgeries](std::unique_ptr<UsbDeviceInterface> handle) {
-                return std::make_unique<ForgedReplies>(std::move(handle), forgeries);
-            });
-    }
-
-    /// From now on the drives' answers to this request are changed on the way.
     void forge(std::uint8_t requestCode, ForgedReplies::Forgery forgery) {
-        (*m_forgeries)[requestCode] = std::move(forgery);
+        m_bench.forge(requestCode, std::move(forgery));
     }
     void forgeSecurityByte(std::uint8_t security) {
-        forge(StatusRequestCode, [security](std::span<std::uint8_t> data, IOReturn& result) {
-            data[33] = security;
-            result = kIOReturnSuccess;
+        forge(StatusRequestCode, [security](ForgedReplies::Reply& reply) {
+            reply.data[33] = security;
+            reply.result = kIOReturnSuccess;
         });
     }
     void forgeResult(std::uint8_t requestCode, IOReturn forged) {
-        forge(requestCode,
-              [forged](std::span<std::uint8_t>, IOReturn& result) { result = forged; });
+        forge(requestCode, [forged](ForgedReplies::Reply& reply) { reply.result = forged; });
     }
 
     void logInWith(const QString& password) {
@@ -50,8 +40,6 @@ protected:
     /// The texts of the alerts so far.
     [[nodiscard]] std::vector<QString> alerts() const { return m_bench.alertTexts(); }
 
-    std::shared_ptr<ForgedReplies::Forgeries> m_forgeries =
-        std::make_shared<ForgedReplies::Forgeries>();
     ControllerBench m_bench;
 };
 

@@ -111,13 +111,8 @@ TEST_F(SessionDispatchTest, TheSecurityByteDecidesWindowPromptAndStep) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.line);
         ControllerBench bench;
-        auto forgeries = std::make_shared<ForgedReplies::Forgeries>();
-        (*forgeries)[StatusRequestCode] = [&row](std::span<std::uint8_t> data, IOReturn&) {
-            data[33] = row.security;
-        };
-        bench.computer.usb.setHandleWrapper([&](std::unique_ptr<UsbDeviceInterface> handle) {
-            return std::make_unique<ForgedReplies>(std::move(handle), forgeries);
-        });
+        bench.forge(StatusRequestCode,
+                    [&row](ForgedReplies::Reply& reply) { reply.data[33] = row.security; });
         bench.plugPreparedDrive();
         bench.start();
         EXPECT_EQ(bench.visibleWindow(), row.window);
@@ -142,9 +137,9 @@ TEST_F(SessionDispatchTest, StatesOneSixAndSevenOpenNothingAndSayNothing) {
 }
 
 TEST_F(SessionDispatchTest, AnUnreadableStatusCountsAsNoPassword) {
-    forge(StatusRequestCode, [](std::span<std::uint8_t> data, IOReturn& result) {
-        std::ranges::fill(data, 0);
-        result = kIOReturnTimeout;
+    forge(StatusRequestCode, [](ForgedReplies::Reply& reply) {
+        std::ranges::fill(reply.data, 0);
+        reply.result = kIOReturnTimeout;
     });
     m_bench.plugPreparedDrive();
     m_bench.start();

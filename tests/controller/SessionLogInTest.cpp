@@ -111,16 +111,16 @@ TEST_F(SessionLogInTest, AWrongPasswordIsSaidBetweenTwoPausesAndTheTextStays) {
 
 TEST_F(SessionLogInTest, SenseKeyTwoCountsAsAWrongPasswordToo) {
     begin();
-    forge(StatusRequestCode, [](std::span<std::uint8_t> data, IOReturn&) { data[13] = 2; });
+    forge(StatusRequestCode, [](ForgedReplies::Reply& reply) { reply.data[13] = 2; });
     logInWith("wrong");
     EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_AUTHENTICATE_FAILED")));
 }
 
 TEST_F(SessionLogInTest, ARefusalForAnotherReasonIsSilent) {
-    forge(StatusRequestCode, [](std::span<std::uint8_t> data, IOReturn&) {
-        if (data[13] != 0) {
-            data[14] = 0x24;
-            data[15] = 0x00;
+    forge(StatusRequestCode, [](ForgedReplies::Reply& reply) {
+        if (reply.data[13] != 0) {
+            reply.data[14] = 0x24;
+            reply.data[15] = 0x00;
         }
     });
     begin();
@@ -131,11 +131,11 @@ TEST_F(SessionLogInTest, ARefusalForAnotherReasonIsSilent) {
 }
 
 TEST_F(SessionLogInTest, ARefusalByADriveThatHasLockedItselfForGoodEndsTheApplication) {
-    forge(StatusRequestCode, [](std::span<std::uint8_t> data, IOReturn&) {
-        if (data[13] != 0) {
-            data[14] = 0x74;
-            data[15] = 0x00;
-            data[33] = 0x05;
+    forge(StatusRequestCode, [](ForgedReplies::Reply& reply) {
+        if (reply.data[13] != 0) {
+            reply.data[14] = 0x74;
+            reply.data[15] = 0x00;
+            reply.data[33] = 0x05;
         }
     });
     begin();

@@ -72,9 +72,9 @@ TEST_F(SessionLogOffTest, ABusyVolumeIsSaidNotLockedAndEndsTheApplication) {
 
 TEST_F(SessionLogOffTest, WithoutASecureAreaAllVolumesAreUnmountedAndTheLogOutIsSentAllTheSame) {
     beginUnlocked();
-    forge(AreasRequestCode, [](std::span<std::uint8_t> data, IOReturn&) {
-        for (std::size_t entry = 12; entry + 20 <= data.size(); entry += 20) {
-            data[entry] = 0;
+    forge(AreasRequestCode, [](ForgedReplies::Reply& reply) {
+        for (std::size_t entry = 12; entry + 20 <= reply.data.size(); entry += 20) {
+            reply.data[entry] = 0;
         }
     });
     m_bench.press("UnlockingLogOff");
@@ -165,9 +165,9 @@ TEST_F(SessionLogOffTest, WithoutASecureEntryTheCallersNumberStays) {
 }
 
 TEST_F(SessionLogOffTest, ATableThatClaimsMoreEntriesThanItHoldsIsReadToItsEndOnly) {
-    forge(AreasRequestCode, [](std::span<std::uint8_t> data, IOReturn&) {
-        std::ranges::fill(data, 0);
-        data[0] = data[1] = 0xFF;
+    forge(AreasRequestCode, [](ForgedReplies::Reply& reply) {
+        std::ranges::fill(reply.data, 0);
+        reply.data[0] = reply.data[1] = 0xFF;
     });
     m_bench.plugPreparedDrive();
     m_bench.start();

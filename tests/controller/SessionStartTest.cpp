@@ -176,24 +176,12 @@ TEST_F(StartTest, ClosingTheProgressWindowIsRefusedWhileASetupIsUnderWay) {
 }
 
 TEST_F(StartTest, ADriveThatMayNotBeOpenedIsToldApartFromNoDrive) {
-    const auto refuse = [](IOReturn reason) {
-        return [reason](std::unique_ptr<UsbDeviceInterface> handle) {
-            struct Refusing : simulator::FaultyDevice {
-                Refusing(std::unique_ptr<UsbDeviceInterface> device, IOReturn code)
-                    : FaultyDevice(std::move(device), std::make_shared<simulator::FaultPlan>()),
-                      result(code) {}
-                IOReturn USBDeviceOpen() override { return result; }
-                IOReturn result;
-            };
-            return std::make_unique<Refusing>(std::move(handle), reason);
-        };
-    };
-    m_bench.plugPreparedDrive();
-    m_bench.computer.usb.setHandleWrapper(refuse(kIOReturnNotPrivileged));
+    const auto drive = m_bench.plugPreparedDrive();
+    drive->describe().openResult = kIOReturnNotPrivileged;
     m_bench.start();
     EXPECT_EQ(m_bench.text("SelectZeltoComboBox"), localized("IDS_ERR_NOT_FOUND_ZELTO"));
     EXPECT_EQ(m_bench.text("SelectZeltoAccessHint"), localized("IDS_HINT_RULE_MISSING"));
-    m_bench.computer.usb.setHandleWrapper(refuse(kIOReturnNotPermitted));
+    drive->describe().openResult = kIOReturnNotPermitted;
     m_bench.start();
     EXPECT_EQ(m_bench.text("SelectZeltoAccessHint"), localized("IDS_HINT_OTHER_SESSION"));
 }

@@ -12,8 +12,8 @@ class SessionTimerTest : public SessionTest {
 protected:
     /// Makes the drive's time status read so.
     void forgeTime(const TimeStatus& status) {
-        forge(TimeRequestCode, [status](std::span<std::uint8_t> data, IOReturn&) {
-            std::ranges::copy(encodeTimeStatus(status), data.begin());
+        forge(TimeRequestCode, [status](ForgedReplies::Reply& reply) {
+            std::ranges::copy(encodeTimeStatus(status), reply.data.begin());
         });
     }
     [[nodiscard]] QString driveTime() {
@@ -165,7 +165,7 @@ TEST_F(SetClockTest, AFailureIsReportedAndTheApplicationStays) {
 // --- The show-remaining-time choice ------------------------------------------------------------
 
 TEST_F(SetClockTest, AHintByteWithOtherBitsIsShownAsCheckedAndWrittenBackAsOne) {
-    forge(HintReadCode, [](std::span<std::uint8_t> data, IOReturn&) { data[0] = 0x03; });
+    forge(HintReadCode, [](ForgedReplies::Reply& reply) { reply.data[0] = 0x03; });
     beginInSettings({});
     EXPECT_TRUE(m_bench.person.isChecked("ShowRemainingTimeCheckBox"));
     m_bench.app().UpdateUserDefaultsShowRemainingTime();
@@ -195,10 +195,10 @@ TEST_F(SessionTimerTest, ADriveThatIsGoneIsReportedWithoutAStatusRead) {
 }
 
 TEST_F(SessionTimerTest, AnyOtherFailureIsReportedWithTheDrivesSenseBytes) {
-    forge(StatusRequestCode, [](std::span<std::uint8_t> data, IOReturn&) {
-        data[13] = 5;
-        data[14] = 0x24;
-        data[15] = 0;
+    forge(StatusRequestCode, [](ForgedReplies::Reply& reply) {
+        reply.data[13] = 5;
+        reply.data[14] = 0x24;
+        reply.data[15] = 0;
     });
     m_bench.plugPreparedDrive();
     m_bench.start();

@@ -261,7 +261,6 @@ protected:
         return app().MainSettingsWindow.MainSettingsOKButton->isEnabled();
     }
 
-    std::shared_ptr<simulator::FaultPlan> plan = putFaultsInto();
     Drive drive;
 
 private:

@@ -1,6 +1,5 @@
 #include "device/VendorRequest.h"
 #include "tests/controller/SettingsBench.h"
-#include "tests/support/ForgedReplies.h"
 
 #include <map>
 
@@ -17,34 +16,24 @@ enum class Reset { Accepted, RefusedForItsState };
 /// The settings window of a drive that claims to be in any security state.
 class KeyInStates : public SettingsBench {
 protected:
-    KeyInStates() {
-        computer.usb.setHandleWrapper(
-            [forgeries = m_forgeries](std::unique_ptr<UsbDeviceInterface> handle) {
-                return std::make_unique<ForgedReplies>(std::move(handle), forgeries);
-            });
-    }
-
     void openWindowInState(Areas areas, int state, Reset reset) {
         beginWithSettingsOf({.secureDisk = areas == Areas::WithSecure ? 1 : 0});
         // Every command is accepted, save the first reset: only the program's steps count here.
         for (const std::uint8_t code :
              {VendorRequest::SetEncryptionInfo, VendorRequest::Logout, VendorRequest::WriteHintData,
               VendorRequest::SetErasePeriod, VendorRequest::SetIdleLockPeriod}) {
-            forge(code, [](auto, IOReturn& result) { result = kIOReturnSuccess; });
+            forge(code, [](ForgedReplies::Reply& reply) { reply.result = kIOReturnSuccess; });
         }
-        forge(VendorRequest::GetDeviceStatus, [state](std::span<std::uint8_t> data, IOReturn&) {
-            data[13] = 5;
-            data[14] = 0x74;
-            data[15] = 0x00;
-            data[33] = static_cast<std::uint8_t>(state);
+        forge(VendorRequest::GetDeviceStatus, [state](ForgedReplies::Reply& reply) {
+            reply.data[13] = 5;
+            reply.data[14] = 0x74;
+            reply.data[15] = 0x00;
+            reply.data[33] = static_cast<std::uint8_t>(state);
         });
         forge(VendorRequest::ResetAreaInfos,
-              [refusals = reset == Reset::Accepted ? 0 : 1](auto, IOReturn& result) mutable {
-                  result = refusals-- > 0 ? kIOUSBPipeStalled : kIOReturnSuccess;
+              [refusals = reset == Reset::Accepted ? 0 : 1](ForgedReplies::Reply& reply) mutable {
+                  reply.result = refusals-- > 0 ? kIOUSBPipeStalled : kIOReturnSuccess;
               });
-    }
-    void forge(std::uint8_t code, ForgedReplies::Forgery forgery) {
-        (*m_forgeries)[code] = std::move(forgery);
     }
 
     void pressAndConfirm(const char* button) {
@@ -68,9 +57,6 @@ protected:
         }
         return text;
     }
-
-    std::shared_ptr<ForgedReplies::Forgeries> m_forgeries =
-        std::make_shared<ForgedReplies::Forgeries>();
 };
 
 struct Row {
@@ -128,7 +114,7 @@ TEST_F(KeyInStates, ClearAllSendsWhatEachStateCallsFor) {
             expected.push_back(localized(row.message));
         }
         EXPECT_EQ(messages(), expected);
-        m_forgeries->clear();
+        stopForging();
         putAway();
     }
 }
@@ -143,7 +129,7 @@ TEST_F(KeyInStates, TheKeyIsErasedOnlyWhileTheDriveIsUnlocked) {
         EXPECT_EQ(hasQuit(), isUnlocked);
         EXPECT_EQ(messages().back(), localized(isUnlocked ? "IDS_ERASE_ENCRYPTION_KEY_CONFIRM"
                                                           : "IDS_ERR_ZELTO_NOT_UNLOCKING"));
-        m_forgeries->clear();
+        stopForging();
         putAway();
     }
 }
@@ -168,7 +154,7 @@ TEST_F(KeyInStates, TheDefaultAnswerSendsNothingInAnyState) {
         EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERASE_ENCRYPTION_KEY_CONFIRM"),
                                             localized("IDS_CLEAR_ALL_CONFIRM")));
         EXPECT_FALSE(hasQuit());
-        m_forgeries->clear();
+        stopForging();
         putAway();
     }
 }

@@ -16,49 +16,19 @@ namespace {
 
 using test::WayToFail;
 
-/// Notes what the program asks of its handle, whether or not a drive is there to hear it: a letter
-/// for each request.
-class NotedHandle : public UsbDeviceInterface {
-public:
-    NotedHandle(std::unique_ptr<UsbDeviceInterface> handle, std::shared_ptr<std::string> letters)
-        : m_handle(std::move(handle)), m_letters(std::move(letters)) {}
-
-    [[nodiscard]] std::uint16_t GetDeviceVendor() const override {
-        return m_handle->GetDeviceVendor();
+/// A request in a letter.
+char letterOf(const simulator::LogLine& line) {
+    static const std::map<std::string, char> Letters{
+        {"TKVR21_GetDeviceStatus", 'D'},     {"TKVR21_GetAreaInfos", 'A'},
+        {"TKVR21_ZELTO_ReadHintData", 'H'},  {"TKVR21_ZELTO_GetTimeStatus", 'T'},
+        {"TKVR21_Authenticate", 'U'},        {"TKVR21_Logout", 'L'},
+        {"TKVR21_ZELTO_SetCurrentTime", 'C'}};
+    if (line.kind == simulator::LogLine::Kind::StandardRequest) {
+        return 's'; // The serial number.
     }
-    [[nodiscard]] std::uint16_t GetDeviceProduct() const override {
-        return m_handle->GetDeviceProduct();
-    }
-    [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override {
-        return m_handle->GetDeviceReleaseNumber();
-    }
-    [[nodiscard]] IOReturn USBDeviceOpen() override { return m_handle->USBDeviceOpen(); }
-    [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override {
-        return m_handle->USBGetSerialNumberStringIndex();
-    }
-    [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override {
-        *m_letters += letterOf(request);
-        return m_handle->DeviceRequest(request);
-    }
-
-private:
-    static char letterOf(const IOUSBDevRequest& request) {
-        static const std::map<std::string, char> Letters{
-            {"TKVR21_GetDeviceStatus", 'D'},     {"TKVR21_GetAreaInfos", 'A'},
-            {"TKVR21_ZELTO_ReadHintData", 'H'},  {"TKVR21_ZELTO_GetTimeStatus", 'T'},
-            {"TKVR21_Authenticate", 'U'},        {"TKVR21_Logout", 'L'},
-            {"TKVR21_ZELTO_SetCurrentTime", 'C'}};
-        constexpr std::uint8_t VendorType = 0x40;
-        if ((request.bmRequestType & VendorType) == 0) {
-            return 's'; // The serial number, a standard request.
-        }
-        const auto found = Letters.find(simulator::commandName(request));
-        return found == Letters.end() ? '?' : found->second;
-    }
-
-    std::unique_ptr<UsbDeviceInterface> m_handle;
-    std::shared_ptr<std::string> m_letters;
-};
+    const auto found = Letters.find(line.text);
+    return found == Letters.end() ? '?' : found->second;
+}
 
 /// Where a flow ends.
 struct Ending {
@@ -90,24 +60,17 @@ struct Flow {
 /// Every flow of the session with every one of its transfers going wrong, one at a time.
 class SessionFaults : public testing::TestWithParam<WayToFail>, protected ControllerBench {
 protected:
-    SessionFaults() {
-        computer.usb.setHandleWrapper([this](std::unique_ptr<UsbDeviceInterface> handle) {
-            return std::make_unique<NotedHandle>(
-                std::make_unique<simulator::FaultyDevice>(std::move(handle), m_plan), m_asked);
-        });
-    }
-
     void sweep(const Flow& flow) {
         const std::string asks = flow.asks;
         run(flow, {});
-        ASSERT_EQ(*m_asked, asks);
+        ASSERT_EQ(asked(), asks);
         putAway();
         for (std::size_t transfer = 0; transfer < asks.size(); ++transfer) {
             SCOPED_TRACE("transfer " + std::to_string(transfer) + " of " + asks);
             run(flow, transfer);
-            EXPECT_TRUE(m_plan->hasStruck());
-            EXPECT_EQ(m_asked->substr(0, transfer + 1), asks.substr(0, transfer + 1));
-            check(expectedEnding(flow, transfer), m_asked->substr(transfer + 1));
+            EXPECT_TRUE(plan->hasStruck());
+            EXPECT_EQ(asked().substr(0, transfer + 1), asks.substr(0, transfer + 1));
+            check(expectedEnding(flow, transfer), asked().substr(transfer + 1));
             putAway();
         }
     }
@@ -115,15 +78,28 @@ protected:
     void run(const Flow& flow, std::optional<std::size_t> failing) {
         flow.arrange();
         alerts.clear();
-        m_asked->clear();
-        m_plan->restartCount();
+        computer.log.clear();
+        plan->restartCount();
         if (failing) {
-            m_plan->failTransfer(*failing, GetParam().fault);
+            plan->failTransfer(*failing, GetParam().fault);
         }
         if (m_answer) {
             alerts.answer(*m_answer);
         }
         flow.act();
+    }
+
+    /// What the program has asked of the drive, whether or not a drive was there to hear it: a
+    /// letter for each request.
+    [[nodiscard]] std::string asked() const {
+        std::string letters;
+        for (const simulator::LogLine& line : computer.log.lines()) {
+            if (line.kind == simulator::LogLine::Kind::Command ||
+                line.kind == simulator::LogLine::Kind::StandardRequest) {
+                letters += letterOf(line);
+            }
+        }
+        return letters;
     }
 
     static Ending expectedEnding(const Flow& flow, std::size_t transfer) {
@@ -149,7 +125,7 @@ protected:
 
     void putAway() {
         end();
-        m_plan->clear();
+        plan->clear();
         if (computer.usb.isPlugged(m_drive)) {
             unplug(m_drive);
         }
@@ -168,8 +144,6 @@ protected:
         return localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", key, code, qualifier);
     }
 
-    std::shared_ptr<simulator::FaultPlan> m_plan = std::make_shared<simulator::FaultPlan>();
-    std::shared_ptr<std::string> m_asked = std::make_shared<std::string>();
     /// To the first alert of each run.
     std::optional<AlertButton> m_answer;
     Drive m_drive;
@@ -244,8 +218,8 @@ class SessionRetries : public SessionFaults {};
 TEST_P(SessionRetries, OfALogInSucceedWithTheTextThatStillStandsThere) {
     m_drive = plugPreparedDrive();
     logInTyping("first");
-    m_plan->restartCount();
-    m_plan->failTransfer(0, GetParam().fault);
+    plan->restartCount();
+    plan->failTransfer(0, GetParam().fault);
     submit();
     EXPECT_EQ(text("AuthenticateTextField"), QStringLiteral("first"));
     submit();
@@ -317,7 +291,7 @@ TEST_P(SessionFaults, OfATickLeaveTheDrivesLabelsAsTheyWere) {
                    const QString before = text("AuthenticateDeviceTimeText");
                    tick();
                    if (std::string("RLG").find(GetParam().letter()) != std::string::npos &&
-                       m_plan->hasStruck()) {
+                       plan->hasStruck()) {
                        EXPECT_EQ(text("AuthenticateDeviceTimeText"), before);
                    }
                },

@@ -9,6 +9,13 @@ namespace zelto {
 ControllerBench::ControllerBench()
     : person([](const std::string& what) { ADD_FAILURE() << what; }) {
     installStrings();
+    computer.usb.addHandleLayer(
+        [forgeries = m_forgeries](std::unique_ptr<UsbDeviceInterface> handle) {
+            return std::make_unique<ForgedReplies>(std::move(handle), forgeries);
+        });
+    computer.usb.addHandleLayer([cable = plan](std::unique_ptr<UsbDeviceInterface> handle) {
+        return std::make_unique<simulator::FaultyDevice>(std::move(handle), cable);
+    });
 }
 
 ControllerBench::~ControllerBench() = default;
@@ -44,14 +51,6 @@ std::vector<std::string> ControllerBench::commands() const {
 
 std::vector<std::string> ControllerBench::diskToolRuns() const {
     return computer.log.texts(simulator::LogLine::Kind::DiskTool);
-}
-
-std::shared_ptr<simulator::FaultPlan> ControllerBench::putFaultsInto() {
-    auto plan = std::make_shared<simulator::FaultPlan>();
-    computer.usb.setHandleWrapper([plan](std::unique_ptr<UsbDeviceInterface> handle) {
-        return std::make_unique<simulator::FaultyDevice>(std::move(handle), plan);
-    });
-    return plan;
 }
 
 } // namespace zelto

@@ -4,6 +4,7 @@
 #include "simulator/play/Person.h"
 #include "simulator/play/PreparedDrive.h"
 #include "simulator/play/UtilityProcess.h"
+#include "tests/support/ForgedReplies.h"
 #include "tests/support/ScriptedAlerts.h"
 
 #include <memory>
@@ -61,14 +62,21 @@ public:
     /// The runs of the disk tool so far.
     [[nodiscard]] std::vector<std::string> diskToolRuns() const;
 
-    /// From the next arrival on, every drive's handle goes through this plan.
-    [[nodiscard]] std::shared_ptr<simulator::FaultPlan> putFaultsInto();
+    /// From now on the drives' answers to this request are changed on the way.
+    void forge(std::uint8_t requestCode, ForgedReplies::Forgery forgery) {
+        (*m_forgeries)[requestCode] = std::move(forgery);
+    }
+    void stopForging() { m_forgeries->clear(); }
 
     simulator::VirtualComputer computer;
     ScriptedAlerts alerts{computer.log};
     simulator::Person person;
+    /// What goes wrong in the cables, of all drives together.
+    std::shared_ptr<simulator::FaultPlan> plan = std::make_shared<simulator::FaultPlan>();
 
 private:
+    std::shared_ptr<ForgedReplies::Forgeries> m_forgeries =
+        std::make_shared<ForgedReplies::Forgeries>();
     std::unique_ptr<simulator::UtilityProcess> m_process;
 };
 

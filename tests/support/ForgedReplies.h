@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UsbDevice.h"
+#include "simulator/computer/ForwardingDevice.h"
 
 #include <functional>
 #include <map>
@@ -10,43 +10,37 @@
 
 namespace zelto {
 
-/// A drive that lies: what it answers to a request is changed on the way to the program.
-class ForgedReplies : public UsbDeviceInterface {
+/// A drive that lies: what it answers to a vendor request is changed on the way to the program.
+class ForgedReplies : public simulator::ForwardingDevice {
 public:
-    /// Changes an answer in place: the data stage, and the result to be returned.
-    using Forgery = std::function<void(std::span<std::uint8_t> data, IOReturn& result)>;
+    /// An answer on its way.
+    struct Reply {
+        const IOUSBDevRequest& request;
+        std::span<std::uint8_t> data;
+        IOReturn result = kIOReturnSuccess;
+    };
+    /// Changes an answer in place.
+    using Forgery = std::function<void(Reply& reply)>;
     /// By request code.
     using Forgeries = std::map<std::uint8_t, Forgery>;
 
     ForgedReplies(std::unique_ptr<UsbDeviceInterface> device, std::shared_ptr<Forgeries> forgeries)
-        : m_device(std::move(device)), m_forgeries(std::move(forgeries)) {}
+        : ForwardingDevice(std::move(device)), m_forgeries(std::move(forgeries)) {}
 
-    [[nodiscard]] std::uint16_t GetDeviceVendor() const override {
-        return m_device->GetDeviceVendor();
-    }
-    [[nodiscard]] std::uint16_t GetDeviceProduct() const override {
-        return m_device->GetDeviceProduct();
-    }
-    [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override {
-        return m_device->GetDeviceReleaseNumber();
-    }
-    [[nodiscard]] IOReturn USBDeviceOpen() override { return m_device->USBDeviceOpen(); }
-    [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override {
-        return m_device->USBGetSerialNumberStringIndex();
-    }
     [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override {
-        IOReturn result = m_device->DeviceRequest(request);
+        const IOReturn result = ForwardingDevice::DeviceRequest(request);
         constexpr std::uint8_t VendorType = 0x40;
         const auto forgery = m_forgeries->find(request.bRequest);
-        if ((request.bmRequestType & VendorType) != 0 && forgery != m_forgeries->end()) {
-            forgery->second({request.pData, request.pData == nullptr ? 0U : request.wLength},
-                            result);
+        if ((request.bmRequestType & VendorType) == 0 || forgery == m_forgeries->end()) {
+            return result;
         }
-        return result;
+        const std::size_t length = request.pData == nullptr ? 0U : request.wLength;
+        Reply reply{.request = request, .data = {request.pData, length}, .result = result};
+        forgery->second(reply);
+        return reply.result;
     }
 
 private:
-    std::unique_ptr<UsbDeviceInterface> m_device;
     std::shared_ptr<Forgeries> m_forgeries;
 };
 
