@@ -11,8 +11,8 @@ constexpr int MostTasksAtATime = 100000;
 
 void VirtualApplication::scheduledTimer(std::chrono::seconds interval,
                                         std::function<void()> handler) {
-    m_timers.push_back(
-        std::make_shared<Timer>(Timer{interval, m_clock.now() + interval, std::move(handler)}));
+    m_timers.push_back(std::make_shared<Timer>(
+        Timer{interval, m_clock.worldTime() + interval, std::move(handler)}));
 }
 
 void VirtualApplication::performLater(std::function<void()> task) {
@@ -37,8 +37,8 @@ void VirtualApplication::fireDueTimers() {
         if (isStopped()) {
             return;
         }
-        if (m_clock.now() >= timer->due) {
-            timer->due = m_clock.now() + timer->interval;
+        if (m_clock.worldTime() >= timer->due) {
+            timer->due = m_clock.worldTime() + timer->interval;
             timer->handler();
         }
     }

@@ -11,16 +11,6 @@ void VirtualClock::sleep(std::chrono::seconds duration) {
     pass(duration);
 }
 
-void VirtualClock::set(std::chrono::sys_seconds now) {
-    const std::chrono::seconds moved = now - m_now;
-    std::multimap<std::chrono::sys_seconds, std::function<void()>> planned;
-    for (auto& [moment, happening] : m_planned) {
-        planned.emplace(moment + moved, std::move(happening));
-    }
-    m_planned = std::move(planned);
-    m_now = now;
-}
-
 void VirtualClock::setUtcOffset(std::chrono::seconds offset) {
     m_zone = [offset](std::chrono::sys_seconds) { return offset; };
 }
@@ -30,20 +20,20 @@ void VirtualClock::setZone(std::function<std::chrono::seconds(std::chrono::sys_s
 }
 
 void VirtualClock::pass(std::chrono::seconds duration) {
-    const std::chrono::sys_seconds end = m_now + duration;
+    const std::chrono::sys_seconds end = m_worldTime + duration;
     while (!m_planned.empty() && m_planned.begin()->first <= end) {
         auto next = m_planned.extract(m_planned.begin());
-        m_now = std::max(m_now, next.key());
+        m_worldTime = std::max(m_worldTime, next.key());
         next.mapped()();
     }
-    m_now = std::max(m_now, end);
+    m_worldTime = std::max(m_worldTime, end);
     if (m_timePassed) {
         m_timePassed();
     }
 }
 
 void VirtualClock::after(std::chrono::seconds delay, std::function<void()> happening) {
-    m_planned.emplace(m_now + delay, std::move(happening));
+    m_planned.emplace(m_worldTime + delay, std::move(happening));
 }
 
 } // namespace zelto::simulator

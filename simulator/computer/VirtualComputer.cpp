@@ -2,7 +2,7 @@
 
 namespace zelto::simulator {
 
-VirtualComputer::VirtualComputer() {
+VirtualComputer::VirtualComputer(std::chrono::sys_seconds start) : clock(log, start) {
     disks.setListeners([this](VirtualDisk& disk) { mounts.diskAppeared(disk); },
                        [this](const VirtualDisk& disk) { mounts.diskVanished(disk); });
     usb.setListener([this] { disks.lookAgain(); });

@@ -20,7 +20,7 @@ namespace zelto::simulator {
 /// The parts are open to whoever plays the world. One thread.
 class VirtualComputer {
 public:
-    VirtualComputer();
+    explicit VirtualComputer(std::chrono::sys_seconds start = VirtualClock::SomeMorning);
     VirtualComputer(const VirtualComputer&) = delete;
     VirtualComputer& operator=(const VirtualComputer&) = delete;
     ~VirtualComputer();
@@ -44,7 +44,7 @@ public:
     void endProcess();
 
     EventLog log;
-    VirtualClock clock{log};
+    VirtualClock clock;
     VirtualApplication application{clock, log};
     VirtualUsbBus usb{clock, application, log};
     VirtualDisks disks{usb, clock};

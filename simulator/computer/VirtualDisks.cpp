@@ -24,12 +24,12 @@ public:
     [[nodiscard]] std::uint64_t sectorCount() const override { return m_sectorCount; }
     [[nodiscard]] bool read(std::uint64_t firstSector, std::span<std::uint8_t> into) override {
         return m_attachment->isAttached &&
-               m_attachment->device->read(m_unit, firstSector, into, m_clock.now());
+               m_attachment->device->read(m_unit, firstSector, into, m_clock.worldTime());
     }
     [[nodiscard]] bool write(std::uint64_t firstSector,
                              std::span<const std::uint8_t> from) override {
         return m_attachment->isAttached &&
-               m_attachment->device->write(m_unit, firstSector, from, m_clock.now());
+               m_attachment->device->write(m_unit, firstSector, from, m_clock.worldTime());
     }
 
 private:
@@ -48,8 +48,9 @@ void VirtualDisks::setListeners(std::function<void(VirtualDisk&)> appeared,
 }
 
 std::optional<MediumInfo> VirtualDisks::mediumOf(const VirtualDisk& disk) const {
-    return disk.attachment->isAttached ? disk.attachment->device->medium(disk.unit, m_clock.now())
-                                       : std::nullopt;
+    return disk.attachment->isAttached
+               ? disk.attachment->device->medium(disk.unit, m_clock.worldTime())
+               : std::nullopt;
 }
 
 void VirtualDisks::removeVanished() {
@@ -92,7 +93,7 @@ std::string VirtualDisks::freeName() const {
 }
 
 void VirtualDisks::addNew(const std::shared_ptr<Attachment>& attachment, std::size_t unit) {
-    const auto medium = attachment->device->medium(unit, m_clock.now());
+    const auto medium = attachment->device->medium(unit, m_clock.worldTime());
     if (!medium || isKnown(*attachment, unit) || isEjected(attachment, unit, medium->generation)) {
         return;
     }

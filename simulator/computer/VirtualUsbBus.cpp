@@ -90,7 +90,7 @@ void VirtualUsbBus::plug(const Device& device) {
     if (isPlugged(device)) {
         return;
     }
-    device->powerUp(m_clock.now());
+    device->powerUp(m_clock.worldTime());
     const auto attachment = std::make_shared<Attachment>(Attachment{.device = device});
     m_attachments.push_back(attachment);
     notifyChanged();
@@ -107,7 +107,7 @@ void VirtualUsbBus::unplug(const Device& device) {
     const std::shared_ptr<Attachment> attachment = *found;
     attachment->isAttached = false;
     m_attachments.erase(found);
-    device->powerOff(m_clock.now());
+    device->powerOff(m_clock.worldTime());
     notifyChanged();
     announce(UsbEvent::Terminate, attachment);
 }
@@ -245,7 +245,7 @@ IOReturn VirtualUsbBus::request(Attachment& attachment, IOUSBDevRequest& request
         return kIOReturnNoDevice;
     }
     const Device device = attachment.device;
-    const IOReturn result = device->control(request, m_clock.now());
+    const IOReturn result = device->control(request, m_clock.worldTime());
     notifyChanged();
     if (device->takeReconnect()) {
         reconnect(device);

@@ -35,9 +35,8 @@ QString stateText(SecurityState state) {
 } // namespace
 
 DemoWorld::DemoWorld() {
-    const QDateTime now = QDateTime::currentDateTime();
-    m_computer.clock.set(std::chrono::sys_seconds(std::chrono::seconds(now.toSecsSinceEpoch())));
-    m_computer.clock.setUtcOffset(std::chrono::seconds(now.offsetFromUtc()));
+    m_computer.clock.setUtcOffset(
+        std::chrono::seconds(QDateTime::currentDateTime().offsetFromUtc()));
     m_computer.application.setListener([this] { settleLater(); });
     m_computer.application.setStopListener([this] { endUtilityWhenIdle(); });
     takePreparedDrive();
@@ -94,7 +93,7 @@ void DemoWorld::skip(std::chrono::seconds duration) {
 }
 
 void DemoWorld::loseClock() {
-    m_drive->drive().loseClock(m_computer.clock.now());
+    m_drive->drive().loseClock(m_computer.clock.worldTime());
     notify();
 }
 
@@ -128,7 +127,7 @@ void DemoWorld::takePreparedDrive() {
                                 .secondPassword = SecondPassword,
                                 .autoClearSeconds = OneWeek,
                                 .showsRemainingTime = true},
-                               m_computer.clock.now()));
+                               m_computer.clock.worldTime()));
 }
 
 void DemoWorld::typePassword(const char* password) {
@@ -141,10 +140,11 @@ void DemoWorld::typePassword(const char* password) {
 QString DemoWorld::describe() {
     setVolumesBusy(m_volumesBusy);
     const auto now = m_computer.clock.now();
-    QString text = QStringLiteral("Drive %1: %2")
-                       .arg(QString::fromStdString(m_drive->description().serial),
-                            isPlugged() ? stateText(m_drive->drive().state(now))
-                                        : QStringLiteral("not plugged in"));
+    QString text =
+        QStringLiteral("Drive %1: %2")
+            .arg(QString::fromStdString(m_drive->description().serial),
+                 isPlugged() ? stateText(m_drive->drive().state(m_computer.clock.worldTime()))
+                             : QStringLiteral("not plugged in"));
     QStringList volumes;
     for (const auto& mounted : m_computer.mounts.getmntinfo()) {
         if (mounted.f_mntonname != "/") {

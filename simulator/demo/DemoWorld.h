@@ -53,7 +53,8 @@ private:
     void exchange(std::shared_ptr<DriveOnBus> drive);
     void notify() const;
 
-    VirtualComputer m_computer;
+    VirtualComputer m_computer{
+        std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now())};
     AlertPresenter m_alerts;
     std::shared_ptr<DriveOnBus> m_drive;
     std::unique_ptr<UtilityProcess> m_utility;

@@ -13,7 +13,7 @@ const std::filesystem::path SecureVolume = "/media/user/PRIVATE";
 const std::filesystem::path Letters = SecureVolume / "My letters";
 
 bool isInState(Story& story, const Drive& drive, SecurityState state) {
-    return drive->drive().state(story.computer.clock.now()) == state;
+    return drive->drive().state(story.computer.clock.worldTime()) == state;
 }
 
 bool wasSentTo(const Story& story, const std::string& serial) {
@@ -122,7 +122,7 @@ void setTheClock(Story& story, const Drive& drive) {
     story.tell("The drive has lost its clock while its auto-clear period runs: it locks fully and "
                "the utility offers to set the clock.");
     story.computer.unplug(drive);
-    drive->drive().loseClock(story.computer.clock.now());
+    drive->drive().loseClock(story.computer.clock.worldTime());
     story.computer.plug(drive);
     story.check("the drive is fully locked", isInState(story, drive, SecurityState::StateFullLock));
     story.startUtility();
@@ -164,7 +164,7 @@ void letItExpire(Story& story, const Drive& drive) {
 void playLogInStory(Story& story) {
     story.chapter("A user logs in to a drive and logs off again");
     constexpr std::uint32_t TwoDays = 2 * 86400;
-    const auto now = story.computer.clock.now();
+    const auto now = story.computer.clock.worldTime();
     const Drive other = makePreparedDrive({.serial = "ZD0000000000A1"}, now);
     const Drive drive = makePreparedDrive({.serial = "ZD0000000000B2",
                                            .secondPassword = "second",

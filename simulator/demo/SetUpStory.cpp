@@ -26,7 +26,7 @@ constexpr Passwords OldPasswords{"first", "second"};
 constexpr Passwords NewPasswords{"primary", "another"};
 
 bool isInState(Story& story, const Drive& drive, SecurityState state) {
-    return drive->drive().state(story.computer.clock.now()) == state;
+    return drive->drive().state(story.computer.clock.worldTime()) == state;
 }
 
 VirtualDisk* diskOfUnit(Story& story, const std::string& unitName) {

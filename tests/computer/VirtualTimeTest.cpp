@@ -89,6 +89,44 @@ TEST_F(VirtualTimeTest, MovesPlansAlongWhenTheClockIsSet) {
     EXPECT_TRUE(happened);
 }
 
+TEST_F(VirtualTimeTest, GoesOnFiringTimersWhenTheClockIsSetBack) {
+    m_computer.application.scheduledTimer(seconds(1), [this] { ++m_ticks; });
+    m_computer.advance(seconds(2));
+    const auto before = m_computer.clock.now();
+    m_computer.clock.set(before - hours(1000));
+    EXPECT_EQ(m_ticks, 2);
+    m_computer.advance(seconds(3));
+    EXPECT_EQ(m_ticks, 5);
+    EXPECT_EQ(m_computer.clock.now(), before - hours(1000) + seconds(3));
+}
+
+TEST_F(VirtualTimeTest, FiresNoTimerEarlyWhenTheClockIsSetAhead) {
+    m_computer.application.scheduledTimer(seconds(2), [this] { ++m_ticks; });
+    m_computer.clock.set(m_computer.clock.now() + hours(1000));
+    m_computer.advance(seconds(1));
+    EXPECT_EQ(m_ticks, 0);
+    m_computer.advance(seconds(1));
+    EXPECT_EQ(m_ticks, 1);
+}
+
+TEST_F(VirtualTimeTest, KeepsPlansWhenTheClockIsSetBack) {
+    bool happened = false;
+    m_computer.clock.after(seconds(5), [&] { happened = true; });
+    m_computer.clock.set(m_computer.clock.now() - hours(1000));
+    m_computer.advance(seconds(4));
+    EXPECT_FALSE(happened);
+    m_computer.advance(seconds(1));
+    EXPECT_TRUE(happened);
+}
+
+TEST_F(VirtualTimeTest, LeavesTheWorldsTimeAloneWhenTheClockIsSet) {
+    const auto before = m_computer.clock.worldTime();
+    m_computer.clock.set(m_computer.clock.now() - hours(1000));
+    EXPECT_EQ(m_computer.clock.worldTime(), before);
+    m_computer.skip(seconds(7));
+    EXPECT_EQ(m_computer.clock.worldTime(), before + seconds(7));
+}
+
 TEST_F(VirtualTimeTest, KnowsTheZoneItWasGiven) {
     EXPECT_EQ(m_computer.clock.utcOffset(m_computer.clock.now()), seconds(0));
     m_computer.clock.setUtcOffset(hours(9));

@@ -158,7 +158,7 @@ protected:
     /// A drive that has lost its clock while its auto clear was running.
     ControllerBench::Drive plugDriveWithLostClock() {
         auto drive = m_bench.plugPreparedDrive({.autoClearSeconds = 86400});
-        drive->drive().loseClock(m_bench.computer.clock.now());
+        drive->drive().loseClock(m_bench.computer.clock.worldTime());
         return drive;
     }
 };
@@ -200,7 +200,7 @@ TEST_F(FullLockTest, SettingTheClockIsConfirmedAndEndsTheApplication) {
     m_bench.start();
     EXPECT_EQ(alerts().back(), localized("IDS_SET_CURRENT_YIME"));
     EXPECT_TRUE(m_bench.hasQuit());
-    EXPECT_EQ(drive->drive().state(m_bench.computer.clock.now()), SecurityState::StateLocked);
+    EXPECT_EQ(drive->drive().state(m_bench.computer.clock.worldTime()), SecurityState::StateLocked);
     EXPECT_EQ(m_bench.computer.log.latest("TKVR21_ZELTO_SetCurrentTime")->data,
               (std::vector<std::uint8_t>{0x07, 0xEA, 3, 2, 9, 30, 0}))
         << "UTC, big-endian";

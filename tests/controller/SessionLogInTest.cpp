@@ -150,7 +150,8 @@ TEST_F(SessionLogInTest, TheLastWrongSecondPasswordLosesTheDrive) {
     logInWith("first");
     logInWith("wrong 1");
     logInWith("wrong 2");
-    EXPECT_EQ(m_drive->drive().state(m_bench.computer.clock.now()), SecurityState::StateFullLock);
+    EXPECT_EQ(m_drive->drive().state(m_bench.computer.clock.worldTime()),
+              SecurityState::StateFullLock);
     EXPECT_EQ(alerts().size(), 2U);
 }
 

@@ -22,7 +22,7 @@ protected:
         m_bench.computer.log.clear();
     }
     [[nodiscard]] SecurityState state() {
-        return m_drive->drive().state(m_bench.computer.clock.now());
+        return m_drive->drive().state(m_bench.computer.clock.worldTime());
     }
     /// The BSD name that is mounted there.
     [[nodiscard]] std::string mountedFrom(const std::string& mountPoint) {

@@ -256,7 +256,9 @@ protected:
             fault);
     }
 
-    [[nodiscard]] SecurityState driveState() { return drive->drive().state(computer.clock.now()); }
+    [[nodiscard]] SecurityState driveState() {
+        return drive->drive().state(computer.clock.worldTime());
+    }
     [[nodiscard]] bool okIsEnabled() {
         return app().MainSettingsWindow.MainSettingsOKButton->isEnabled();
     }

@@ -263,7 +263,7 @@ TEST_P(SessionFaults, OfSettingTheClockOfAFullyLockedDriveEndTheProgram) {
     sweep({.arrange =
                [&] {
                    m_drive = plugPreparedDrive({.autoClearSeconds = 86400});
-                   m_drive->drive().loseClock(computer.clock.now());
+                   m_drive->drive().loseClock(computer.clock.worldTime());
                },
            .act = [&] { start(); },
            .asks = "sDTC",

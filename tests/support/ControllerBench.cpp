@@ -28,7 +28,7 @@ ControllerBench::Drive ControllerBench::plugNewDrive(const std::string& serial,
 }
 
 ControllerBench::Drive ControllerBench::plugPreparedDrive(const simulator::DriveSetup& setup) {
-    auto drive = simulator::makePreparedDrive(setup, computer.clock.now());
+    auto drive = simulator::makePreparedDrive(setup, computer.clock.worldTime());
     if (drive == nullptr) {
         ADD_FAILURE() << "the drive refused to be prepared";
         return plugNewDrive(setup.serial);
