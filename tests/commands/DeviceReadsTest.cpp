@@ -8,11 +8,8 @@
 #include <cstdint>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
-
-using test::ScriptedDevice;
-using test::toHex;
 
 /// The one transfer that the device has seen.
 std::vector<std::uint8_t> onlyPacket(const ScriptedDevice& device) {
@@ -48,7 +45,7 @@ TEST(DeviceReads, AFailureKeepsItsResult) {
 
 TEST(DeviceReads, TheAreaTableIsReadWhole) {
     ScriptedDevice device;
-    device.script.push_back({.data = test::fromHex("001e0001 0000000003a98000")});
+    device.script.push_back({.data = fromHex("001e0001 0000000003a98000")});
     const auto read = readAreaInfos(device);
     EXPECT_EQ(toHex(onlyPacket(device)), "c0c2000000000001");
     EXPECT_EQ(read.record.totalSectorCount(), 61440000U);
@@ -71,4 +68,4 @@ TEST(DeviceReads, AChoiceThatCannotBeReadIsOff) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

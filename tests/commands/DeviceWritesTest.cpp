@@ -10,11 +10,9 @@
 #include <cstdint>
 #include <string>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
-using test::ScriptedDevice;
-using test::toHex;
 using namespace std::chrono_literals;
 
 /// 32 bytes of one value, as hexadecimal digits.
@@ -105,7 +103,7 @@ TEST(DeviceWrites, AKeyEnteredByHandTravelsPadded) {
 
 TEST(DeviceWrites, AreasTravelWithoutTheirTablesHeader) {
     ScriptedDevice device;
-    const auto entries = test::fromHex("80000000 0000000000000000 0000000000008000");
+    const auto entries = fromHex("80000000 0000000000000000 0000000000008000");
     EXPECT_EQ(writeAreaInfos(device, entries), kIOReturnSuccess);
     EXPECT_EQ(setup(device, 0), "40c4000000001400");
     EXPECT_EQ(sent(device, 0), "8000000000000000000000000000000000008000");
@@ -146,4 +144,4 @@ TEST(DeviceWrites, TheRemainingTimeChoiceIsWrittenAsOneByte) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

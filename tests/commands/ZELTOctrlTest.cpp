@@ -15,11 +15,8 @@
 #include <type_traits>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
-
-using test::ScriptedDevice;
-using test::toHex;
 
 /// A buffer larger than any command's data; byte i is i.
 std::array<std::uint8_t, 256> countingBuffer() {
@@ -170,8 +167,7 @@ INSTANTIATE_TEST_SUITE_P(Table, Command, testing::ValuesIn(Commands),
 TEST_P(Command, SendsItsSetupPacketOnce) {
     EXPECT_EQ(send(), kIOReturnSuccess);
     ASSERT_EQ(device.transfers.size(), 1U);
-    EXPECT_EQ(toHex(device.transfers[0].setupPacket()),
-              toHex(test::fromHex(GetParam().setupPacket)));
+    EXPECT_EQ(toHex(device.transfers[0].setupPacket()), toHex(fromHex(GetParam().setupPacket)));
 }
 
 TEST_P(Command, SendsTheCallersBytesAndLeavesThemAlone) {
@@ -267,4 +263,4 @@ TEST(Commands, ADriveUnpluggedMeanwhileIsReportedAsGone) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

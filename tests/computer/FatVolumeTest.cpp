@@ -13,9 +13,10 @@
 
 #include <unistd.h>
 
-namespace zelto::simulator {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 
@@ -270,4 +271,4 @@ TEST(MasterBootRecord, LeavesOutPartitionsThatReachBeyondTheDisk) {
 }
 
 } // namespace
-} // namespace zelto::simulator
+} // namespace zelto::test

@@ -4,8 +4,10 @@
 
 #include <array>
 
-namespace zelto::simulator {
+namespace zelto::test {
 namespace {
+
+using namespace simulator;
 
 /// Answers every read with bytes counted from 1 and keeps how often it was asked.
 class CountingDevice : public UsbDeviceInterface {
@@ -108,4 +110,4 @@ TEST_F(FaultyDeviceTest, FailsWhatACallerDescribes) {
 }
 
 } // namespace
-} // namespace zelto::simulator
+} // namespace zelto::test

@@ -3,7 +3,9 @@
 #include "simulator/drive/SectorStore.h"
 #include "simulator/fat/BlockDevice.h"
 
-namespace zelto::simulator {
+namespace zelto::test {
+
+using namespace simulator;
 
 /// A disk in memory.
 class MemoryDisk : public BlockDevice {
@@ -22,4 +24,4 @@ private:
     MemorySectorStore m_store;
 };
 
-} // namespace zelto::simulator
+} // namespace zelto::test

@@ -9,9 +9,10 @@
 
 #include <array>
 
-namespace zelto::simulator {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using std::chrono::seconds;
 using testing::ElementsAre;
 
@@ -271,4 +272,4 @@ TEST_F(VirtualBusTest, PullsThePlugInTheMiddleOfAFlowWhenAskedTo) {
 }
 
 } // namespace
-} // namespace zelto::simulator
+} // namespace zelto::test

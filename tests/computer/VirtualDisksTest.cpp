@@ -6,13 +6,17 @@
 
 namespace zelto {
 
+// Where the type is, so that matchers find it.
 static bool operator==(const MountedFileSystem& left, const MountedFileSystem& right) {
     return left.f_mntonname == right.f_mntonname && left.f_mntfromname == right.f_mntfromname;
 }
 
-namespace simulator {
+} // namespace zelto
+
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using std::chrono::seconds;
 using testing::Contains;
 using testing::ElementsAre;
@@ -205,5 +209,4 @@ TEST_F(VirtualDisksTest, ARegistryCanBeBentToFailOrNeverToEnd) {
 }
 
 } // namespace
-} // namespace simulator
-} // namespace zelto
+} // namespace zelto::test

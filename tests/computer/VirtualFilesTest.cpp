@@ -3,9 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace zelto::simulator {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using testing::Contains;
 using testing::ElementsAre;
 
@@ -109,4 +110,4 @@ TEST_F(VirtualFilesTest, RecordWhatWasOpened) {
 }
 
 } // namespace
-} // namespace zelto::simulator
+} // namespace zelto::test

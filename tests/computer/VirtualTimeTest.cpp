@@ -3,9 +3,10 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto::simulator {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using std::chrono::hours;
 using std::chrono::seconds;
 
@@ -148,4 +149,4 @@ TEST_F(VirtualTimeTest, LetsTheWorldGoOnInsideAnAlert) {
 }
 
 } // namespace
-} // namespace zelto::simulator
+} // namespace zelto::test

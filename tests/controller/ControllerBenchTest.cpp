@@ -4,7 +4,7 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using testing::Contains;
@@ -103,4 +103,4 @@ TEST_F(ControllerBenchTest, StartsAgainOnTheSameComputer) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

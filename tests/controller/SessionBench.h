@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 
 /// What the tests of the session share: a bench, and drives that lie.
 class SessionTest : public testing::Test {
@@ -43,4 +43,4 @@ protected:
     ControllerBench m_bench;
 };
 
-} // namespace zelto
+} // namespace zelto::test

@@ -1,6 +1,6 @@
 #include "tests/controller/SessionBench.h"
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using testing::Contains;
@@ -224,4 +224,4 @@ TEST_F(FullLockTest, AnUnreadableTimeStatusShowsNothing) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -1,7 +1,7 @@
 #include "digest/SHA256.h"
 #include "tests/controller/SessionBench.h"
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using simulator::LogLine;
@@ -242,4 +242,4 @@ TEST_F(SessionLogInTest, DigestsThirtyTwoCharacters) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

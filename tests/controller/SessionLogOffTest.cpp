@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using testing::Contains;
@@ -262,4 +262,4 @@ TEST_F(SessionLogOffTest, AFailedStatusReadDuringSpinUpIsReportedAndTheApplicati
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

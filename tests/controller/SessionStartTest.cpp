@@ -1,6 +1,6 @@
 #include "tests/controller/SessionBench.h"
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using simulator::DiskVerb;
@@ -231,4 +231,4 @@ TEST_F(ToolAreaTest, AFailedCopyIsSaidWithBothPathsWhateverTheyContain) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -1,6 +1,6 @@
 #include "tests/controller/SessionBench.h"
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using testing::Contains;
@@ -307,4 +307,4 @@ TEST_F(SessionTimerTest, AnAwaitedDriveIsRecognisedByItsSerialNumberEvenAsTheNin
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

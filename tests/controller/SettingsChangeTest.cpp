@@ -1,12 +1,10 @@
 #include "tests/controller/SettingsBench.h"
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using namespace std::chrono_literals;
 using simulator::Fault;
-using test::SettingsBench;
-using test::Wishes;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -311,4 +309,4 @@ TEST_F(ChangeSettings, ADriveWithoutSecureAreaHasNothingToChangeButNothingBreaks
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

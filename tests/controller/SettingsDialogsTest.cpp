@@ -2,11 +2,9 @@
 
 #include <QTimer>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
-using test::SettingsBench;
-using test::Wishes;
 using testing::IsEmpty;
 
 std::vector<QString> strangeTexts() {
@@ -353,4 +351,4 @@ TEST(AreaSettingsObject, RunsItsWindowAndReturnsZero) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -3,10 +3,9 @@
 
 #include <map>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
-using test::SettingsBench;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -160,4 +159,4 @@ TEST_F(KeyInStates, TheDefaultAnswerSendsNothingInAnyState) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -1,13 +1,11 @@
 #include "tests/controller/SettingsBench.h"
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using simulator::DiskVerb;
 using simulator::Fault;
 using simulator::ToolBehaviour;
-using test::SettingsBench;
-using test::Wishes;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -206,4 +204,4 @@ TEST_F(ClearAll, EachFailedCommandIsReportedOnceAndStopsIt) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -4,14 +4,12 @@
 
 #include <ostream>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using namespace std::chrono_literals;
 using simulator::DiskVerb;
 using simulator::ToolBehaviour;
-using test::SettingsBench;
-using test::Wishes;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
@@ -353,4 +351,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& story) { return std::string(story.param.name); });
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -1,9 +1,8 @@
 #include "tests/controller/SettingsBench.h"
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
-using test::SettingsBench;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -182,4 +181,4 @@ TEST_F(SetupProgressTest, NothingIsSentToADriveAfterTheProgramHasGivenUp) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

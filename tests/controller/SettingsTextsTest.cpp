@@ -1,9 +1,8 @@
 #include "tests/controller/SettingsBench.h"
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
-using test::SettingsBench;
 using testing::IsEmpty;
 
 /// A text that somebody may paste into any field, and what it is good for.
@@ -227,4 +226,4 @@ TEST_F(PastedTexts, ATextOf1093MinutesWouldBeSentAs44Seconds) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

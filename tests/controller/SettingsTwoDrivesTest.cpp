@@ -2,11 +2,9 @@
 
 #include <set>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
-using test::SettingsBench;
-using test::Wishes;
 using testing::IsEmpty;
 using testing::Not;
 
@@ -131,4 +129,4 @@ TEST_F(TwoDrives, AnotherDriveThatArrivesWhileOneIsAwaitedIsNotTakenForIt) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

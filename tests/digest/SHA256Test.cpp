@@ -12,10 +12,8 @@
 #include <string_view>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
-
-using test::toHex;
 
 constexpr std::string_view EmptyDigest =
     "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855";
@@ -192,4 +190,4 @@ TEST(SHA256, DigestsAWholeMessageAtOnce) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 struct Secret {
@@ -56,7 +56,6 @@ TEST(Wipe, ZeroesAWholeRecord) {
     EXPECT_TRUE(std::ranges::all_of(record.digest, [](auto byte) { return byte == 0; }));
 }
 
-
 TEST(Wipe, AWipedRecordIsZeroOnceItHasGone) {
     alignas(Wiped<Secret>) std::array<std::uint8_t, sizeof(Wiped<Secret>)> storage{};
     auto* const secret = new (storage.data()) Wiped<Secret>{{.kind = 9}};
@@ -79,4 +78,4 @@ TEST(Wipe, ARecordIsWipedWhenAnExceptionEndsItsScope) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -11,10 +11,8 @@ inline void PrintTo(const QString& text, std::ostream* stream) {
     *stream << '"' << text.toStdString() << '"';
 }
 
-namespace zelto {
+namespace zelto::test {
 namespace {
-
-using test::WayToFail;
 
 /// A request in a letter.
 char letterOf(const simulator::LogLine& line) {
@@ -299,9 +297,8 @@ TEST_P(SessionFaults, OfATickLeaveTheDrivesLabelsAsTheyWere) {
            .rows = {{0, "RLZSG", {"AuthenticateWindow", {}, ""}}}});
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, SessionFaults, test::waysToFail(test::Ways::All), test::nameOfWay);
-INSTANTIATE_TEST_SUITE_P(Every, SessionRetries, test::waysToFail(test::Ways::Unheard),
-                         test::nameOfWay);
+INSTANTIATE_TEST_SUITE_P(Every, SessionFaults, waysToFail(Ways::All), nameOfWay);
+INSTANTIATE_TEST_SUITE_P(Every, SessionRetries, waysToFail(Ways::Unheard), nameOfWay);
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

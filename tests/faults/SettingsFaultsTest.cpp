@@ -3,14 +3,11 @@
 
 #include <algorithm>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using namespace std::chrono_literals;
 using simulator::Fault;
-using test::SettingsBench;
-using test::WayToFail;
-using test::Wishes;
 
 /// Every settings flow with every one of its transfers going wrong, one at a time.
 class SettingsFaults : public SettingsBench, public testing::WithParamInterface<WayToFail> {
@@ -177,9 +174,8 @@ TEST_P(SettingsFaults, OfErasingTheKeyLeaveTheProgramRunningUntilItLogsOut) {
            .ownMessages = 1});
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, SettingsFaults, test::waysToFail(test::Ways::All), test::nameOfWay);
-INSTANTIATE_TEST_SUITE_P(Every, SettingsRetries, test::waysToFail(test::Ways::DriveStays),
-                         test::nameOfWay);
+INSTANTIATE_TEST_SUITE_P(Every, SettingsFaults, waysToFail(Ways::All), nameOfWay);
+INSTANTIATE_TEST_SUITE_P(Every, SettingsRetries, waysToFail(Ways::DriveStays), nameOfWay);
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

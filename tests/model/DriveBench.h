@@ -12,8 +12,9 @@
 
 /// What the tests of the drive are written with: requests in the bytes of the wire, typed by hand,
 /// and a drive on the bench with a clock that the test moves.
-namespace zelto::simulator::test {
+namespace zelto::test {
 
+using namespace simulator;
 using namespace std::chrono_literals;
 using Bytes = std::vector<std::uint8_t>;
 
@@ -215,4 +216,4 @@ struct Bench {
     DriveModel drive;
 };
 
-} // namespace zelto::simulator::test
+} // namespace zelto::test

@@ -11,10 +11,10 @@
 #include <unistd.h>
 #include <vector>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
-using tests::TemporaryFolder;
+using namespace simulator;
 
 using Bytes = std::vector<std::uint8_t>;
 
@@ -254,4 +254,4 @@ TEST(FileSectorStore, WhereThereCanBeNoneSaysWhy) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

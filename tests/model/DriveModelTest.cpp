@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using enum SecurityState;
 
 constexpr Sense WrongPassword{5, 0x74, 0x40};
@@ -544,4 +545,4 @@ TEST(HintData, IsNotWrittenBeyondItsEnd) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 #include <string>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
+
+using namespace simulator;
 
 /// A drive that remembers something of every kind.
 SavedDrive fullDrive() {
@@ -152,4 +154,4 @@ TEST(DriveState, ThatNoDriveCanHaveIsNotReadThoughItsSumFits) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using enum SecurityState;
 
 Bench unlockedDrive() {
@@ -333,4 +334,4 @@ TEST(Time, BeyondAllReasonDoesNotOverflow) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

@@ -7,9 +7,10 @@
 
 /// A drive under hundreds of thousands of requests, sound and mangled, with time and plugs thrown
 /// in. The seeds are fixed: a failure comes back.
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using enum SecurityState;
 
 class Player {
@@ -192,4 +193,4 @@ TEST_P(RandomRequests, NeverBreakTheDrive) {
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomRequests, testing::Values(1U, 2U, 3U, 4U, 5U, 6U));
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

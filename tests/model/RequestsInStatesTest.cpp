@@ -4,9 +4,10 @@
 #include <string>
 
 /// Every request in every state. State 1 is not among them: the drive never enters it.
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using enum SecurityState;
 
 constexpr Sense Ok{};
@@ -236,4 +237,4 @@ TEST(SpinUp, AnswersNotReadyForTheSetNumberOfReads) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

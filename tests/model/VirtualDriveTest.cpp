@@ -8,10 +8,10 @@
 #include <sstream>
 #include <sys/stat.h>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
-using tests::TemporaryFolder;
+using namespace simulator;
 
 using enum SecurityState;
 
@@ -386,4 +386,4 @@ TEST(VirtualDriveFolder, TakesNoDriveThatCanNotBeMade) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

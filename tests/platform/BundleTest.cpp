@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
+
+using namespace linux_platform;
 
 TEST(Bundle, IsTheAppFolderAboveTheProgram) {
     EXPECT_EQ(enclosingBundle("/usr/lib/zelto/ZeltoAppMac.app/zelto"),
@@ -56,7 +58,7 @@ TEST(Bundle, IsNotTakenForUnpackedWithoutAWholeDigest) {
 }
 
 TEST(Bundle, OfThePackagesProgramIsThePackages) {
-    const tests::TemporaryFolder prefix;
+    const TemporaryFolder prefix;
     EXPECT_EQ(bundleOf(prefix / "bin/zelto"), std::nullopt);
     prefix.makeFolder("lib/zelto/ZeltoAppMac.app");
     EXPECT_EQ(bundleOf(prefix / "bin/zelto"), prefix / "lib/zelto/ZeltoAppMac.app");
@@ -64,4 +66,4 @@ TEST(Bundle, OfThePackagesProgramIsThePackages) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

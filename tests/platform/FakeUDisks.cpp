@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-namespace zelto::tests {
+namespace zelto::test {
 
 namespace {
 
@@ -207,4 +207,4 @@ void FakeUDisks::format(const QDBusMessage& call) {
     set(call.path(), "Block", "IdUUID", "BBBB-0002");
 }
 
-} // namespace zelto::tests
+} // namespace zelto::test

@@ -14,7 +14,7 @@
 #include <map>
 #include <optional>
 
-namespace zelto::tests {
+namespace zelto::test {
 
 /// A message bus that nobody but this program knows.
 class PrivateBus {
@@ -88,4 +88,4 @@ private:
     std::function<void()> m_event;
 };
 
-} // namespace zelto::tests
+} // namespace zelto::test

@@ -13,9 +13,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
 
+using namespace linux_platform;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 namespace fs = std::filesystem;
@@ -78,7 +79,7 @@ protected:
         folder.makeFolder("to");
     }
 
-    tests::TemporaryFolder folder;
+    TemporaryFolder folder;
     const fs::path source = folder / "from/Zelto Ü.app";
     const fs::path destination = folder / "to/Zelto Ü.app";
 };
@@ -215,4 +216,4 @@ TEST_F(FileCopy, IsUnlockedWithoutFollowingLinks) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

@@ -14,9 +14,10 @@
 #include <pwd.h>
 #include <unistd.h>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
 
+using namespace linux_platform;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -33,7 +34,7 @@ protected:
 
     Waiting waiting;
     LinuxComputer computer{waiting};
-    tests::TemporaryFolder folder;
+    TemporaryFolder folder;
 
 private:
     std::string m_home = "/";
@@ -179,4 +180,4 @@ TEST_F(ComputerTest, StartsTheProgramFreeOfEverythingThatWouldKeepAVolumeBusy) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

@@ -8,11 +8,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
 
+using namespace linux_platform;
 using ::testing::ElementsAre;
-using tests::FakeUDisks;
 
 constexpr auto Disk = FakeUDisks::DiskPath;
 constexpr auto Partition = FakeUDisks::PartitionPath;
@@ -57,7 +57,7 @@ protected:
         return {[this] { return client; }, waiting, mounts, "/proc", std::chrono::milliseconds(0)};
     }
 
-    tests::PrivateBus bus;
+    PrivateBus bus;
     QDBusConnection client = bus.connection("client");
     FakeUDisks udisks{bus.connection("service")};
     Waiting waiting;
@@ -372,4 +372,4 @@ TEST(FatPartitionPlan, FitsTheDisk) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

@@ -10,9 +10,10 @@
 #include <string>
 #include <vector>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
 
+using namespace linux_platform;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -28,7 +29,7 @@ void outline(const RegistryEntry& entry, const std::string& indent,
     }
 }
 
-std::vector<std::string> outlineOf(const tests::SysfsTree& tree) {
+std::vector<std::string> outlineOf(const SysfsTree& tree) {
     std::vector<std::string> lines;
     LinuxRegistry registry(tree.path());
     outline(*registry.IORegistryGetRootEntry(), "", lines);
@@ -36,7 +37,7 @@ std::vector<std::string> outlineOf(const tests::SysfsTree& tree) {
 }
 
 /// What a walk of the whole tree finds; nothing when the walk says that it is not complete.
-std::optional<std::vector<std::string>> scan(const tests::SysfsTree& tree, std::uint8_t diskNumber,
+std::optional<std::vector<std::string>> scan(const SysfsTree& tree, std::uint8_t diskNumber,
                                              const std::string& serial = Serial) {
     LinuxRegistry registry(tree.path());
     std::vector<std::string> names;
@@ -54,7 +55,7 @@ protected:
         tree.addUsbDevice(place, 1, 5, "07f7", "0135", Serial);
     }
 
-    tests::SysfsTree tree;
+    SysfsTree tree;
     const std::string place = "pci/usb1/1-1/1-1.2";
 };
 
@@ -172,12 +173,12 @@ TEST_F(Drive, IsPassedOverWhileItsIdentifiersAreNonsense) {
 }
 
 TEST(LinuxRegistry, OfAComputerWithoutUsbHasOnlyTheClosingEntry) {
-    const tests::SysfsTree tree;
+    const SysfsTree tree;
     EXPECT_THAT(outlineOf(tree), ElementsAre("Root", ".End"));
 }
 
 TEST(LinuxRegistry, OrdersDevicesByBusAndDeviceNumber) {
-    const tests::SysfsTree tree;
+    const SysfsTree tree;
     tree.addUsbDevice("pci/usb2", 2, 1, "1d6b", "0003", "");
     tree.addUsbDevice("pci/usb1", 1, 1, "1d6b", "0002", "");
     tree.addUsbDevice("pci/usb1/1-1", 1, 12, "1d6b", "0002", "");
@@ -220,4 +221,4 @@ TEST(DeviceRule, DeclaresTheAreasToBeNoPartOfTheComputer) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

@@ -16,8 +16,10 @@
 #include <unistd.h>
 #include <vector>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
+
+using namespace linux_platform;
 
 constexpr UsbMatching Zelto{0x07f7, 0x0135};
 
@@ -63,7 +65,7 @@ protected:
         return device.DeviceRequest(request);
     }
 
-    tests::UsbBed bed;
+    UsbBed bed;
     Waiting waiting;
     LinuxUsb usb{waiting, {1, std::chrono::milliseconds(0)}};
     IOObject port = 0;
@@ -209,4 +211,4 @@ TEST(UsbResults, FollowTheTable) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

@@ -5,9 +5,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
 
+using namespace linux_platform;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::Field;
@@ -77,7 +78,7 @@ TEST(MountInfo, LeavesWhatIsNoEscapeAlone) {
 }
 
 TEST(LinuxMountTable, ReadsTheTableAfreshEachTime) {
-    const tests::TemporaryFolder folder;
+    const TemporaryFolder folder;
     LinuxMountTable table(folder / "mountinfo");
     EXPECT_THAT(table.getmntinfo(), IsEmpty());
     folder.write("mountinfo", "1 2 8:1 / /a rw - vfat /dev/a rw\n");
@@ -93,4 +94,4 @@ TEST(LinuxMountTable, HasTheFileSystemThatTheTableItselfIsReadFrom) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

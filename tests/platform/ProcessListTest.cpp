@@ -7,9 +7,10 @@
 
 #include <unistd.h>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
 
+using namespace linux_platform;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -30,7 +31,7 @@ protected:
         return programsHolding({"/dev/sdb", "/dev/sdb1"}, mounted, proc.path(), user);
     }
 
-    tests::TemporaryFolder proc;
+    TemporaryFolder proc;
     std::vector<MountedFileSystem> mounted{
         {"/", "/dev/sda1"}, {"/media/a/My Disk", "/dev/sdb1"}, {"/media/a/My Disk 2", "/dev/sdc1"}};
 };
@@ -110,4 +111,4 @@ TEST(Processes, AreListedByNumberThisOneAmongThem) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

@@ -8,8 +8,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
+
+using namespace linux_platform;
 
 class ReadBack : public ::testing::Test {
 protected:
@@ -22,7 +24,7 @@ protected:
         return readsBackAs(one.get(), other.get());
     }
 
-    tests::TemporaryFolder folder;
+    TemporaryFolder folder;
     const std::string large = std::string(700'001, 'x');
 };
 
@@ -56,4 +58,4 @@ TEST_F(ReadBack, TakesWhatCannotBeReadForDifferent) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

@@ -11,9 +11,10 @@
 #include <string>
 #include <vector>
 
-namespace zelto::linux_platform {
+namespace zelto::test {
 namespace {
 
+using namespace linux_platform;
 using std::chrono::seconds;
 using std::chrono::sys_seconds;
 
@@ -128,4 +129,4 @@ TEST_F(Zone, SleepsNotAtAllForNoTime) {
 }
 
 } // namespace
-} // namespace zelto::linux_platform
+} // namespace zelto::test

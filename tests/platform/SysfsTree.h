@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace zelto::tests {
+namespace zelto::test {
 
 /// A sysfs that the tests write themselves, laid out as the kernel lays out its own.
 class SysfsTree {
@@ -72,4 +72,4 @@ private:
     TemporaryFolder m_folder;
 };
 
-} // namespace zelto::tests
+} // namespace zelto::test

@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace zelto::tests {
+namespace zelto::test {
 
 namespace {
 
@@ -201,4 +201,4 @@ simulator::ControlReply UsbBed::control(const simulator::SetupPacket& setup,
     return {false, {10, 3, 'Z', 0, 'D', 0, '0', 0, '1', 0}};
 }
 
-} // namespace zelto::tests
+} // namespace zelto::test

@@ -12,7 +12,7 @@
 
 #include <umockdev.h>
 
-namespace zelto::tests {
+namespace zelto::test {
 
 /// A USB bus that only this process sees, with drives behind it: libudev and libusb are the real
 /// ones, the kernel below them is not. One at a time.
@@ -52,4 +52,4 @@ private:
     UMockdevIoctlData* m_finished = nullptr;
 };
 
-} // namespace zelto::tests
+} // namespace zelto::test

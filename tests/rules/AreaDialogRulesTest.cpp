@@ -5,7 +5,7 @@
 
 #include <limits>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 /// 956 MiB beside the tool area.
@@ -52,7 +52,7 @@ TEST(AreaDialog, ATextThatIsNoNumberIsRefusedButItsDigitsAreKept) {
 }
 
 TEST(AreaDialog, StrangeTextsInAnyFieldAreRefused) {
-    for (const QString& strange : test::strangeTexts()) {
+    for (const QString& strange : strangeTexts()) {
         EXPECT_FALSE(judge(strange, text("1"), text("1")).isComplete);
         EXPECT_FALSE(judge(text("1"), strange, text("1")).isComplete);
         EXPECT_FALSE(judge(text("1"), text("1"), strange).isComplete);
@@ -77,4 +77,4 @@ TEST(AreaDialog, NothingFitsOnADriveWithoutRoom) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -7,7 +7,7 @@
 #include <limits>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 constexpr std::uint64_t AllOnes = std::numeric_limits<std::uint64_t>::max();
@@ -265,4 +265,4 @@ TEST(AppendToolArea, AnEntryNotInUseIsNotMarked) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

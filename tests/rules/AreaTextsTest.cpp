@@ -5,7 +5,7 @@
 
 #include <limits>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 QString keyItself(const char* key) {
@@ -92,4 +92,4 @@ TEST(AreaCellText, AnUnknownColumnIsEmpty) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 TEST(NumericCheck, TheEmptyTextPasses) {
@@ -36,7 +36,7 @@ TEST(NumericCheck, ExactlyTheDigitsOfEitherSetPass) {
 }
 
 TEST(NumericCheck, StrangeTextsFail) {
-    for (const QString& text : test::strangeTexts()) {
+    for (const QString& text : strangeTexts()) {
         EXPECT_FALSE(NumericCheck(text)) << text.left(20).toStdString();
     }
 }
@@ -98,4 +98,4 @@ TEST(IntegerValue, StopsAtACharacterOfAnyScript) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -17,11 +17,8 @@
 #include <utility>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
-
-using test::ScriptedDevice;
-using test::ScriptedUsb;
 
 /// A string descriptor as an honest drive sends it: ASCII as UTF-16, least significant byte first.
 std::vector<std::uint8_t> descriptorOf(std::string_view text) {
@@ -163,7 +160,7 @@ TEST_F(Discovery, EachDriveIsOpenedOnceAndAskedForItsSerialNumberOnly) {
     EXPECT_EQ(setUpNotifications(), 0);
     EXPECT_EQ(drive->timesOpened, 1);
     ASSERT_EQ(drive->transfers.size(), 1U);
-    EXPECT_EQ(test::toHex(drive->transfers[0].setupPacket()), "8006030309048000");
+    EXPECT_EQ(toHex(drive->transfers[0].setupPacket()), "8006030309048000");
 }
 
 TEST_F(Discovery, ANinthDriveIsNotListedButStaysOpen) {
@@ -307,7 +304,7 @@ TEST(SerialNumberRequest, IsAStandardRequestForAStringInEnglish) {
     std::array<std::uint8_t, 4> buffer{9, 9, 9, 9};
     EXPECT_EQ(USB_GetSerialNumberString(device, 0xAB, buffer.data(), 4), kIOReturnTimeout);
     ASSERT_EQ(device.transfers.size(), 1U);
-    EXPECT_EQ(test::toHex(device.transfers[0].setupPacket()), "8006ab0309040400");
+    EXPECT_EQ(toHex(device.transfers[0].setupPacket()), "8006ab0309040400");
     EXPECT_EQ(buffer, (std::array<std::uint8_t, 4>{2, 3, 9, 9}));
 }
 
@@ -346,4 +343,4 @@ TEST(SerialNumber, AnyClaimedLengthStaysWithinTheBuffers) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

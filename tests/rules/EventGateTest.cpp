@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 /// Keeps what was put off until the test runs it.
@@ -122,4 +122,4 @@ TEST_F(EventGateTest, NothingPassesOnceClosedForGood) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

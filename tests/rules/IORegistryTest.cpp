@@ -9,11 +9,9 @@
 #include <utility>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
-using test::RegistryNode;
-using test::ScriptedRegistry;
 using Names = std::vector<std::string>;
 
 RegistryNode plain(std::string name, std::vector<RegistryNode> children = {}) {
@@ -391,4 +389,4 @@ TEST(RegistryWalkDeathTest, AnEntryThatCannotBeReadEndsTheProcess) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 struct KeyCase {
@@ -36,7 +36,7 @@ TEST(KeyText, HasAtMost128Digits) {
 }
 
 TEST(KeyText, StrangeTextsAreInvalid) {
-    for (const QString& text : test::strangeTexts()) {
+    for (const QString& text : strangeTexts()) {
         EXPECT_FALSE(isValidKeyText(text)) << text.left(20).toStdString();
     }
 }
@@ -69,7 +69,7 @@ TEST(KeyOfDigits, LeavesOutWhatHasNoRoom) {
 }
 
 TEST(KeyOfDigits, AnyTextIsSafe) {
-    for (const QString& text : test::strangeTexts()) {
+    for (const QString& text : strangeTexts()) {
         static_cast<void>(keyOfDigits(text));
     }
     EXPECT_EQ(keyOfDigits(u"")[0], 0);
@@ -80,4 +80,4 @@ TEST(KeyOfDigits, AnyTextIsSafe) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using State = SecurityState;
@@ -160,4 +160,4 @@ TEST(SecurityView, AutoLogOffKeepsItsNumberWhileItIsOn) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 const AutoClearEntry ValidClear{true, PeriodUnit::Days, QStringLiteral("9999")};
@@ -103,4 +103,4 @@ TEST(OkAtChanging, IsTheSameForEveryCombination) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

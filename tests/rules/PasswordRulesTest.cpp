@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 const QString LongestPassword(32, u'p');
@@ -93,7 +93,7 @@ TEST(TrialCount, IsOneToNinetyNineInPlainDigits) {
 }
 
 TEST(TrialCount, StrangeTextsCountAsNone) {
-    for (const QString& text : test::strangeTexts()) {
+    for (const QString& text : strangeTexts()) {
         EXPECT_EQ(trialCount(text), 0) << text.left(20).toStdString();
         EXPECT_FALSE(isValidTrialCount(text));
     }
@@ -176,4 +176,4 @@ TEST(PasswordChange, TheNewPasswordsMayEqualTheCurrentOnes) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 AutoClearEntry days(const QString& text) {
@@ -59,14 +59,14 @@ TEST(AutoClearEntry, IsValidUpToTheLimitOfItsUnit) {
 }
 
 TEST(PeriodEntries, AreValidWithAnyTextWhenSwitchedOff) {
-    for (const QString& text : test::strangeTexts()) {
+    for (const QString& text : strangeTexts()) {
         EXPECT_TRUE(isValid(AutoClearEntry{false, PeriodUnit::Days, text}));
         EXPECT_TRUE(isValid(AutoLogOffEntry{false, text}));
     }
 }
 
 TEST(PeriodEntries, StrangeTextsAreInvalidWhenSwitchedOn) {
-    for (const QString& text : test::strangeTexts()) {
+    for (const QString& text : strangeTexts()) {
         EXPECT_FALSE(isValid(days(text))) << text.left(20).toStdString();
         EXPECT_FALSE(isValid(logOff(text))) << text.left(20).toStdString();
     }
@@ -149,4 +149,4 @@ TEST(ShownPeriods, GoBackToTheDriveAsTheyCame) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

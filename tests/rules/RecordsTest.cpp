@@ -15,13 +15,11 @@
 #include <string>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using record::covers;
 using record::Field;
-using test::arrayFromHex;
-using test::toHex;
 
 // --- Tables ------------------------------------------------------------------------------------
 
@@ -182,7 +180,7 @@ TEST(CurrentTime, IsSevenBytesWithTheYearInFront) {
 
 AreaInfoTable tableOf(std::string_view hex) {
     AreaInfoTable table;
-    std::ranges::copy(test::fromHex(hex), table.bytes().begin());
+    std::ranges::copy(fromHex(hex), table.bytes().begin());
     return table;
 }
 
@@ -373,4 +371,4 @@ TEST(EncryptionInfo, AKeyOfFullLengthEndsTheRecord) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

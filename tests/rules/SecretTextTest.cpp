@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 TEST(SecretText, ACopyIsNotSharedWithItsOriginal) {
@@ -51,4 +51,4 @@ TEST(SecretText, WipingPasswordsEmptiesAllFourAndKeepsTheChoices) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -6,7 +6,7 @@
 
 #include <chrono>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using namespace std::chrono;
@@ -133,4 +133,4 @@ TEST(BundleLocation, ReadsSpacesAndNonAsciiLetters) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

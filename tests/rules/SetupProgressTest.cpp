@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 SetupProgress progressOf(std::uint8_t state, std::int32_t waitCount = SetupProgress::WaitTicks) {
@@ -95,4 +95,4 @@ TEST(SetupView, ASetupThatIsDoneSaysSo) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

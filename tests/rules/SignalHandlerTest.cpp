@@ -11,10 +11,9 @@
 #include <string>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
-using test::ScriptedUsb;
 using testing::AllOf;
 using testing::ExitedWithCode;
 using testing::HasSubstr;
@@ -97,4 +96,4 @@ TEST_F(SignalHandlerDeathTest, EverythingIsGivenBackOnce) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 
 ControllerBench::ControllerBench()
     : person([](const std::string& what) { ADD_FAILURE() << what; }) {
@@ -53,4 +53,4 @@ std::vector<std::string> ControllerBench::diskToolRuns() const {
     return computer.log.texts(simulator::LogLine::Kind::DiskTool);
 }
 
-} // namespace zelto
+} // namespace zelto::test

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace zelto {
+namespace zelto::test {
 
 /// A bench for tests of the whole controller: a virtual computer, alerts with scripted answers, the
 /// utility with its real windows, and somebody who drives them. Nothing sleeps and no real time
@@ -80,4 +80,4 @@ private:
     std::unique_ptr<simulator::UtilityProcess> m_process;
 };
 
-} // namespace zelto
+} // namespace zelto::test

@@ -8,7 +8,7 @@
 #include <span>
 #include <utility>
 
-namespace zelto {
+namespace zelto::test {
 
 /// A drive that lies: what it answers to a vendor request is changed on the way to the program.
 class ForgedReplies : public simulator::ForwardingDevice {
@@ -44,4 +44,4 @@ private:
     std::shared_ptr<Forgeries> m_forgeries;
 };
 
-} // namespace zelto
+} // namespace zelto::test

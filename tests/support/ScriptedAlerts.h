@@ -2,6 +2,6 @@
 
 #include "simulator/computer/ScriptedAlerts.h"
 
-namespace zelto {
+namespace zelto::test {
 using simulator::ScriptedAlerts;
 }

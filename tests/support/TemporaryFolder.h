@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace zelto::tests {
+namespace zelto::test {
 
 /// A folder that goes away, with all that is in it, with this object.
 class TemporaryFolder {
@@ -52,4 +52,4 @@ private:
     std::filesystem::path m_path;
 };
 
-} // namespace zelto::tests
+} // namespace zelto::test

@@ -10,7 +10,7 @@
 
 #include <functional>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 // Shows the panel and lets `user` act on it once it is up.
@@ -129,4 +129,4 @@ TEST(AlertPresenterTest, TakesAVeryLongMessage) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

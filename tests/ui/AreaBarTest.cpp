@@ -11,7 +11,7 @@
 #include <limits>
 #include <numeric>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using ::testing::Each;
@@ -125,4 +125,4 @@ TEST(AreaBarTest, ShowsTheAreaUnderThePointerInFull) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

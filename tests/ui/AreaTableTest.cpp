@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 class AreaTableTest : public ::testing::Test {
@@ -86,4 +86,4 @@ TEST_F(AreaTableTest, TheViewHasRoomForThreeAreasAndTheToolArea) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

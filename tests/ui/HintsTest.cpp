@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 template <typename Hint>
@@ -110,4 +110,4 @@ TEST(NumberFieldTest, IsAsWideAsItsDigitsAndRefusesNothing) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

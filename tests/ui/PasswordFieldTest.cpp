@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 class PasswordFieldTest : public ::testing::Test {
@@ -162,4 +162,4 @@ TEST_F(PasswordFieldTest, TextsOfAnyLengthAndScriptAreTaken) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

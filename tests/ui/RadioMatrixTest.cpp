@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 class RadioMatrixTest : public ::testing::Test {
@@ -93,4 +93,4 @@ TEST_F(RadioMatrixTest, ARadioButtonWithoutATagIsNoCell) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 using State = SetupStepsView::State;
@@ -83,4 +83,4 @@ TEST(SetupStepsViewTest, LooksDifferentInEveryStepAndKeepsItsSize) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

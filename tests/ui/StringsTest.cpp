@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 struct KeyRow {
@@ -134,4 +134,4 @@ TEST_F(StringsTest, NumbersOfEveryWidthAreFilledIn) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

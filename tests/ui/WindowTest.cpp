@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 TEST(WindowTest, ComesUpCentredOnItsScreenAndInFront) {
@@ -134,4 +134,4 @@ TEST(TextInputModesTest, HaveTheirNumbers) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

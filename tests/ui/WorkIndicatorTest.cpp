@@ -12,7 +12,7 @@
 
 #include <optional>
 
-namespace zelto {
+namespace zelto::test {
 namespace {
 
 class WorkIndicatorTest : public ::testing::Test {
@@ -78,4 +78,4 @@ TEST_F(WorkIndicatorTest, ThePointerIsAsBeforeAfterwards) {
 }
 
 } // namespace
-} // namespace zelto
+} // namespace zelto::test

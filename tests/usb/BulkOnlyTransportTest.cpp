@@ -1,8 +1,9 @@
 #include "tests/usb/UsbTest.h"
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using ::testing::ElementsAre;
 
 const Bytes Ready{0x00, 0, 0, 0, 0, 0};
@@ -321,4 +322,4 @@ TEST_F(BulkOnly, HugeLengthsAreOnlyNumbers) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

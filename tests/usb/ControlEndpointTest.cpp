@@ -1,9 +1,10 @@
 #include "simulator/usb/ControlFaults.h"
 #include "tests/usb/UsbTest.h"
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using ::testing::ElementsAre;
 
 using ControlEndpoint = UsbTest;
@@ -236,4 +237,4 @@ TEST(FaultNames, AreKnown) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

@@ -8,8 +8,9 @@
 #include <functional>
 #include <vector>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 
+using namespace simulator;
 using Bytes = std::vector<std::uint8_t>;
 
 /// Media in memory that a test puts in and takes out.
@@ -106,4 +107,4 @@ inline Bytes pattern(std::size_t size, unsigned seed) {
     return bytes;
 }
 
-} // namespace zelto::simulator::test
+} // namespace zelto::test

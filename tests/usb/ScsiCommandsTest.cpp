@@ -1,8 +1,9 @@
 #include "tests/usb/ScsiTest.h"
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 
@@ -349,4 +350,4 @@ TEST_F(AbsentUnit, RefusesEverythingElse) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

@@ -1,8 +1,9 @@
 #include "tests/usb/ScsiTest.h"
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using ScsiMedium = ScsiTest;
 
 TEST_F(ScsiMedium, IsReadyOnceItsArrivalWasAnnounced) {
@@ -177,4 +178,4 @@ TEST_F(ScsiMedium, ThatCanNotBeFlushedIsNotEjected) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

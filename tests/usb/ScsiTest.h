@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 #include <initializer_list>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
+
+using namespace simulator;
 
 /// How a command ended.
 struct Outcome {
@@ -75,4 +77,4 @@ inline constexpr Sense InvalidField{0x05, 0x24, 0x00};
 inline constexpr Sense MediumChanged{0x06, 0x28, 0x00};
 inline constexpr Sense PowerOn{0x06, 0x29, 0x00};
 
-} // namespace zelto::simulator::test
+} // namespace zelto::test

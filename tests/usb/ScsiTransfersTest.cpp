@@ -2,8 +2,10 @@
 
 #include <ostream>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
+
+using namespace simulator;
 
 constexpr std::size_t Sector = 512;
 
@@ -239,4 +241,4 @@ TEST_F(ScsiTransfers, SynchronizeCacheFlushesAndChecksTheRange) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

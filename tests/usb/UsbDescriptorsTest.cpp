@@ -1,9 +1,10 @@
 #include "simulator/usb/UsbDescriptors.h"
 #include "tests/usb/UsbTest.h"
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 
@@ -83,4 +84,4 @@ TEST_F(UsbDescriptors, OfASerialNumberTooLongForOneByteAreCut) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

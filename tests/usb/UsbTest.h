@@ -6,7 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
+
+using namespace simulator;
 
 inline constexpr std::uint8_t BulkIn = 1;
 inline constexpr std::uint8_t BulkOut = 2;
@@ -86,4 +88,4 @@ inline constexpr TransferResult Stall{TransferStatus::Stalled, 0};
 inline constexpr TransferResult Done{TransferStatus::Complete, 0};
 inline constexpr TransferResult Held{TransferStatus::Waiting, 0};
 
-} // namespace zelto::simulator::test
+} // namespace zelto::test

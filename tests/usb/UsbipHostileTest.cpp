@@ -2,9 +2,10 @@
 
 #include <random>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using UsbipHostile = UsbipTest;
 
 TEST_F(UsbipHostile, NonsenseEndsTheSession) {
@@ -222,4 +223,4 @@ TEST_P(UsbipRandom, NothingBreaksIt) {
 INSTANTIATE_TEST_SUITE_P(Seeds, UsbipRandom, ::testing::Range(1U, 17U));
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

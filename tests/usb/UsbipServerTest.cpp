@@ -6,8 +6,10 @@
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
+
+using namespace simulator;
 
 /// The server in its loop, and clients on real sockets. Nothing waits: the loop is turned by hand.
 class Server : public UsbTest {
@@ -217,4 +219,4 @@ TEST(Loop, CallsTimersOnTimeAlsoWhileItStaysAwake) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

@@ -1,8 +1,9 @@
 #include "tests/usb/UsbipTest.h"
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using ::testing::ElementsAreArray;
 
 const Bytes Ready{0x00, 0, 0, 0, 0, 0};
@@ -276,4 +277,4 @@ TEST_F(UsbipTransfers, HostThatDoesNotTakeItsAnswersIsNotAskedForMore) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

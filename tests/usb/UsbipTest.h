@@ -3,7 +3,9 @@
 #include "simulator/usbip/UsbipSession.h"
 #include "tests/usb/UsbTest.h"
 
-namespace zelto::simulator::test {
+namespace zelto::test {
+
+using namespace simulator;
 
 /// A place for the device that a test rules.
 class FakeExport final : public UsbipExport {
@@ -172,4 +174,4 @@ protected:
     UsbipSession session{exported, UsbipSession::Start::Imported};
 };
 
-} // namespace zelto::simulator::test
+} // namespace zelto::test

@@ -5,8 +5,10 @@
 #include <sstream>
 #include <stdlib.h>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
+
+using namespace simulator;
 
 constexpr std::string_view Heading = "hub port sta spd dev      sockfd local_busid\n";
 
@@ -105,4 +107,4 @@ TEST_F(Vhci, ThatIsNotThereSaysSo) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

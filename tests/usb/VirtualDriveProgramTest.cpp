@@ -10,9 +10,10 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-namespace zelto::simulator::test {
+namespace zelto::test {
 namespace {
 
+using namespace simulator;
 using namespace std::chrono_literals;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
@@ -566,4 +567,4 @@ TEST_F(ConsoleTest, TakesVerbsFromADescriptorUntilItEnds) {
 }
 
 } // namespace
-} // namespace zelto::simulator::test
+} // namespace zelto::test

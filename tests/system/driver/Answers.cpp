@@ -32,7 +32,7 @@ Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
                                     Qt::KeyboardModifiers modifiers, const QString& text,
                                     bool autoRepeat, ushort count);
 
-namespace zelto::testing {
+namespace zelto::test {
 namespace {
 
 QJsonObject error(const QString& what) {
@@ -354,4 +354,4 @@ QJsonObject answer(const QJsonObject& request) {
                              : error(QStringLiteral("no visible window has %1").arg(name));
 }
 
-} // namespace zelto::testing
+} // namespace zelto::test

@@ -14,7 +14,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-namespace zelto::testing {
+namespace zelto::test {
 
 QObject* TestDriverPlugin::create(const QString& key, const QString& specification) {
     return key == QLatin1String("zeltotestdriver") ? new TestDriver(specification) : nullptr;
@@ -88,4 +88,4 @@ void TestDriver::receive(int connection) {
     }
 }
 
-} // namespace zelto::testing
+} // namespace zelto::test

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QString>
 
-namespace zelto::testing {
+namespace zelto::test {
 
 /// Lets another process use the windows of the program that it is loaded into, as a person at the
 /// screen would: it looks at controls by their object names, and clicks and types through the same
@@ -59,4 +59,4 @@ public:
     QObject* create(const QString& key, const QString& specification) override;
 };
 
-} // namespace zelto::testing
+} // namespace zelto::test
