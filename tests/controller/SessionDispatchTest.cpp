@@ -34,7 +34,7 @@ TEST_F(SessionDispatchTest, TwoDrivesAreListedFromNumberZeroAndTheFirstIsChosen)
     m_bench.plugPreparedDrive({.serial = "ZD-B"});
     m_bench.start();
     ASSERT_EQ(m_bench.visibleWindow(), "SelectZeltoWindow");
-    const auto* box = m_bench.app().SelectZeltoWindow.SelectZeltoComboBox;
+    const auto* box = m_bench.control<QComboBox>("SelectZeltoComboBox");
     ASSERT_EQ(box->count(), 2);
     EXPECT_EQ(box->itemText(0), QStringLiteral("Device 0"));
     EXPECT_EQ(box->itemText(1), QStringLiteral("Device 1"));
@@ -77,7 +77,7 @@ TEST_F(SessionDispatchTest, NineDrivesAreListedAsEight) {
         m_bench.plugPreparedDrive({.serial = "ZD-" + std::to_string(number)});
     }
     m_bench.start();
-    EXPECT_EQ(m_bench.app().SelectZeltoWindow.SelectZeltoComboBox->count(), 8);
+    EXPECT_EQ(m_bench.control<QComboBox>("SelectZeltoComboBox")->count(), 8);
     EXPECT_EQ(m_bench.app().Drives.DevCnt, 8);
     EXPECT_EQ(m_bench.app().Drives.Opened.size(), 9U) << "the ninth stays open";
 }

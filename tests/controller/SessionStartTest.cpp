@@ -188,7 +188,7 @@ TEST_F(StartTest, ADriveThatMayNotBeOpenedIsToldApartFromNoDrive) {
 
 TEST_F(StartTest, NoHintIsShownWithoutADriveThatWasRefused) {
     m_bench.start();
-    EXPECT_FALSE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_FALSE(m_bench.control("SelectZeltoAccessHint")->isVisible());
 }
 
 // --- The tool area -----------------------------------------------------------------------------

@@ -16,23 +16,16 @@ protected:
             std::ranges::copy(encodeTimeStatus(status), reply.data.begin());
         });
     }
-    [[nodiscard]] QString driveTime() {
-        return m_bench.app().MainSettingsWindow.DeviceTimeText->text();
-    }
-    [[nodiscard]] QString loginDriveTime() {
-        return m_bench.app().AuthenticateWindow.AuthenticateDeviceTimeText->text();
-    }
-    [[nodiscard]] QString remaining() {
-        return m_bench.app().AuthenticateWindow.AuthenticateRemainingTimeText->text();
-    }
+    [[nodiscard]] QString driveTime() { return text("DeviceTimeText"); }
+    [[nodiscard]] QString loginDriveTime() { return text("AuthenticateDeviceTimeText"); }
+    [[nodiscard]] QString remaining() { return text("AuthenticateRemainingTimeText"); }
 };
 
 TEST_F(SessionTimerTest, TicksShowTheComputersLocalTimeEvenWithoutADrive) {
     m_bench.computer.clock.setUtcOffset(std::chrono::hours(-5));
     m_bench.start();
     m_bench.tick();
-    EXPECT_EQ(m_bench.app().MainSettingsWindow.PCTimeText->text(),
-              QStringLiteral("2026/03/02 04:30:01"));
+    EXPECT_EQ(text("PCTimeText"), QStringLiteral("2026/03/02 04:30:01"));
     EXPECT_THAT(m_bench.commands(), IsEmpty());
 }
 

@@ -3,10 +3,6 @@
 #include "tests/support/ControllerBench.h"
 #include "ui/Strings.h"
 
-#include <QAbstractButton>
-#include <QLineEdit>
-#include <QRadioButton>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -85,80 +81,68 @@ protected:
         alerts.clear();
     }
 
-    /// The person, by the controls themselves.
-    using ControllerBench::type;
-    void type(const QLineEdit* field, const QString& text) { type(nameOf(field).c_str(), text); }
-    void type(const QLineEdit* field, const char* text) { type(field, QString::fromLatin1(text)); }
-    void click(const QAbstractButton* button) { press(nameOf(button).c_str()); }
-    void check(const QAbstractButton* box, bool on) {
-        if (box->isChecked() != on) {
-            click(box);
+    void check(const char* box, bool on) {
+        if (isChecked(box) != on) {
+            press(box);
         }
     }
 
     /// Opens a dialog by its button and does something in it; a dialog that is still open then is
     /// closed as with Escape.
-    void inDialog(const QAbstractButton* opener, Window& dialog,
-                  const std::function<void()>& work) {
-        press(nameOf(opener).c_str(), [&] {
-            EXPECT_TRUE(dialog.isVisible());
+    void inDialog(const char* opener, const char* dialog, const std::function<void()>& work) {
+        press(opener, [&] {
+            EXPECT_EQ(visibleWindow(), dialog);
             work();
-            if (dialog.isVisible()) {
-                dialog.reject();
+            if (visibleWindow() == dialog) {
+                person.visibleWindow()->reject();
             }
         });
-        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_NE(visibleWindow(), dialog);
     }
 
-    /// Does something in the dialog for the passwords of a new drive with laid-out areas; `work`
-    /// gets its form.
-    void inPasswordDialog(const std::function<void(Form<Ui::PasswordSettingsWindow>&)>& work) {
+    /// Does something in the dialog for the passwords of a new drive with laid-out areas.
+    void inPasswordDialog(const std::function<void()>& work) {
         begin();
         layOut({});
-        auto& form = app().PasswordSettingsWindow;
-        inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] { work(form); });
+        inDialog("PasswordSettingsButton", "PasswordSettingsWindow", work);
     }
 
     void layOut(const Wishes& wishes) {
-        auto& form = app().AreaSettingsWindow;
-        inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
-            type(form.Disk1CapacityText, wishes.mebibytes[0]);
-            type(form.Disk2CapacityText, wishes.mebibytes[1]);
-            type(form.Disk3CapacityText, wishes.mebibytes[2]);
-            check(form.Disk1SecureCheckBox, wishes.secureDisk == 1);
-            check(form.Disk2SecureCheckBox, wishes.secureDisk == 2);
-            check(form.Disk3SecureCheckBox, wishes.secureDisk == 3);
-            click(form.AreaSettingsOKButton);
+        inDialog("AreaSettingsButton", "AreaSettingsWindow", [&] {
+            type("Disk1CapacityText", wishes.mebibytes[0]);
+            type("Disk2CapacityText", wishes.mebibytes[1]);
+            type("Disk3CapacityText", wishes.mebibytes[2]);
+            check("Disk1SecureCheckBox", wishes.secureDisk == 1);
+            check("Disk2SecureCheckBox", wishes.secureDisk == 2);
+            check("Disk3SecureCheckBox", wishes.secureDisk == 3);
+            press("AreaSettingsOKButton");
         });
     }
 
     void setPasswords(const Wishes& wishes) {
-        auto& form = app().PasswordSettingsWindow;
-        inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
-            click(wishes.twoPasswords ? form.PS_1stAnd2ndCell : form.PS_1stOnlyCell);
-            type(form.PS_1stPasswordText, wishes.firstPassword);
-            type(form.PS_Again1stPasswordText, wishes.firstPassword);
+        inDialog("PasswordSettingsButton", "PasswordSettingsWindow", [&] {
+            press(wishes.twoPasswords ? "PS_1stAnd2ndCell" : "PS_1stOnlyCell");
+            type("PS_1stPasswordText", wishes.firstPassword);
+            type("PS_Again1stPasswordText", wishes.firstPassword);
             if (wishes.twoPasswords) {
-                type(form.PS_2ndPasswordText, wishes.secondPassword);
-                type(form.PS_Again2ndPasswordText, wishes.secondPassword);
-                type(form.PS_2ndPasswordNumberOfTrials, wishes.trials);
+                type("PS_2ndPasswordText", wishes.secondPassword);
+                type("PS_Again2ndPasswordText", wishes.secondPassword);
+                type("PS_2ndPasswordNumberOfTrials", wishes.trials);
             }
-            click(form.PS_OKButton);
+            press("PS_OKButton");
         });
     }
 
     void setKey(const QString& key) {
-        auto& main = app().MainSettingsWindow;
-        click(main.EncryptionKeyManualCell);
-        inDialog(main.EncryptionKeyButton, app().EncryptionKeyWindow, [&] {
-            type(app().EncryptionKeyWindow.EncryptionKeyText, key);
-            click(app().EncryptionKeyWindow.EncryptionKeyOKButton);
+        press("EncryptionKeyManualCell");
+        inDialog("EncryptionKeyButton", "EncryptionKeyWindow", [&] {
+            type("EncryptionKeyText", key);
+            press("EncryptionKeyOKButton");
         });
     }
 
     /// Fills the main settings window for first-time set-up.
     void fill(const Wishes& wishes) {
-        auto& main = app().MainSettingsWindow;
         layOut(wishes);
         if (wishes.secureDisk == 0) {
             return;
@@ -168,16 +152,16 @@ protected:
             setKey(wishes.key);
         }
         if (*wishes.autoClearDays != 0) {
-            check(main.AutoClearEnabledCheckBox, true);
-            type(main.AutoClearText, wishes.autoClearDays);
+            check("AutoClearEnabledCheckBox", true);
+            type("AutoClearText", wishes.autoClearDays);
         }
         if (*wishes.autoLogOffMinutes != 0) {
-            check(main.AutoLogOffEnabledCheckBox, true);
-            type(main.AutoLogOffText, wishes.autoLogOffMinutes);
+            check("AutoLogOffEnabledCheckBox", true);
+            type("AutoLogOffText", wishes.autoLogOffMinutes);
         }
     }
 
-    void commit() { click(app().MainSettingsWindow.MainSettingsOKButton); }
+    void commit() { press("MainSettingsOKButton"); }
 
     /// A drive from its box to "finished", and the program started again.
     void setUpAndStartAgain(const Wishes& wishes) {
@@ -186,20 +170,18 @@ protected:
         tick(10);
         ASSERT_EQ(app().Setup.InitialSettingState, 4);
         ASSERT_THAT(messages(), testing::IsEmpty());
-        click(app().ZeltoSettingWindow.ZeltoSettingOKButton);
+        press("ZeltoSettingOKButton");
         ASSERT_TRUE(hasQuit());
         startAgain();
     }
 
     void logIn(const QString& password) {
-        type(app().AuthenticateWindow.AuthenticateTextField, password);
-        click(app().AuthenticateWindow.AuthenticateSubmit);
+        type("AuthenticateTextField", password);
+        press("AuthenticateSubmit");
     }
 
     void openSettingsOfUnlockedDrive() {
-        auto* const setup = app().UnlockedWindow.isVisible() ? app().UnlockedWindow.UnlockedSetup
-                                                             : app().UnlockingWindow.UnlockingSetup;
-        click(setup);
+        press(app().UnlockedWindow.isVisible() ? "UnlockedSetup" : "UnlockingSetup");
         ASSERT_TRUE(app().MainSettingsWindow.isVisible());
     }
 
@@ -259,18 +241,12 @@ protected:
     [[nodiscard]] SecurityState driveState() {
         return drive->drive().state(computer.clock.worldTime());
     }
-    [[nodiscard]] bool okIsEnabled() {
-        return app().MainSettingsWindow.MainSettingsOKButton->isEnabled();
-    }
+    [[nodiscard]] bool okIsEnabled() { return isEnabled("MainSettingsOKButton"); }
 
     Drive drive;
 
 private:
     inline static const std::string Prefix = "TKVR21_";
-
-    static std::string nameOf(const QWidget* control) {
-        return control->objectName().toStdString();
-    }
 
     /// What first-time set-up makes of the wishes, its unset clock and blank user areas included.
     static simulator::DriveSetup setupOf(const Wishes& wishes) {

@@ -20,18 +20,17 @@ protected:
     };
 
     void changePasswords(const Passwords& passwords, bool two = false) {
-        auto& form = app().PasswordChangeWindow;
-        inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
-            type(form.PC_Current1stPasswordText, passwords.current1);
-            type(form.PC_New1stPasswordText, passwords.new1);
-            type(form.PC_AgainNew1stPasswordText, passwords.new1);
+        inDialog("PasswordSettingsButton", "PasswordChangeWindow", [&] {
+            type("PC_Current1stPasswordText", passwords.current1);
+            type("PC_New1stPasswordText", passwords.new1);
+            type("PC_AgainNew1stPasswordText", passwords.new1);
             if (two) {
-                type(form.PC_Current2ndPasswordText, passwords.current2);
-                type(form.PC_New2ndPasswordText, passwords.new2);
-                type(form.PC_AgainNew2ndPasswordText, passwords.new2);
-                type(form.PC_2ndPasswordNumberOfTrials, "5");
+                type("PC_Current2ndPasswordText", passwords.current2);
+                type("PC_New2ndPasswordText", passwords.new2);
+                type("PC_AgainNew2ndPasswordText", passwords.new2);
+                type("PC_2ndPasswordNumberOfTrials", "5");
             }
-            click(form.PC_OKButton);
+            press("PC_OKButton");
         });
     }
 };
@@ -41,22 +40,21 @@ TEST_F(ChangeSettings, ADriveThatWasSetUpShowsItsSettings) {
     begin();
     ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
     openSettingsAfterLogIn(wishes);
-    auto& main = app().MainSettingsWindow;
     EXPECT_FALSE(app().Settings.InitialSetting);
     EXPECT_TRUE(app().Settings.SecureAreaAlreadyExist);
-    EXPECT_FALSE(main.AreaSettingsButton->isEnabled());
-    EXPECT_EQ(main.TotalCapacityText->text(), localized("IDS_TOTAL_CAPACITY", 128));
-    EXPECT_EQ(main.FreeCapacityText->text(), localized("IDS_FREE_CAPACITY", 48));
-    EXPECT_TRUE(main.PasswordSettingsButton->isEnabled());
-    EXPECT_FALSE(main.EncryptionKeyAutoManualSelectRadioButton->isEnabled());
-    EXPECT_FALSE(main.EncryptionKeyButton->isEnabled());
-    EXPECT_EQ(main.EncryptionKeyAutoManualSelectRadioButton->selectedTag(), 0);
-    EXPECT_TRUE(main.EraseEncryptionKeyButton->isEnabled());
-    EXPECT_TRUE(main.AutoClearEnabledCheckBox->isChecked());
-    EXPECT_EQ(main.AutoClearDaysOrMinutesRadioButton->selectedTag(), 0);
-    EXPECT_EQ(main.AutoClearText->text(), QStringLiteral("2"));
-    EXPECT_TRUE(main.AutoLogOffEnabledCheckBox->isChecked());
-    EXPECT_EQ(main.AutoLogOffText->text(), QStringLiteral("30"));
+    EXPECT_FALSE(isEnabled("AreaSettingsButton"));
+    EXPECT_EQ(text("TotalCapacityText"), localized("IDS_TOTAL_CAPACITY", 128));
+    EXPECT_EQ(text("FreeCapacityText"), localized("IDS_FREE_CAPACITY", 48));
+    EXPECT_TRUE(isEnabled("PasswordSettingsButton"));
+    EXPECT_FALSE(isEnabled("EncryptionKeyAutoManualSelectRadioButton"));
+    EXPECT_FALSE(isEnabled("EncryptionKeyButton"));
+    EXPECT_EQ(control<RadioMatrix>("EncryptionKeyAutoManualSelectRadioButton")->selectedTag(), 0);
+    EXPECT_TRUE(isEnabled("EraseEncryptionKeyButton"));
+    EXPECT_TRUE(isChecked("AutoClearEnabledCheckBox"));
+    EXPECT_EQ(control<RadioMatrix>("AutoClearDaysOrMinutesRadioButton")->selectedTag(), 0);
+    EXPECT_EQ(text("AutoClearText"), QStringLiteral("2"));
+    EXPECT_TRUE(isChecked("AutoLogOffEnabledCheckBox"));
+    EXPECT_EQ(text("AutoLogOffText"), QStringLiteral("30"));
     EXPECT_FALSE(okIsEnabled());
     EXPECT_EQ(app().numberOfRowsInTableView(), 2);
 }
@@ -66,18 +64,17 @@ TEST_F(ChangeSettings, PeriodsThatAreOffLeaveTheirControlsDisabled) {
     begin();
     ASSERT_NO_FATAL_FAILURE(setUpAndStartAgain(wishes));
     openSettingsAfterLogIn(wishes);
-    auto& main = app().MainSettingsWindow;
-    EXPECT_TRUE(main.AutoClearEnabledCheckBox->isEnabled());
-    EXPECT_FALSE(main.AutoClearEnabledCheckBox->isChecked());
-    EXPECT_FALSE(main.AutoClearText->isEnabled());
-    EXPECT_FALSE(main.AutoClearDaysOrMinutesRadioButton->isEnabled());
-    EXPECT_FALSE(main.AutoLogOffText->isEnabled());
-    EXPECT_EQ(main.EncryptionKeyAutoManualSelectRadioButton->selectedTag(), 1);
+    EXPECT_TRUE(isEnabled("AutoClearEnabledCheckBox"));
+    EXPECT_FALSE(isChecked("AutoClearEnabledCheckBox"));
+    EXPECT_FALSE(isEnabled("AutoClearText"));
+    EXPECT_FALSE(isEnabled("AutoClearDaysOrMinutesRadioButton"));
+    EXPECT_FALSE(isEnabled("AutoLogOffText"));
+    EXPECT_EQ(control<RadioMatrix>("EncryptionKeyAutoManualSelectRadioButton")->selectedTag(), 1);
 }
 
 TEST_F(ChangeSettings, TheRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuits) {
     beginWithSettingsOf({.autoClearDays = "2", .autoLogOffMinutes = "30"});
-    click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
+    press("ShowRemainingTimeCheckBox");
     ASSERT_TRUE(okIsEnabled());
     commit();
     EXPECT_EQ(commands(),
@@ -91,9 +88,9 @@ TEST_F(ChangeSettings, TheRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuit
 
 TEST_F(ChangeSettings, AnUncheckedAutoClearIsSentAsZero) {
     beginWithSettingsOf({.autoClearDays = "2"});
-    click(app().MainSettingsWindow.AutoClearEnabledCheckBox);
+    press("AutoClearEnabledCheckBox");
     // Whatever the text holds.
-    app().MainSettingsWindow.AutoClearText->setText(QStringLiteral("7"));
+    control<QLineEdit>("AutoClearText")->setText(QStringLiteral("7"));
     commit();
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 0);
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wIndex, 0);
@@ -101,7 +98,7 @@ TEST_F(ChangeSettings, AnUncheckedAutoClearIsSentAsZero) {
 
 TEST_F(ChangeSettings, CancelQuitsWithoutACommand) {
     beginWithSettingsOf({});
-    click(app().MainSettingsWindow.MainSettingsCancelButton);
+    press("MainSettingsCancelButton");
     EXPECT_TRUE(hasQuit());
     EXPECT_THAT(commands(), IsEmpty());
 }
@@ -169,11 +166,10 @@ TEST_F(ChangeSettings, AWrongCurrentFirstPasswordIsToldAfterAPauseAndTheWindowSt
 
     // What was typed is still there; the user corrects one field and tries again.
     alerts.clear();
-    auto& form = app().PasswordChangeWindow;
-    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
-        EXPECT_EQ(form.PC_New1stPasswordText->text(), QStringLiteral("newFirst"));
-        type(form.PC_Current1stPasswordText, "first");
-        click(form.PC_OKButton);
+    inDialog("PasswordSettingsButton", "PasswordChangeWindow", [&] {
+        EXPECT_EQ(text("PC_New1stPasswordText"), QStringLiteral("newFirst"));
+        type("PC_Current1stPasswordText", "first");
+        press("PC_OKButton");
     });
     commit();
     EXPECT_THAT(messages(), IsEmpty());
@@ -220,7 +216,7 @@ TEST_F(ChangeSettings, ADriveThatIsGoneIsReportedByTheStatusReadAfterTheRefusal)
 TEST_F(ChangeSettings, ARefusedPeriodKeepsTheWindowOpen) {
     for (const char* command : {"ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
         beginWithSettingsOf({});
-        click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
+        press("ShowRemainingTimeCheckBox");
         failCommand(command, {});
         commit();
         EXPECT_EQ(messages().size(), 1u);
@@ -232,43 +228,41 @@ TEST_F(ChangeSettings, ARefusedPeriodKeepsTheWindowOpen) {
 
 TEST_F(ChangeSettings, TextThatIsNotAPeriodKeepsOkDisabled) {
     beginWithSettingsOf({});
-    auto& main = app().MainSettingsWindow;
-    click(main.AutoClearEnabledCheckBox);
+    press("AutoClearEnabledCheckBox");
     EXPECT_FALSE(okIsEnabled());
     for (const QString& text :
          {QStringLiteral("0"), QStringLiteral("10000"), QStringLiteral("-1"), QStringLiteral(" 1"),
           QStringLiteral("\U0001F511"), QStringLiteral("\u0661"), QString(100000, u'9')}) {
-        type(main.AutoClearText, text);
+        type("AutoClearText", text);
         EXPECT_FALSE(okIsEnabled()) << text.left(20).toStdString();
     }
-    type(main.AutoClearText, "9999");
+    type("AutoClearText", "9999");
     EXPECT_TRUE(okIsEnabled());
-    click(main.AutoClearMinutesCell);
-    EXPECT_TRUE(main.AutoClearText->text().isEmpty());
+    press("AutoClearMinutesCell");
+    EXPECT_TRUE(text("AutoClearText").isEmpty());
     EXPECT_FALSE(okIsEnabled());
-    type(main.AutoClearText, "1000");
+    type("AutoClearText", "1000");
     EXPECT_FALSE(okIsEnabled());
-    type(main.AutoClearText, "999");
+    type("AutoClearText", "999");
     EXPECT_TRUE(okIsEnabled());
 }
 
 TEST_F(ChangeSettings, SwitchingAutoLogOffOffEmptiesItsTextAndOnKeepsIt) {
     beginWithSettingsOf({.autoLogOffMinutes = "30"});
-    auto& main = app().MainSettingsWindow;
-    click(main.AutoLogOffEnabledCheckBox);
-    EXPECT_TRUE(main.AutoLogOffText->text().isEmpty());
-    EXPECT_FALSE(main.AutoLogOffText->isEnabled());
+    press("AutoLogOffEnabledCheckBox");
+    EXPECT_TRUE(text("AutoLogOffText").isEmpty());
+    EXPECT_FALSE(isEnabled("AutoLogOffText"));
     EXPECT_TRUE(okIsEnabled());
-    click(main.AutoLogOffEnabledCheckBox);
-    EXPECT_TRUE(main.AutoLogOffText->isEnabled());
+    press("AutoLogOffEnabledCheckBox");
+    EXPECT_TRUE(isEnabled("AutoLogOffText"));
     EXPECT_FALSE(okIsEnabled());
 }
 
 TEST_F(ChangeSettings, OpeningTwiceInOneRunLeavesTwoItemsAndShowsTheFirst) {
     beginWithSettingsOf({});
     app().DisplayMainSettingsWindow(false);
-    EXPECT_EQ(app().MainSettingsWindow.ZeltoDriveComboBox->count(), 2);
-    EXPECT_EQ(app().MainSettingsWindow.ZeltoDriveComboBox->currentIndex(), 0);
+    EXPECT_EQ(control<QComboBox>("ZeltoDriveComboBox")->count(), 2);
+    EXPECT_EQ(control<QComboBox>("ZeltoDriveComboBox")->currentIndex(), 0);
 }
 
 TEST_F(ChangeSettings, AnAreaListThatCannotBeReadOpensNothing) {
@@ -302,9 +296,9 @@ TEST_F(ChangeSettings, ADriveWithoutSecureAreaHasNothingToChangeButNothingBreaks
     auto& main = app().MainSettingsWindow;
     EXPECT_TRUE(main.isVisible());
     EXPECT_FALSE(app().Settings.InitialSetting);
-    EXPECT_FALSE(main.PasswordSettingsButton->isEnabled());
-    EXPECT_FALSE(main.AutoClearEnabledCheckBox->isEnabled());
-    EXPECT_FALSE(main.EraseEncryptionKeyButton->isEnabled());
+    EXPECT_FALSE(isEnabled("PasswordSettingsButton"));
+    EXPECT_FALSE(isEnabled("AutoClearEnabledCheckBox"));
+    EXPECT_FALSE(isEnabled("EraseEncryptionKeyButton"));
     EXPECT_FALSE(okIsEnabled());
 }
 

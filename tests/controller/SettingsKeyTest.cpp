@@ -15,13 +15,13 @@ class EraseKey : public SettingsBench {
 protected:
     void eraseAnsweringYes() {
         alerts.answer(AlertButton::Alternate);
-        click(app().MainSettingsWindow.EraseEncryptionKeyButton);
+        press("EraseEncryptionKeyButton");
     }
 };
 
 TEST_F(EraseKey, TheDefaultAnswerSendsNothing) {
     beginWithSettingsOf({});
-    click(app().MainSettingsWindow.EraseEncryptionKeyButton);
+    press("EraseEncryptionKeyButton");
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERASE_ENCRYPTION_KEY_CONFIRM")));
     EXPECT_EQ(alerts.panels()[0].defaultButton, localized("IDS_CANCEL_BUTTON"));
     EXPECT_EQ(alerts.panels()[0].alternateButton, localized("OK"));
@@ -69,7 +69,7 @@ protected:
     void clearAnsweringYes() {
         computer.log.clear();
         alerts.answer(AlertButton::Alternate);
-        click(app().MainSettingsWindow.MainSettingsClearAllButton);
+        press("MainSettingsClearAllButton");
     }
     /// The drive out and in again, behind the open settings window.
     void lockDrive() {
@@ -81,7 +81,7 @@ protected:
 
 TEST_F(ClearAll, TheDefaultAnswerSendsNothing) {
     beginWithSettingsOf({});
-    click(app().MainSettingsWindow.MainSettingsClearAllButton);
+    press("MainSettingsClearAllButton");
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_CLEAR_ALL_CONFIRM")));
     EXPECT_THAT(commands(), IsEmpty());
 }
@@ -158,7 +158,7 @@ TEST_F(ClearAll, ADriveNotKnownToHaveASecureAreaIsClearedWhileItIsLocked) {
 TEST_F(ClearAll, AFullyLockedDriveGetsNoPeriods) {
     beginWithSettingsOf({});
     alerts.answer(AlertButton::Alternate);
-    click(app().MainSettingsWindow.EraseEncryptionKeyButton);
+    press("EraseEncryptionKeyButton");
     computer.clock.pass(std::chrono::seconds(2));
     ASSERT_EQ(driveState(), SecurityState::StateFullLock);
     // Its clock is set, so that the settings open.
@@ -169,7 +169,7 @@ TEST_F(ClearAll, AFullyLockedDriveGetsNoPeriods) {
     }
     app().DisplayMainSettingsWindow(false);
     alerts.clear();
-    EXPECT_FALSE(app().MainSettingsWindow.PasswordSettingsButton->isEnabled());
+    EXPECT_FALSE(isEnabled("PasswordSettingsButton"));
     clearAnsweringYes();
     EXPECT_EQ(computer.log.count("TKVR21_ZELTO_SetErasePeriod"), 0u);
     EXPECT_EQ(computer.log.count("TKVR21_ZELTO_SetIdleLockPeriod"), 0u);

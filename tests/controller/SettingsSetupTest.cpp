@@ -42,22 +42,15 @@ TEST_F(FirstTimeSetup, AnUnpartitionedDriveOpensTheSettingsWithEverySecurityCont
     EXPECT_TRUE(main.isVisible());
     EXPECT_TRUE(app().Settings.InitialSetting);
     EXPECT_EQ(app().Settings.TotalSectorCount, 1959040u);
-    EXPECT_EQ(main.TotalCapacityText->text(), localized("IDS_TOTAL_CAPACITY", 956));
+    EXPECT_EQ(text("TotalCapacityText"), localized("IDS_TOTAL_CAPACITY", 956));
     EXPECT_EQ(app().Settings.AreaSettingsDiskCapacity[0], 956u);
-    EXPECT_TRUE(main.AreaSettingsButton->isEnabled());
-    const std::vector<QWidget*> securityControls{main.PasswordSettingsButton,
-                                                 main.EncryptionKeyAutoManualSelectRadioButton,
-                                                 main.EncryptionKeyButton,
-                                                 main.EraseEncryptionKeyButton,
-                                                 main.AutoClearEnabledCheckBox,
-                                                 main.AutoClearDaysOrMinutesRadioButton,
-                                                 main.AutoClearText,
-                                                 main.AutoLogOffEnabledCheckBox,
-                                                 main.AutoLogOffText,
-                                                 main.ShowRemainingTimeCheckBox,
-                                                 main.ZeltoDriveComboBox};
-    for (const QWidget* control : securityControls) {
-        EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
+    EXPECT_TRUE(isEnabled("AreaSettingsButton"));
+    for (const char* name :
+         {"PasswordSettingsButton", "EncryptionKeyAutoManualSelectRadioButton",
+          "EncryptionKeyButton", "EraseEncryptionKeyButton", "AutoClearEnabledCheckBox",
+          "AutoClearDaysOrMinutesRadioButton", "AutoClearText", "AutoLogOffEnabledCheckBox",
+          "AutoLogOffText", "ShowRemainingTimeCheckBox", "ZeltoDriveComboBox"}) {
+        EXPECT_FALSE(isEnabled(name)) << name;
     }
     EXPECT_FALSE(okIsEnabled());
 }
@@ -134,10 +127,9 @@ TEST_F(FirstTimeSetup, AKeyEnteredByHandIsSentAsTyped) {
 TEST_F(FirstTimeSetup, AutoClearInMinutesIsSentInSeconds) {
     begin();
     fill({});
-    auto& main = app().MainSettingsWindow;
-    click(main.AutoClearEnabledCheckBox);
-    click(main.AutoClearMinutesCell);
-    type(main.AutoClearText, "30");
+    press("AutoClearEnabledCheckBox");
+    press("AutoClearMinutesCell");
+    type("AutoClearText", "30");
     commit();
     EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 1800);
 }
@@ -149,8 +141,8 @@ TEST_F(FirstTimeSetup, ShowsItsProgressWhileTheDriveIsAway) {
     commit();
     EXPECT_FALSE(app().MainSettingsWindow.isVisible());
     EXPECT_TRUE(app().ZeltoSettingWindow.isVisible());
-    EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
-    EXPECT_EQ(app().ZeltoSettingWindow.ZeltoSettingText->text(), localized("IDS_NOW_SETTING"));
+    EXPECT_FALSE(isEnabled("ZeltoSettingOKButton"));
+    EXPECT_EQ(text("ZeltoSettingText"), localized("IDS_NOW_SETTING"));
     EXPECT_EQ(app().Setup.InitialSettingState, 1);
     EXPECT_EQ(app().Setup.WaitCount, 60);
     EXPECT_EQ(app().Setup.ReservedAreaDiskNumber, 2);
@@ -163,8 +155,8 @@ TEST_F(FirstTimeSetup, ForgetsPasswordsAndKeyOnceTheyAreSent) {
     EXPECT_TRUE(app().Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
     EXPECT_TRUE(app().Settings.PasswordSettingsParameters.strNew2ndPassword.isEmpty());
     EXPECT_TRUE(app().Settings.StrEncryptionKey.isEmpty());
-    EXPECT_TRUE(app().PasswordSettingsWindow.PS_1stPasswordText->text().isEmpty());
-    EXPECT_TRUE(app().EncryptionKeyWindow.EncryptionKeyText->text().isEmpty());
+    EXPECT_TRUE(text("PS_1stPasswordText").isEmpty());
+    EXPECT_TRUE(text("EncryptionKeyText").isEmpty());
 }
 
 TEST_F(FirstTimeSetup, EndsWithTheProgramOnTheToolArea) {
@@ -173,8 +165,8 @@ TEST_F(FirstTimeSetup, EndsWithTheProgramOnTheToolArea) {
     commit();
     computer.advance(10s);
     EXPECT_EQ(app().Setup.InitialSettingState, 4);
-    EXPECT_EQ(app().ZeltoSettingWindow.ZeltoSettingText->text(), localized("IDS_SETTING_COMPLETE"));
-    EXPECT_TRUE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_EQ(text("ZeltoSettingText"), localized("IDS_SETTING_COMPLETE"));
+    EXPECT_TRUE(isEnabled("ZeltoSettingOKButton"));
     EXPECT_EQ(computer.diskTool.holders({}).size(), 0u);
     const std::filesystem::path copy = "/media/user/ZELTO TOOL/ZeltoAppMac.app";
     EXPECT_TRUE(computer.files.fileExistsAtPath(copy));
@@ -191,7 +183,7 @@ TEST_F(FirstTimeSetup, ReportsAFormatThatFails) {
     computer.advance(20s);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
     EXPECT_TRUE(hasQuit());
-    EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_FALSE(isEnabled("ZeltoSettingOKButton"));
 }
 
 TEST_F(FirstTimeSetup, ReportsACopyThatFails) {
@@ -221,7 +213,7 @@ TEST_F(FirstTimeSetup, EndsWithoutAWordWhenTheFormattedVolumeIsNotMounted) {
 TEST_F(FirstTimeSetup, AManualKeyThatWasNotEnteredIsAskedForBeforeAnythingIsSent) {
     begin();
     fill({});
-    click(app().MainSettingsWindow.EncryptionKeyManualCell);
+    press("EncryptionKeyManualCell");
     computer.log.clear();
     commit();
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP")));
@@ -321,7 +313,7 @@ TEST_P(SetupStory, SetsUpLogsInClearsAndSetsUpAnew) {
         openSettingsOfUnlockedDrive();
     }
     alerts.answer(AlertButton::Alternate);
-    click(app().MainSettingsWindow.MainSettingsClearAllButton);
+    press("MainSettingsClearAllButton");
     EXPECT_TRUE(hasQuit());
     EXPECT_EQ(messages().size(), 1u);
     computer.replug(drive);

@@ -62,7 +62,7 @@ TEST_F(SetupProgressTest, GivesUpWhenTheToolVolumeIsNotSeenIn60Ticks) {
     EXPECT_EQ(setupState(), 4);
     EXPECT_TRUE(hasQuit());
     EXPECT_THAT(diskToolRuns(), IsEmpty());
-    EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_FALSE(isEnabled("ZeltoSettingOKButton"));
 }
 
 TEST_F(SetupProgressTest, ADriveThatIsBackAtTheLastTickIsStillTaken) {
@@ -134,7 +134,7 @@ TEST_F(SetupProgressTest, AToolVolumeWithoutRoomIsAFailedCopy) {
                   QStringLiteral("/media/user/ZELTO TOOL/ZeltoAppMac.app"))}));
     EXPECT_EQ(setupState(), 4);
     EXPECT_TRUE(hasQuit());
-    EXPECT_FALSE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+    EXPECT_FALSE(isEnabled("ZeltoSettingOKButton"));
 }
 
 TEST_F(SetupProgressTest, FormatsOnlyOnceAndOnlyTheToolArea) {

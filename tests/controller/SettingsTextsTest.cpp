@@ -61,12 +61,11 @@ std::vector<PastedText> pastedTexts() {
 class PastedTexts : public SettingsBench {
 protected:
     /// Tries every text in a field; what the OK button then says is the field's own rule.
-    void tryAll(const QLineEdit* field, const QAbstractButton* ok,
+    void tryAll(const char* field, const char* ok,
                 const std::function<bool(const PastedText&)>& isAccepted) {
         for (const PastedText& pasted : pastedTexts()) {
             type(field, pasted.text);
-            EXPECT_EQ(ok->isEnabled(), isAccepted(pasted))
-                << field->objectName().toStdString() << ": " << pasted.name;
+            EXPECT_EQ(isEnabled(ok), isAccepted(pasted)) << field << ": " << pasted.name;
         }
         EXPECT_THAT(messages(), IsEmpty());
     }
@@ -81,57 +80,55 @@ protected:
 TEST_F(PastedTexts, InTheLogInFieldAreAcceptedAsPasswordsOnly) {
     drive = plugPreparedDrive({.serial = Serial});
     start();
-    auto& form = app().AuthenticateWindow;
-    tryAll(form.AuthenticateTextField, form.AuthenticateSubmit,
+    tryAll("AuthenticateTextField", "AuthenticateSubmit",
            [](const auto& pasted) { return pasted.isPassword; });
 }
 
 TEST_F(PastedTexts, InTheAreaDialogAreAcceptedAsSmallNumbersOnly) {
     begin();
-    auto& form = app().AreaSettingsWindow;
-    inDialog(app().MainSettingsWindow.AreaSettingsButton, form, [&] {
-        type(form.Disk2CapacityText, "0");
-        tryAll(form.Disk1CapacityText, form.AreaSettingsOKButton,
+    inDialog("AreaSettingsButton", "AreaSettingsWindow", [&] {
+        type("Disk2CapacityText", "0");
+        tryAll("Disk1CapacityText", "AreaSettingsOKButton",
                [](const auto& pasted) { return pasted.isSmallNumber; });
-        type(form.Disk1CapacityText, "10");
-        tryAll(form.Disk2CapacityText, form.AreaSettingsOKButton, isEmptyOrSmallNumber);
-        type(form.Disk2CapacityText, "0");
-        tryAll(form.Disk3CapacityText, form.AreaSettingsOKButton, isEmptyOrSmallNumber);
+        type("Disk1CapacityText", "10");
+        tryAll("Disk2CapacityText", "AreaSettingsOKButton", isEmptyOrSmallNumber);
+        type("Disk2CapacityText", "0");
+        tryAll("Disk3CapacityText", "AreaSettingsOKButton", isEmptyOrSmallNumber);
     });
 }
 
 TEST_F(PastedTexts, InThePasswordSettingsAreAcceptedAsPasswordsAndTrialsOnly) {
-    inPasswordDialog([&](auto& form) {
+    inPasswordDialog([&] {
         for (const PastedText& pasted : pastedTexts()) {
-            type(form.PS_1stPasswordText, pasted.text);
-            type(form.PS_Again1stPasswordText, pasted.text);
-            EXPECT_EQ(form.PS_OKButton->isEnabled(), pasted.isPassword) << pasted.name;
+            type("PS_1stPasswordText", pasted.text);
+            type("PS_Again1stPasswordText", pasted.text);
+            EXPECT_EQ(isEnabled("PS_OKButton"), pasted.isPassword) << pasted.name;
         }
-        type(form.PS_1stPasswordText, "abc");
-        type(form.PS_Again1stPasswordText, "abc");
-        click(form.PS_1stAnd2ndCell);
-        type(form.PS_2ndPasswordNumberOfTrials, "3");
+        type("PS_1stPasswordText", "abc");
+        type("PS_Again1stPasswordText", "abc");
+        press("PS_1stAnd2ndCell");
+        type("PS_2ndPasswordNumberOfTrials", "3");
         for (const PastedText& pasted : pastedTexts()) {
-            type(form.PS_2ndPasswordText, pasted.text);
-            type(form.PS_Again2ndPasswordText, pasted.text);
-            EXPECT_EQ(form.PS_OKButton->isEnabled(), pasted.isPassword) << pasted.name;
+            type("PS_2ndPasswordText", pasted.text);
+            type("PS_Again2ndPasswordText", pasted.text);
+            EXPECT_EQ(isEnabled("PS_OKButton"), pasted.isPassword) << pasted.name;
         }
-        type(form.PS_2ndPasswordText, "def");
-        type(form.PS_Again2ndPasswordText, "def");
-        tryAll(form.PS_2ndPasswordNumberOfTrials, form.PS_OKButton,
+        type("PS_2ndPasswordText", "def");
+        type("PS_Again2ndPasswordText", "def");
+        tryAll("PS_2ndPasswordNumberOfTrials", "PS_OKButton",
                [](const auto& pasted) { return pasted.isSmallNumber; });
     });
 }
 
 TEST_F(PastedTexts, LeftInTheSecondPasswordOfAFirstOnlyChoiceAreNeverUsed) {
-    inPasswordDialog([&](auto& form) {
-        type(form.PS_1stPasswordText, "abc");
-        type(form.PS_Again1stPasswordText, "abc");
-        click(form.PS_1stAnd2ndCell);
-        type(form.PS_2ndPasswordText, QString(1000, u'x'));
-        type(form.PS_2ndPasswordNumberOfTrials, "99999999999");
-        click(form.PS_1stOnlyCell);
-        click(form.PS_OKButton);
+    inPasswordDialog([&] {
+        type("PS_1stPasswordText", "abc");
+        type("PS_Again1stPasswordText", "abc");
+        press("PS_1stAnd2ndCell");
+        type("PS_2ndPasswordText", QString(1000, u'x'));
+        type("PS_2ndPasswordNumberOfTrials", "99999999999");
+        press("PS_1stOnlyCell");
+        press("PS_OKButton");
     });
     EXPECT_EQ(app().Settings.PasswordSettingsParameters.NumberOfTrials, 2147483647);
     commit();
@@ -141,27 +138,25 @@ TEST_F(PastedTexts, LeftInTheSecondPasswordOfAFirstOnlyChoiceAreNeverUsed) {
 
 TEST_F(PastedTexts, InThePasswordChangeAreAcceptedAsPasswordsAndTrialsOnly) {
     beginWithSettingsOf({.twoPasswords = true});
-    auto& form = app().PasswordChangeWindow;
-    inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
-        for (const QLineEdit* field : std::initializer_list<const QLineEdit*>{
-                 form.PC_Current1stPasswordText, form.PC_New1stPasswordText,
-                 form.PC_AgainNew1stPasswordText, form.PC_Current2ndPasswordText,
-                 form.PC_New2ndPasswordText, form.PC_AgainNew2ndPasswordText}) {
+    inDialog("PasswordSettingsButton", "PasswordChangeWindow", [&] {
+        for (const char* field :
+             {"PC_Current1stPasswordText", "PC_New1stPasswordText", "PC_AgainNew1stPasswordText",
+              "PC_Current2ndPasswordText", "PC_New2ndPasswordText", "PC_AgainNew2ndPasswordText"}) {
             type(field, "abc");
         }
-        type(form.PC_2ndPasswordNumberOfTrials, "3");
-        ASSERT_TRUE(form.PC_OKButton->isEnabled());
+        type("PC_2ndPasswordNumberOfTrials", "3");
+        ASSERT_TRUE(isEnabled("PC_OKButton"));
         const auto isPassword = [](const auto& pasted) { return pasted.isPassword; };
         const auto never = [](const auto&) { return false; };
-        tryAll(form.PC_Current1stPasswordText, form.PC_OKButton, isPassword);
-        type(form.PC_Current1stPasswordText, "abc");
-        tryAll(form.PC_Current2ndPasswordText, form.PC_OKButton, isPassword);
-        type(form.PC_Current2ndPasswordText, "abc");
-        tryAll(form.PC_New1stPasswordText, form.PC_OKButton, never);
-        type(form.PC_New1stPasswordText, "abc");
-        tryAll(form.PC_AgainNew2ndPasswordText, form.PC_OKButton, never);
-        type(form.PC_AgainNew2ndPasswordText, "abc");
-        tryAll(form.PC_2ndPasswordNumberOfTrials, form.PC_OKButton,
+        tryAll("PC_Current1stPasswordText", "PC_OKButton", isPassword);
+        type("PC_Current1stPasswordText", "abc");
+        tryAll("PC_Current2ndPasswordText", "PC_OKButton", isPassword);
+        type("PC_Current2ndPasswordText", "abc");
+        tryAll("PC_New1stPasswordText", "PC_OKButton", never);
+        type("PC_New1stPasswordText", "abc");
+        tryAll("PC_AgainNew2ndPasswordText", "PC_OKButton", never);
+        type("PC_AgainNew2ndPasswordText", "abc");
+        tryAll("PC_2ndPasswordNumberOfTrials", "PC_OKButton",
                [](const auto& pasted) { return pasted.isSmallNumber; });
     });
 }
@@ -169,35 +164,32 @@ TEST_F(PastedTexts, InThePasswordChangeAreAcceptedAsPasswordsAndTrialsOnly) {
 TEST_F(PastedTexts, InTheKeyDialogAreAcceptedAsPairsOfHexadecimalDigitsOnly) {
     begin();
     layOut({});
-    click(app().MainSettingsWindow.EncryptionKeyManualCell);
-    auto& form = app().EncryptionKeyWindow;
-    inDialog(app().MainSettingsWindow.EncryptionKeyButton, form, [&] {
-        tryAll(form.EncryptionKeyText, form.EncryptionKeyOKButton,
+    press("EncryptionKeyManualCell");
+    inDialog("EncryptionKeyButton", "EncryptionKeyWindow", [&] {
+        tryAll("EncryptionKeyText", "EncryptionKeyOKButton",
                [](const auto& pasted) { return pasted.isKey; });
     });
 }
 
 TEST_F(PastedTexts, InThePeriodsAreAcceptedAsSmallNumbersOnly) {
     beginWithSettingsOf({});
-    auto& main = app().MainSettingsWindow;
     const auto isSmallNumber = [](const auto& pasted) { return pasted.isSmallNumber; };
-    click(main.AutoClearEnabledCheckBox);
-    tryAll(main.AutoClearText, main.MainSettingsOKButton, isSmallNumber);
-    type(main.AutoClearText, "1");
-    click(main.AutoLogOffEnabledCheckBox);
-    tryAll(main.AutoLogOffText, main.MainSettingsOKButton, isSmallNumber);
+    press("AutoClearEnabledCheckBox");
+    tryAll("AutoClearText", "MainSettingsOKButton", isSmallNumber);
+    type("AutoClearText", "1");
+    press("AutoLogOffEnabledCheckBox");
+    tryAll("AutoLogOffText", "MainSettingsOKButton", isSmallNumber);
 }
 
 // --- Periods that do not fit -------------------------------------------------------------------
 
 TEST_F(PastedTexts, AnAutoLogOffThatWouldWrapIn16BitsCannotBeTyped) {
     beginWithSettingsOf({});
-    auto& main = app().MainSettingsWindow;
-    click(main.AutoLogOffEnabledCheckBox);
-    type(main.AutoLogOffText, "999");
+    press("AutoLogOffEnabledCheckBox");
+    type("AutoLogOffText", "999");
     EXPECT_TRUE(okIsEnabled());
     for (const char* minutes : {"1000", "1092", "1093", "2186", "65536", "71582789"}) {
-        type(main.AutoLogOffText, minutes);
+        type("AutoLogOffText", minutes);
         EXPECT_FALSE(okIsEnabled()) << minutes;
     }
 }
@@ -208,7 +200,7 @@ TEST_F(PastedTexts, TheLargestIdlePeriodOfADriveIsSentBackInWholeMinutes) {
     logIn(QStringLiteral("first"));
     openSettingsOfUnlockedDrive();
     EXPECT_EQ(text("AutoLogOffText"), QStringLiteral("1092"));
-    click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
+    press("ShowRemainingTimeCheckBox");
     commit();
     EXPECT_TRUE(hasQuit());
     EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 65520);
@@ -216,11 +208,10 @@ TEST_F(PastedTexts, TheLargestIdlePeriodOfADriveIsSentBackInWholeMinutes) {
 
 TEST_F(PastedTexts, ATextOf1093MinutesWouldBeSentAs44Seconds) {
     beginWithSettingsOf({});
-    auto& main = app().MainSettingsWindow;
     // Nothing that a person or a drive can do puts it there; the commit itself does not judge.
-    main.AutoLogOffEnabledCheckBox->setChecked(true);
-    main.AutoLogOffText->setText(QStringLiteral("1093"));
-    click(main.ShowRemainingTimeCheckBox);
+    control<QCheckBox>("AutoLogOffEnabledCheckBox")->setChecked(true);
+    control<QLineEdit>("AutoLogOffText")->setText(QStringLiteral("1093"));
+    press("ShowRemainingTimeCheckBox");
     commit();
     EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 44);
 }

@@ -77,7 +77,7 @@ TEST_F(TwoDrives, SettingOneUpNeverTouchesTheOther) {
 
 TEST_F(TwoDrives, ChangingOneNeverTouchesTheOther) {
     beginWithSettingsOf({});
-    click(app().MainSettingsWindow.ShowRemainingTimeCheckBox);
+    press("ShowRemainingTimeCheckBox");
     commit();
     EXPECT_TRUE(hasQuit());
     expectOtherUntouched();

@@ -117,7 +117,7 @@ TEST_P(SettingsRetries, OfFirstTimeSetupSucceed) {
         EXPECT_EQ(app().Setup.InitialSettingState, 1);
         computer.advance(15s);
         EXPECT_EQ(app().Setup.InitialSettingState, 4);
-        EXPECT_TRUE(app().ZeltoSettingWindow.ZeltoSettingOKButton->isEnabled());
+        EXPECT_TRUE(isEnabled("ZeltoSettingOKButton"));
         putAway();
     }
 }
@@ -126,16 +126,15 @@ TEST_P(SettingsFaults, OfAChangeKeepTheWindowOpenWithTheEntries) {
     sweep({.arrange =
                [&] {
                    beginWithSettingsOf({.twoPasswords = true});
-                   auto& form = app().PasswordChangeWindow;
-                   inDialog(app().MainSettingsWindow.PasswordSettingsButton, form, [&] {
-                       type(form.PC_Current1stPasswordText, "first");
-                       type(form.PC_New1stPasswordText, "newFirst");
-                       type(form.PC_AgainNew1stPasswordText, "newFirst");
-                       type(form.PC_Current2ndPasswordText, "second");
-                       type(form.PC_New2ndPasswordText, "newSecond");
-                       type(form.PC_AgainNew2ndPasswordText, "newSecond");
-                       type(form.PC_2ndPasswordNumberOfTrials, "9");
-                       click(form.PC_OKButton);
+                   inDialog("PasswordSettingsButton", "PasswordChangeWindow", [&] {
+                       type("PC_Current1stPasswordText", "first");
+                       type("PC_New1stPasswordText", "newFirst");
+                       type("PC_AgainNew1stPasswordText", "newFirst");
+                       type("PC_Current2ndPasswordText", "second");
+                       type("PC_New2ndPasswordText", "newSecond");
+                       type("PC_AgainNew2ndPasswordText", "newSecond");
+                       type("PC_2ndPasswordNumberOfTrials", "9");
+                       press("PC_OKButton");
                    });
                },
            .act = [&] { commit(); },
@@ -153,7 +152,7 @@ TEST_P(SettingsFaults, OfClearingAllLeaveTheProgramRunning) {
            .act =
                [&] {
                    alerts.answer(AlertButton::Alternate);
-                   click(app().MainSettingsWindow.MainSettingsClearAllButton);
+                   press("MainSettingsClearAllButton");
                },
            .afterFailure = [&] { EXPECT_TRUE(app().MainSettingsWindow.isVisible()); },
            // The first of the two may fail: that is what leads on to the second.
@@ -166,7 +165,7 @@ TEST_P(SettingsFaults, OfErasingTheKeyLeaveTheProgramRunningUntilItLogsOut) {
            .act =
                [&] {
                    alerts.answer(AlertButton::Alternate);
-                   click(app().MainSettingsWindow.EraseEncryptionKeyButton);
+                   press("EraseEncryptionKeyButton");
                },
            .afterFailure = [&] { EXPECT_TRUE(app().MainSettingsWindow.isVisible()); },
            // Logging out belongs to the end: the program quits whatever comes of it.

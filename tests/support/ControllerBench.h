@@ -7,7 +7,10 @@
 #include "tests/support/ForgedReplies.h"
 #include "tests/support/ScriptedAlerts.h"
 
+#include <QApplication>
+
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -52,6 +55,17 @@ public:
     }
     [[nodiscard]] QString text(const char* control) const { return person.text(control); }
     [[nodiscard]] bool isEnabled(const char* control) const { return person.isEnabled(control); }
+    [[nodiscard]] bool isChecked(const char* button) const { return person.isChecked(button); }
+    /// A control of any window, also one that nobody sees at the moment.
+    template <typename Control = QWidget>
+    [[nodiscard]] Control* control(const char* name) const {
+        for (const QWidget* const window : QApplication::topLevelWidgets()) {
+            if (auto* const found = window->findChild<Control*>(QString::fromLatin1(name))) {
+                return found;
+            }
+        }
+        throw std::invalid_argument(std::string("no window has a control ") + name);
+    }
     /// The name of the window that is open; empty when none is.
     [[nodiscard]] std::string visibleWindow() const { return person.visibleWindowName(); }
 
