@@ -8,8 +8,8 @@
 
 namespace zelto::test {
 
-/// What the tests of the session share: a bench, and drives that lie.
-class SessionTest : public testing::Test {
+/// What the tests of the session share: the bench, and drives that lie.
+class SessionTest : public testing::Test, protected ControllerBench {
 protected:
     static constexpr std::uint8_t StatusRequestCode = 0xC0;
     static constexpr std::uint8_t TimeRequestCode = 0xBA;
@@ -19,9 +19,6 @@ protected:
     static constexpr std::uint8_t HintReadCode = 0xB6;
     static constexpr std::uint8_t SetClockCode = 0xBB;
 
-    void forge(std::uint8_t requestCode, ForgedReplies::Forgery forgery) {
-        m_bench.forge(requestCode, std::move(forgery));
-    }
     void forgeSecurityByte(std::uint8_t security) {
         forge(StatusRequestCode, [security](ForgedReplies::Reply& reply) {
             reply.data[33] = security;
@@ -33,14 +30,9 @@ protected:
     }
 
     void logInWith(const QString& password) {
-        m_bench.type("AuthenticateTextField", password);
-        m_bench.press("AuthenticateSubmit");
+        type("AuthenticateTextField", password);
+        press("AuthenticateSubmit");
     }
-
-    /// The texts of the alerts so far.
-    [[nodiscard]] std::vector<QString> alerts() const { return m_bench.alertTexts(); }
-
-    ControllerBench m_bench;
 };
 
 } // namespace zelto::test

@@ -11,49 +11,49 @@ using testing::Not;
 class SessionDispatchTest : public SessionTest {};
 
 TEST_F(SessionDispatchTest, ExactlyOneDriveIsOpenedWithoutASelection) {
-    m_bench.plugPreparedDrive();
-    m_bench.start();
-    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
-    EXPECT_EQ(m_bench.app().Drives.SelectedZeltoIndex, 0);
-    EXPECT_EQ(m_bench.app().Drives.CurrentUsbIntf, m_bench.app().Drives.UsbIntf[0]);
+    plugPreparedDrive();
+    start();
+    EXPECT_EQ(visibleWindow(), "AuthenticateWindow");
+    EXPECT_EQ(app().Drives.SelectedZeltoIndex, 0);
+    EXPECT_EQ(app().Drives.CurrentUsbIntf, app().Drives.UsbIntf[0]);
 }
 
 TEST_F(SessionDispatchTest, NoDriveOpensASelectionThatSaysSo) {
-    m_bench.start();
-    EXPECT_EQ(m_bench.visibleWindow(), "SelectZeltoWindow");
-    EXPECT_EQ(m_bench.text("SelectZeltoComboBox"), localized("IDS_ERR_NOT_FOUND_ZELTO"));
-    EXPECT_FALSE(m_bench.isEnabled("SelectZeltoComboBox"));
-    EXPECT_FALSE(m_bench.isEnabled("SelectZeltoOK"));
-    EXPECT_TRUE(m_bench.isEnabled("SelectZeltoUpdate"));
-    m_bench.press("SelectZeltoCancel");
-    EXPECT_TRUE(m_bench.hasQuit());
+    start();
+    EXPECT_EQ(visibleWindow(), "SelectZeltoWindow");
+    EXPECT_EQ(text("SelectZeltoComboBox"), localized("IDS_ERR_NOT_FOUND_ZELTO"));
+    EXPECT_FALSE(isEnabled("SelectZeltoComboBox"));
+    EXPECT_FALSE(isEnabled("SelectZeltoOK"));
+    EXPECT_TRUE(isEnabled("SelectZeltoUpdate"));
+    press("SelectZeltoCancel");
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionDispatchTest, TwoDrivesAreListedFromNumberZeroAndTheFirstIsChosen) {
-    m_bench.plugPreparedDrive({.serial = "ZD-A"});
-    m_bench.plugPreparedDrive({.serial = "ZD-B"});
-    m_bench.start();
-    ASSERT_EQ(m_bench.visibleWindow(), "SelectZeltoWindow");
-    const auto* box = m_bench.control<QComboBox>("SelectZeltoComboBox");
+    plugPreparedDrive({.serial = "ZD-A"});
+    plugPreparedDrive({.serial = "ZD-B"});
+    start();
+    ASSERT_EQ(visibleWindow(), "SelectZeltoWindow");
+    const auto* box = control<QComboBox>("SelectZeltoComboBox");
     ASSERT_EQ(box->count(), 2);
     EXPECT_EQ(box->itemText(0), QStringLiteral("Device 0"));
     EXPECT_EQ(box->itemText(1), QStringLiteral("Device 1"));
     EXPECT_EQ(box->currentIndex(), 0);
-    EXPECT_TRUE(m_bench.isEnabled("SelectZeltoOK"));
-    EXPECT_FALSE(m_bench.isEnabled("SelectZeltoUpdate"));
+    EXPECT_TRUE(isEnabled("SelectZeltoOK"));
+    EXPECT_FALSE(isEnabled("SelectZeltoUpdate"));
 }
 
 TEST_F(SessionDispatchTest, TheChosenDriveIsTheOneThatIsTalkedTo) {
-    m_bench.plugPreparedDrive({.serial = "ZD-A"});
-    m_bench.plugPreparedDrive({.serial = "ZD-B"});
-    m_bench.start();
-    m_bench.computer.log.clear();
-    m_bench.person.choose("SelectZeltoComboBox", 1);
-    m_bench.press("SelectZeltoOK");
-    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+    plugPreparedDrive({.serial = "ZD-A"});
+    plugPreparedDrive({.serial = "ZD-B"});
+    start();
+    computer.log.clear();
+    person.choose("SelectZeltoComboBox", 1);
+    press("SelectZeltoOK");
+    EXPECT_EQ(visibleWindow(), "AuthenticateWindow");
     logInWith("first");
-    m_bench.press("UnlockingLogOff");
-    for (const auto& line : m_bench.computer.log.lines()) {
+    press("UnlockingLogOff");
+    for (const auto& line : computer.log.lines()) {
         if (line.kind == simulator::LogLine::Kind::Command) {
             EXPECT_EQ(line.serial, "ZD-B") << line.text;
         }
@@ -61,32 +61,32 @@ TEST_F(SessionDispatchTest, TheChosenDriveIsTheOneThatIsTalkedTo) {
 }
 
 TEST_F(SessionDispatchTest, UpdateShowsDrivesThatHaveArrivedAndIsThenOff) {
-    m_bench.start();
-    m_bench.plugPreparedDrive();
-    m_bench.computer.settle();
-    m_bench.press("SelectZeltoUpdate");
-    EXPECT_EQ(m_bench.text("SelectZeltoComboBox"), QStringLiteral("Device 0"));
-    EXPECT_TRUE(m_bench.isEnabled("SelectZeltoOK"));
-    EXPECT_FALSE(m_bench.isEnabled("SelectZeltoUpdate"));
-    m_bench.press("SelectZeltoOK");
-    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+    start();
+    plugPreparedDrive();
+    computer.settle();
+    press("SelectZeltoUpdate");
+    EXPECT_EQ(text("SelectZeltoComboBox"), QStringLiteral("Device 0"));
+    EXPECT_TRUE(isEnabled("SelectZeltoOK"));
+    EXPECT_FALSE(isEnabled("SelectZeltoUpdate"));
+    press("SelectZeltoOK");
+    EXPECT_EQ(visibleWindow(), "AuthenticateWindow");
 }
 
 TEST_F(SessionDispatchTest, NineDrivesAreListedAsEight) {
     for (int number = 1; number <= 9; ++number) {
-        m_bench.plugPreparedDrive({.serial = "ZD-" + std::to_string(number)});
+        plugPreparedDrive({.serial = "ZD-" + std::to_string(number)});
     }
-    m_bench.start();
-    EXPECT_EQ(m_bench.control<QComboBox>("SelectZeltoComboBox")->count(), 8);
-    EXPECT_EQ(m_bench.app().Drives.DevCnt, 8);
-    EXPECT_EQ(m_bench.app().Drives.Opened.size(), 9U) << "the ninth stays open";
+    start();
+    EXPECT_EQ(control<QComboBox>("SelectZeltoComboBox")->count(), 8);
+    EXPECT_EQ(app().Drives.DevCnt, 8);
+    EXPECT_EQ(app().Drives.Opened.size(), 9U) << "the ninth stays open";
 }
 
 TEST_F(SessionDispatchTest, AComputerWithoutUsbShowsAnEmptySelection) {
-    m_bench.computer.usb.setHasService(false);
-    m_bench.start();
-    EXPECT_EQ(m_bench.visibleWindow(), "SelectZeltoWindow");
-    EXPECT_FALSE(m_bench.isEnabled("SelectZeltoOK"));
+    computer.usb.setHasService(false);
+    start();
+    EXPECT_EQ(visibleWindow(), "SelectZeltoWindow");
+    EXPECT_FALSE(isEnabled("SelectZeltoOK"));
 }
 
 /// Which window, which prompt and which step each security byte leads to.
@@ -127,12 +127,12 @@ TEST_F(SessionDispatchTest, StatesOneSixAndSevenOpenNothingAndSayNothing) {
     for (const std::uint8_t state : {std::uint8_t{1}, std::uint8_t{6}, std::uint8_t{7}}) {
         SCOPED_TRACE(int(state));
         forgeSecurityByte(state);
-        m_bench.plugPreparedDrive();
-        m_bench.start();
-        EXPECT_EQ(m_bench.visibleWindow(), "");
-        EXPECT_THAT(alerts(), IsEmpty());
-        EXPECT_FALSE(m_bench.hasQuit());
-        m_bench.computer.unplug(m_bench.computer.usb.attachments().front()->device);
+        plugPreparedDrive();
+        start();
+        EXPECT_EQ(visibleWindow(), "");
+        EXPECT_THAT(messages(), IsEmpty());
+        EXPECT_FALSE(hasQuit());
+        computer.unplug(computer.usb.attachments().front()->device);
     }
 }
 
@@ -141,9 +141,9 @@ TEST_F(SessionDispatchTest, AnUnreadableStatusCountsAsNoPassword) {
         std::ranges::fill(reply.data, 0);
         reply.result = kIOReturnTimeout;
     });
-    m_bench.plugPreparedDrive();
-    m_bench.start();
-    EXPECT_EQ(m_bench.visibleWindow(), "MainSettingsWindow");
+    plugPreparedDrive();
+    start();
+    EXPECT_EQ(visibleWindow(), "MainSettingsWindow");
 }
 
 // --- Full lock ---------------------------------------------------------------------------------
@@ -152,32 +152,32 @@ class FullLockTest : public SessionTest {
 protected:
     /// A drive whose auto clear has run out: locked for good, its clock valid.
     void plugExpiredDrive() {
-        m_bench.plugPreparedDrive({.autoClearSeconds = 60});
-        m_bench.computer.skip(std::chrono::seconds(61));
+        plugPreparedDrive({.autoClearSeconds = 60});
+        computer.skip(std::chrono::seconds(61));
     }
     /// A drive that has lost its clock while its auto clear was running.
     ControllerBench::Drive plugDriveWithLostClock() {
-        auto drive = m_bench.plugPreparedDrive({.autoClearSeconds = 86400});
-        drive->drive().loseClock(m_bench.computer.clock.worldTime());
+        auto drive = plugPreparedDrive({.autoClearSeconds = 86400});
+        drive->drive().loseClock(computer.clock.worldTime());
         return drive;
     }
 };
 
 TEST_F(FullLockTest, WithAValidClockTheDriveIsLostAndTheSettingsOpen) {
     plugExpiredDrive();
-    m_bench.start();
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_ZELTO_DRIVE_LOST")));
-    EXPECT_EQ(m_bench.visibleWindow(), "MainSettingsWindow");
-    EXPECT_FALSE(m_bench.hasQuit());
+    start();
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_ZELTO_DRIVE_LOST")));
+    EXPECT_EQ(visibleWindow(), "MainSettingsWindow");
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(FullLockTest, WithAnInvalidClockTheUserIsAskedWithTheComputersLocalTime) {
     plugDriveWithLostClock();
-    m_bench.computer.clock.setUtcOffset(std::chrono::hours(9));
-    m_bench.alerts.answer(AlertButton::Alternate);
-    m_bench.start();
-    ASSERT_EQ(m_bench.alerts.panels().size(), 1U);
-    const AlertPanel& panel = m_bench.alerts.panels().front();
+    computer.clock.setUtcOffset(std::chrono::hours(9));
+    alerts.answer(AlertButton::Alternate);
+    start();
+    ASSERT_EQ(alerts.panels().size(), 1U);
+    const AlertPanel& panel = alerts.panels().front();
     EXPECT_EQ(panel.title, localized("IDS_APP_TITLE"));
     EXPECT_EQ(panel.message,
               localized("IDS_FULLLOCK_TIME_STATUS_INVALID", QStringLiteral("2026/03/02 18:30")));
@@ -188,20 +188,20 @@ TEST_F(FullLockTest, WithAnInvalidClockTheUserIsAskedWithTheComputersLocalTime) 
 
 TEST_F(FullLockTest, CancellingEndsTheApplicationWithoutTouchingTheDrive) {
     plugDriveWithLostClock();
-    m_bench.alerts.answer(AlertButton::Alternate);
-    m_bench.start();
-    EXPECT_TRUE(m_bench.hasQuit());
-    EXPECT_THAT(m_bench.commands(), Not(Contains("TKVR21_ZELTO_SetCurrentTime")));
+    alerts.answer(AlertButton::Alternate);
+    start();
+    EXPECT_TRUE(hasQuit());
+    EXPECT_THAT(commands(), Not(Contains("TKVR21_ZELTO_SetCurrentTime")));
 }
 
 TEST_F(FullLockTest, SettingTheClockIsConfirmedAndEndsTheApplication) {
     const auto drive = plugDriveWithLostClock();
-    m_bench.alerts.answer(AlertButton::Default);
-    m_bench.start();
-    EXPECT_EQ(alerts().back(), localized("IDS_SET_CURRENT_YIME"));
-    EXPECT_TRUE(m_bench.hasQuit());
-    EXPECT_EQ(drive->drive().state(m_bench.computer.clock.worldTime()), SecurityState::StateLocked);
-    EXPECT_EQ(m_bench.computer.log.latest("TKVR21_ZELTO_SetCurrentTime")->data,
+    alerts.answer(AlertButton::Default);
+    start();
+    EXPECT_EQ(messages().back(), localized("IDS_SET_CURRENT_YIME"));
+    EXPECT_TRUE(hasQuit());
+    EXPECT_EQ(drive->drive().state(computer.clock.worldTime()), SecurityState::StateLocked);
+    EXPECT_EQ(computer.log.latest("TKVR21_ZELTO_SetCurrentTime")->data,
               (std::vector<std::uint8_t>{0x07, 0xEA, 3, 2, 9, 30, 0}))
         << "UTC, big-endian";
 }
@@ -209,18 +209,18 @@ TEST_F(FullLockTest, SettingTheClockIsConfirmedAndEndsTheApplication) {
 TEST_F(FullLockTest, AFailureToSetTheClockIsReportedAndEndsTheApplication) {
     plugDriveWithLostClock();
     forgeResult(SetClockCode, kIOReturnNoDevice);
-    m_bench.start();
-    EXPECT_EQ(alerts().back(), localized("IDS_ERR_NOT_FOUND_ZELTO"));
-    EXPECT_TRUE(m_bench.hasQuit());
+    start();
+    EXPECT_EQ(messages().back(), localized("IDS_ERR_NOT_FOUND_ZELTO"));
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(FullLockTest, AnUnreadableTimeStatusShowsNothing) {
     plugExpiredDrive();
     forgeResult(TimeRequestCode, kIOReturnTimeout);
-    m_bench.start();
-    EXPECT_THAT(alerts(), IsEmpty());
-    EXPECT_EQ(m_bench.visibleWindow(), "");
-    EXPECT_FALSE(m_bench.hasQuit());
+    start();
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_EQ(visibleWindow(), "");
+    EXPECT_FALSE(hasQuit());
 }
 
 } // namespace

@@ -13,12 +13,12 @@ using testing::IsEmpty;
 class SessionLogInTest : public SessionTest {
 protected:
     void begin(const simulator::DriveSetup& setup = {}) {
-        m_drive = m_bench.plugPreparedDrive(setup);
-        m_bench.start();
-        ASSERT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+        m_drive = plugPreparedDrive(setup);
+        start();
+        ASSERT_EQ(visibleWindow(), "AuthenticateWindow");
     }
     [[nodiscard]] std::vector<std::uint8_t> lastPayload() const {
-        return m_bench.computer.log.latest("TKVR21_Authenticate")->data;
+        return computer.log.latest("TKVR21_Authenticate")->data;
     }
 
     ControllerBench::Drive m_drive;
@@ -26,9 +26,9 @@ protected:
 
 TEST_F(SessionLogInTest, OpensEmptyWithSubmitOff) {
     begin();
-    EXPECT_EQ(m_bench.text("AuthenticateTextField"), QString());
-    EXPECT_FALSE(m_bench.isEnabled("AuthenticateSubmit"));
-    EXPECT_EQ(m_bench.text("AuthenticateMessage"), localized("IDS_ENTER_1ST_PASSWORD"));
+    EXPECT_EQ(text("AuthenticateTextField"), QString());
+    EXPECT_FALSE(isEnabled("AuthenticateSubmit"));
+    EXPECT_EQ(text("AuthenticateMessage"), localized("IDS_ENTER_1ST_PASSWORD"));
 }
 
 TEST_F(SessionLogInTest, AcceptsOneToThirtyTwoSingleByteCharacters) {
@@ -50,8 +50,8 @@ TEST_F(SessionLogInTest, AcceptsOneToThirtyTwoSingleByteCharacters) {
         {__LINE__, QString(100000, u'x'), false},
     };
     for (const Row& row : rows) {
-        m_bench.type("AuthenticateTextField", row.text);
-        EXPECT_EQ(m_bench.isEnabled("AuthenticateSubmit"), row.accepted) << "line " << row.line;
+        type("AuthenticateTextField", row.text);
+        EXPECT_EQ(isEnabled("AuthenticateSubmit"), row.accepted) << "line " << row.line;
     }
 }
 
@@ -69,51 +69,51 @@ TEST_F(SessionLogInTest, ThePayloadIsTheStepFlagAZeroAndTheDigestOfTheCharacters
 TEST_F(SessionLogInTest, OnePasswordLeadsToTheUnlockingWindow) {
     begin();
     logInWith("first");
-    EXPECT_EQ(m_bench.visibleWindow(), "UnlockingWindow");
-    EXPECT_THAT(alerts(), IsEmpty());
+    EXPECT_EQ(visibleWindow(), "UnlockingWindow");
+    EXPECT_THAT(messages(), IsEmpty());
 }
 
 TEST_F(SessionLogInTest, TwoPasswordsAskTwiceAndLeadToTheUnlockedWindow) {
     begin({.secondPassword = "second"});
     logInWith("first");
     EXPECT_EQ(lastPayload()[0], 1) << "first step";
-    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
-    EXPECT_EQ(m_bench.text("AuthenticateMessage"), localized("IDS_ENTER_2ND_PASSWORD"));
-    EXPECT_EQ(m_bench.text("AuthenticateTextField"), QString());
-    EXPECT_FALSE(m_bench.isEnabled("AuthenticateSubmit"));
+    EXPECT_EQ(visibleWindow(), "AuthenticateWindow");
+    EXPECT_EQ(text("AuthenticateMessage"), localized("IDS_ENTER_2ND_PASSWORD"));
+    EXPECT_EQ(text("AuthenticateTextField"), QString());
+    EXPECT_FALSE(isEnabled("AuthenticateSubmit"));
     logInWith("second");
     EXPECT_EQ(lastPayload()[0], 0) << "further step";
     EXPECT_EQ(lastPayload()[1], 0);
-    EXPECT_EQ(m_bench.visibleWindow(), "UnlockedWindow");
+    EXPECT_EQ(visibleWindow(), "UnlockedWindow");
 }
 
 TEST_F(SessionLogInTest, AFurtherStepForTheFirstPasswordLeadsToTheUnlockedWindow) {
     forgeSecurityByte(0x03);
     begin();
-    EXPECT_EQ(m_bench.text("AuthenticateMessage"), localized("IDS_ENTER_1ST_PASSWORD"));
+    EXPECT_EQ(text("AuthenticateMessage"), localized("IDS_ENTER_1ST_PASSWORD"));
     forgeResult(AuthenticateCode, kIOReturnSuccess);
     logInWith("first");
-    EXPECT_EQ(m_bench.visibleWindow(), "UnlockedWindow");
+    EXPECT_EQ(visibleWindow(), "UnlockedWindow");
 }
 
 TEST_F(SessionLogInTest, AWrongPasswordIsSaidBetweenTwoPausesAndTheTextStays) {
     begin();
-    m_bench.computer.log.clear();
+    computer.log.clear();
     logInWith("wrong");
-    EXPECT_THAT(m_bench.computer.log.story(),
+    EXPECT_THAT(computer.log.story(),
                 ElementsAre("TKVR21_Authenticate", "sleep 1", "TKVR21_GetDeviceStatus",
                             testing::StartsWith("alert"), "sleep 1"));
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_AUTHENTICATE_FAILED")));
-    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
-    EXPECT_EQ(m_bench.text("AuthenticateTextField"), QStringLiteral("wrong"));
-    EXPECT_TRUE(m_bench.isEnabled("AuthenticateSubmit"));
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_AUTHENTICATE_FAILED")));
+    EXPECT_EQ(visibleWindow(), "AuthenticateWindow");
+    EXPECT_EQ(text("AuthenticateTextField"), QStringLiteral("wrong"));
+    EXPECT_TRUE(isEnabled("AuthenticateSubmit"));
 }
 
 TEST_F(SessionLogInTest, SenseKeyTwoCountsAsAWrongPasswordToo) {
     begin();
     forge(StatusRequestCode, [](ForgedReplies::Reply& reply) { reply.data[13] = 2; });
     logInWith("wrong");
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_AUTHENTICATE_FAILED")));
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_AUTHENTICATE_FAILED")));
 }
 
 TEST_F(SessionLogInTest, ARefusalForAnotherReasonIsSilent) {
@@ -125,9 +125,9 @@ TEST_F(SessionLogInTest, ARefusalForAnotherReasonIsSilent) {
     });
     begin();
     logInWith("wrong");
-    EXPECT_THAT(alerts(), IsEmpty());
-    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
-    EXPECT_FALSE(m_bench.hasQuit());
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_EQ(visibleWindow(), "AuthenticateWindow");
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(SessionLogInTest, ARefusalByADriveThatHasLockedItselfForGoodEndsTheApplication) {
@@ -140,9 +140,9 @@ TEST_F(SessionLogInTest, ARefusalByADriveThatHasLockedItselfForGoodEndsTheApplic
     });
     begin();
     logInWith("wrong");
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_ZELTO_DRIVE_LOST")));
-    EXPECT_EQ(m_bench.visibleWindow(), "");
-    EXPECT_TRUE(m_bench.hasQuit());
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_ZELTO_DRIVE_LOST")));
+    EXPECT_EQ(visibleWindow(), "");
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionLogInTest, TheLastWrongSecondPasswordLosesTheDrive) {
@@ -150,70 +150,69 @@ TEST_F(SessionLogInTest, TheLastWrongSecondPasswordLosesTheDrive) {
     logInWith("first");
     logInWith("wrong 1");
     logInWith("wrong 2");
-    EXPECT_EQ(m_drive->drive().state(m_bench.computer.clock.worldTime()),
-              SecurityState::StateFullLock);
-    EXPECT_EQ(alerts().size(), 2U);
+    EXPECT_EQ(m_drive->drive().state(computer.clock.worldTime()), SecurityState::StateFullLock);
+    EXPECT_EQ(messages().size(), 2U);
 }
 
 TEST_F(SessionLogInTest, AnUnreadableStatusAfterARefusalIsReported) {
     begin();
     forgeResult(StatusRequestCode, kIOReturnTimeout);
     logInWith("wrong");
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_COMMAND_FAIL")));
-    EXPECT_EQ(m_bench.visibleWindow(), "AuthenticateWindow");
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_COMMAND_FAIL")));
+    EXPECT_EQ(visibleWindow(), "AuthenticateWindow");
 }
 
 TEST_F(SessionLogInTest, ADriveThatIsGoneIsSaidAndEndsTheApplication) {
     begin();
-    m_bench.unplug(m_drive);
-    m_bench.computer.log.clear();
+    unplug(m_drive);
+    computer.log.clear();
     logInWith("first");
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
-    EXPECT_THAT(m_bench.commands(), ElementsAre("TKVR21_Authenticate"));
-    EXPECT_TRUE(m_bench.hasQuit());
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
+    EXPECT_THAT(commands(), ElementsAre("TKVR21_Authenticate"));
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionLogInTest, CancelAndTheTitleBarEndTheApplication) {
     begin();
-    m_bench.press("AuthenticateCancel");
-    EXPECT_TRUE(m_bench.hasQuit());
-    m_bench.start();
-    EXPECT_FALSE(m_bench.hasQuit());
-    m_bench.app().AuthenticateWindow.close();
-    EXPECT_TRUE(m_bench.hasQuit());
+    press("AuthenticateCancel");
+    EXPECT_TRUE(hasQuit());
+    start();
+    EXPECT_FALSE(hasQuit());
+    app().AuthenticateWindow.close();
+    EXPECT_TRUE(hasQuit());
 }
 
 // --- The remaining time on the log-in window ---------------------------------------------------
 
 TEST_F(SessionLogInTest, ShowsTheRemainingTimeWhenTheUserChoseSoAndAPeriodRuns) {
     begin({.autoClearSeconds = 90061, .showsRemainingTime = true});
-    EXPECT_NE(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
-    m_bench.tick();
-    EXPECT_TRUE(m_bench.text("AuthenticateRemainingTimeText").startsWith(u"1 "));
+    EXPECT_NE(text("AuthenticateRemainingTimeTitleText"), QString());
+    tick();
+    EXPECT_TRUE(text("AuthenticateRemainingTimeText").startsWith(u"1 "));
 }
 
 TEST_F(SessionLogInTest, ShowsNoRemainingTimeWithoutTheChoice) {
     begin({.autoClearSeconds = 90061, .showsRemainingTime = false});
-    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
-    m_bench.tick();
-    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeText"), QString());
+    EXPECT_EQ(text("AuthenticateRemainingTimeTitleText"), QString());
+    tick();
+    EXPECT_EQ(text("AuthenticateRemainingTimeText"), QString());
 }
 
 TEST_F(SessionLogInTest, ShowsNoRemainingTimeWithoutAPeriod) {
     begin({.autoClearSeconds = 0, .showsRemainingTime = true});
-    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
+    EXPECT_EQ(text("AuthenticateRemainingTimeTitleText"), QString());
 }
 
 TEST_F(SessionLogInTest, ShowsNoRemainingTimeWhenTheChoiceCannotBeRead) {
     forgeResult(HintReadCode, kIOReturnTimeout);
     begin({.autoClearSeconds = 90061, .showsRemainingTime = true});
-    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
+    EXPECT_EQ(text("AuthenticateRemainingTimeTitleText"), QString());
 }
 
 TEST_F(SessionLogInTest, ShowsNoRemainingTimeWhenThePeriodCannotBeRead) {
     forgeResult(TimeRequestCode, kIOReturnTimeout);
     begin({.autoClearSeconds = 90061, .showsRemainingTime = true});
-    EXPECT_EQ(m_bench.text("AuthenticateRemainingTimeTitleText"), QString());
+    EXPECT_EQ(text("AuthenticateRemainingTimeTitleText"), QString());
 }
 
 // --- The digest --------------------------------------------------------------------------------
@@ -223,14 +222,13 @@ using SessionLogInDeathTest = SessionLogInTest;
 TEST_F(SessionLogInDeathTest, DigestingMoreThanThirtyTwoCharactersIsAProgrammingError) {
     begin();
     PasswordDigest digest{};
-    EXPECT_DEATH(m_bench.app().SetPasswordData(QString(33, u'x'), digest),
-                 "passwordString length.<=32");
+    EXPECT_DEATH(app().SetPasswordData(QString(33, u'x'), digest), "passwordString length.<=32");
 }
 
 TEST_F(SessionLogInTest, DigestsThirtyTwoCharacters) {
     begin();
     PasswordDigest digest{};
-    m_bench.app().SetPasswordData(QString(32, u'x'), digest);
+    app().SetPasswordData(QString(32, u'x'), digest);
     SHA256 sha;
     sha.Init();
     const std::string text(32, 'x');

@@ -15,18 +15,18 @@ using testing::StartsWith;
 class SessionLogOffTest : public SessionTest {
 protected:
     void beginUnlocked(const simulator::DriveSetup& setup = {}) {
-        m_drive = m_bench.plugPreparedDrive(setup);
-        m_bench.start();
+        m_drive = plugPreparedDrive(setup);
+        start();
         logInWith("first");
-        ASSERT_EQ(m_bench.visibleWindow(), "UnlockingWindow");
-        m_bench.computer.log.clear();
+        ASSERT_EQ(visibleWindow(), "UnlockingWindow");
+        computer.log.clear();
     }
     [[nodiscard]] SecurityState state() {
-        return m_drive->drive().state(m_bench.computer.clock.worldTime());
+        return m_drive->drive().state(computer.clock.worldTime());
     }
     /// The BSD name that is mounted there.
     [[nodiscard]] std::string mountedFrom(const std::string& mountPoint) {
-        for (const auto& line : m_bench.computer.mounts.getmntinfo()) {
+        for (const auto& line : computer.mounts.getmntinfo()) {
             if (line.f_mntonname == mountPoint) {
                 return line.f_mntfromname.substr(std::string("/dev/").size());
             }
@@ -39,35 +39,35 @@ protected:
 
 TEST_F(SessionLogOffTest, EjectsTheSecureVolumeThenLocksThenEnds) {
     beginUnlocked();
-    m_bench.press("UnlockingLogOff");
-    EXPECT_THAT(m_bench.computer.log.story(),
+    press("UnlockingLogOff");
+    EXPECT_THAT(computer.log.story(),
                 ElementsAre("TKVR21_GetAreaInfos", StartsWith("diskutil eject"), "TKVR21_Logout",
                             "stop", "stop"));
     EXPECT_EQ(state(), SecurityState::StateLocked);
-    EXPECT_TRUE(m_bench.hasQuit());
-    EXPECT_TRUE(m_bench.computer.files.fileExistsAtPath("/media/user/PUBLIC"))
+    EXPECT_TRUE(hasQuit());
+    EXPECT_TRUE(computer.files.fileExistsAtPath("/media/user/PUBLIC"))
         << "the normal area stays mounted";
 }
 
 TEST_F(SessionLogOffTest, TheUnlockedWindowLogsOffTheSameWay) {
     beginUnlocked();
-    m_bench.app().DisplayUnlockedWindow();
-    m_bench.app().UnlockingWindow.orderOut();
-    m_bench.press("UnlockedLogOff");
-    EXPECT_THAT(m_bench.commands(), ElementsAre("TKVR21_GetAreaInfos", "TKVR21_Logout"));
-    EXPECT_TRUE(m_bench.hasQuit());
+    app().DisplayUnlockedWindow();
+    app().UnlockingWindow.orderOut();
+    press("UnlockedLogOff");
+    EXPECT_THAT(commands(), ElementsAre("TKVR21_GetAreaInfos", "TKVR21_Logout"));
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionLogOffTest, ABusyVolumeIsSaidNotLockedAndEndsTheApplication) {
     beginUnlocked();
-    m_bench.computer.mounts.setHolders(mountedFrom("/media/user/PRIVATE"), {"editor", "shell"});
-    m_bench.press("UnlockingLogOff");
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_UNMOUNT")));
-    EXPECT_THAT(m_bench.alerts.panels().front().detail.toStdString(),
+    computer.mounts.setHolders(mountedFrom("/media/user/PRIVATE"), {"editor", "shell"});
+    press("UnlockingLogOff");
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_UNMOUNT")));
+    EXPECT_THAT(alerts.panels().front().detail.toStdString(),
                 testing::AllOf(testing::HasSubstr("editor"), testing::HasSubstr("shell")));
-    EXPECT_THAT(m_bench.commands(), Not(Contains("TKVR21_Logout")));
+    EXPECT_THAT(commands(), Not(Contains("TKVR21_Logout")));
     EXPECT_EQ(state(), SecurityState::StateUnlocking);
-    EXPECT_TRUE(m_bench.hasQuit());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionLogOffTest, WithoutASecureAreaAllVolumesAreUnmountedAndTheLogOutIsSentAllTheSame) {
@@ -77,73 +77,73 @@ TEST_F(SessionLogOffTest, WithoutASecureAreaAllVolumesAreUnmountedAndTheLogOutIs
             reply.data[entry] = 0;
         }
     });
-    m_bench.press("UnlockingLogOff");
-    EXPECT_FALSE(m_bench.computer.files.fileExistsAtPath("/media/user/PUBLIC"));
-    EXPECT_FALSE(m_bench.computer.files.fileExistsAtPath("/media/user/PRIVATE"));
-    EXPECT_THAT(m_bench.commands(), ElementsAre("TKVR21_GetAreaInfos", "TKVR21_Logout"));
-    EXPECT_TRUE(m_bench.hasQuit());
+    press("UnlockingLogOff");
+    EXPECT_FALSE(computer.files.fileExistsAtPath("/media/user/PUBLIC"));
+    EXPECT_FALSE(computer.files.fileExistsAtPath("/media/user/PRIVATE"));
+    EXPECT_THAT(commands(), ElementsAre("TKVR21_GetAreaInfos", "TKVR21_Logout"));
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionLogOffTest, AnUnreadableAreaTableIsReportedAndNothingIsTouched) {
     forgeResult(AreasRequestCode, kIOUSBPipeStalled);
     beginUnlocked();
-    m_bench.press("UnlockingLogOff");
-    EXPECT_EQ(alerts().size(), 1U);
-    EXPECT_EQ(alerts().front(), localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 0, 0, 0));
-    EXPECT_THAT(m_bench.diskToolRuns(), IsEmpty());
-    EXPECT_THAT(m_bench.commands(), Not(Contains("TKVR21_Logout")));
+    press("UnlockingLogOff");
+    EXPECT_EQ(messages().size(), 1U);
+    EXPECT_EQ(messages().front(), localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 0, 0, 0));
+    EXPECT_THAT(diskToolRuns(), IsEmpty());
+    EXPECT_THAT(commands(), Not(Contains("TKVR21_Logout")));
     EXPECT_EQ(state(), SecurityState::StateUnlocking);
-    EXPECT_TRUE(m_bench.hasQuit());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionLogOffTest, AFailedReadLeavesTheAreaTableThatIsKnown) {
     beginUnlocked();
     std::uint32_t number = 0;
-    ASSERT_TRUE(m_bench.app().GetSecureAreaDiskNumber(number));
+    ASSERT_TRUE(app().GetSecureAreaDiskNumber(number));
     forgeResult(AreasRequestCode, kIOUSBPipeStalled);
-    EXPECT_FALSE(m_bench.app().GetSecureAreaDiskNumber(number));
+    EXPECT_FALSE(app().GetSecureAreaDiskNumber(number));
     EXPECT_EQ(number, 2U);
-    EXPECT_EQ(m_bench.app().Settings.AreaInfos.entryCount(), 3U);
+    EXPECT_EQ(app().Settings.AreaInfos.entryCount(), 3U);
 }
 
 TEST_F(SessionLogOffTest, ARefusedLogOutGoesUnnoticed) {
     forgeResult(LogoutCode, kIOUSBPipeStalled);
     beginUnlocked();
-    m_bench.press("UnlockingLogOff");
-    EXPECT_THAT(alerts(), IsEmpty());
-    EXPECT_TRUE(m_bench.hasQuit());
+    press("UnlockingLogOff");
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionLogOffTest, SetupClosesTheWindowAndOpensTheSettings) {
     beginUnlocked();
-    m_bench.press("UnlockingSetup");
-    EXPECT_EQ(m_bench.visibleWindow(), "MainSettingsWindow");
-    EXPECT_FALSE(m_bench.hasQuit());
+    press("UnlockingSetup");
+    EXPECT_EQ(visibleWindow(), "MainSettingsWindow");
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(SessionLogOffTest, SetupFromTheUnlockedWindowOpensTheSettingsToo) {
     beginUnlocked();
-    m_bench.app().UnlockingWindow.orderOut();
-    m_bench.app().DisplayUnlockedWindow();
-    m_bench.press("UnlockedSetup");
-    EXPECT_EQ(m_bench.visibleWindow(), "MainSettingsWindow");
-    EXPECT_FALSE(m_bench.hasQuit());
+    app().UnlockingWindow.orderOut();
+    app().DisplayUnlockedWindow();
+    press("UnlockedSetup");
+    EXPECT_EQ(visibleWindow(), "MainSettingsWindow");
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(SessionLogOffTest, ClosingLeavesTheDriveUnlocked) {
     beginUnlocked();
-    m_bench.press("UnlockingCancel");
-    EXPECT_TRUE(m_bench.hasQuit());
+    press("UnlockingCancel");
+    EXPECT_TRUE(hasQuit());
     EXPECT_EQ(state(), SecurityState::StateUnlocking);
-    EXPECT_THAT(m_bench.commands(), IsEmpty());
+    EXPECT_THAT(commands(), IsEmpty());
 }
 
 TEST_F(SessionLogOffTest, ClosingTheUnlockedWindowLeavesTheDriveUnlocked) {
     beginUnlocked();
-    m_bench.app().UnlockingWindow.orderOut();
-    m_bench.app().DisplayUnlockedWindow();
-    m_bench.press("UnlockedOK");
-    EXPECT_TRUE(m_bench.hasQuit());
+    app().UnlockingWindow.orderOut();
+    app().DisplayUnlockedWindow();
+    press("UnlockedOK");
+    EXPECT_TRUE(hasQuit());
     EXPECT_EQ(state(), SecurityState::StateUnlocking);
 }
 
@@ -152,15 +152,15 @@ TEST_F(SessionLogOffTest, ClosingTheUnlockedWindowLeavesTheDriveUnlocked) {
 TEST_F(SessionLogOffTest, TheFirstSecureEntryIsCountedFromOne) {
     beginUnlocked();
     std::uint32_t number = 0;
-    EXPECT_TRUE(m_bench.app().GetSecureAreaDiskNumber(number));
+    EXPECT_TRUE(app().GetSecureAreaDiskNumber(number));
     EXPECT_EQ(number, 2U);
 }
 
 TEST_F(SessionLogOffTest, WithoutASecureEntryTheCallersNumberStays) {
-    m_bench.plugNewDrive();
-    m_bench.start();
+    plugNewDrive();
+    start();
     std::uint32_t number = 0;
-    EXPECT_TRUE(m_bench.app().GetSecureAreaDiskNumber(number));
+    EXPECT_TRUE(app().GetSecureAreaDiskNumber(number));
     EXPECT_EQ(number, 0U);
 }
 
@@ -169,10 +169,10 @@ TEST_F(SessionLogOffTest, ATableThatClaimsMoreEntriesThanItHoldsIsReadToItsEndOn
         std::ranges::fill(reply.data, 0);
         reply.data[0] = reply.data[1] = 0xFF;
     });
-    m_bench.plugPreparedDrive();
-    m_bench.start();
+    plugPreparedDrive();
+    start();
     std::uint32_t number = 7;
-    EXPECT_TRUE(m_bench.app().GetSecureAreaDiskNumber(number));
+    EXPECT_TRUE(app().GetSecureAreaDiskNumber(number));
     EXPECT_EQ(number, 7U);
 }
 
@@ -180,11 +180,11 @@ TEST_F(SessionLogOffTest, ATableThatClaimsMoreEntriesThanItHoldsIsReadToItsEndOn
 
 TEST_F(SessionLogOffTest, DiskNumberZeroListsEveryVolumeOfTheDrive) {
     beginUnlocked();
-    m_bench.app().GetBsdNameList(0);
+    app().GetBsdNameList(0);
     EXPECT_GE(g_BsdNameList.size(), 6U) << "three disks and their partitions";
-    m_bench.app().GetBsdNameList(2);
+    app().GetBsdNameList(2);
     EXPECT_EQ(g_BsdNameList.front() + "s1", mountedFrom("/media/user/PRIVATE"));
-    m_bench.app().GetBsdNameList(4);
+    app().GetBsdNameList(4);
     EXPECT_THAT(g_BsdNameList, IsEmpty());
 }
 
@@ -192,73 +192,73 @@ TEST_F(SessionLogOffTest, OnlyTheMountedNameIsUnmountedByItsBareName) {
     beginUnlocked();
     const std::string partition = mountedFrom("/media/user/PUBLIC");
     const std::string disk = partition.substr(0, partition.find('s', 4));
-    EXPECT_TRUE(m_bench.app().UnmountVolume({disk, partition}, 0));
-    EXPECT_THAT(m_bench.diskToolRuns(), ElementsAre("diskutil umount " + partition));
+    EXPECT_TRUE(app().UnmountVolume({disk, partition}, 0));
+    EXPECT_THAT(diskToolRuns(), ElementsAre("diskutil umount " + partition));
 }
 
 TEST_F(SessionLogOffTest, AWholeDiskThatIsMountedIsEjectedByItsName) {
-    m_bench.computer.mounts.addForeign({"/media/user/WHOLE", "/dev/disk7"});
+    computer.mounts.addForeign({"/media/user/WHOLE", "/dev/disk7"});
     beginUnlocked();
-    (void)m_bench.app().UnmountVolume({"disk7"}, 1);
-    EXPECT_THAT(m_bench.diskToolRuns(), ElementsAre("diskutil eject disk7"));
+    (void)app().UnmountVolume({"disk7"}, 1);
+    EXPECT_THAT(diskToolRuns(), ElementsAre("diskutil eject disk7"));
 }
 
 TEST_F(SessionLogOffTest, AVolumeMountedUnderAnotherPathFormCountsAsNotMounted) {
-    m_bench.computer.mounts.addForeign({"/media/user/OTHER", "disk7"});
+    computer.mounts.addForeign({"/media/user/OTHER", "disk7"});
     beginUnlocked();
-    EXPECT_TRUE(m_bench.app().UnmountVolume({"disk7"}, 0));
-    EXPECT_THAT(m_bench.diskToolRuns(), IsEmpty());
+    EXPECT_TRUE(app().UnmountVolume({"disk7"}, 0));
+    EXPECT_THAT(diskToolRuns(), IsEmpty());
 }
 
 TEST_F(SessionLogOffTest, AFailedRunDoesNotKeepTheOthersFromBeingTried) {
     beginUnlocked();
     const std::string busy = mountedFrom("/media/user/PUBLIC");
     const std::string free = mountedFrom("/media/user/PRIVATE");
-    m_bench.computer.mounts.setHolders(busy, {"editor"});
-    EXPECT_FALSE(m_bench.app().UnmountVolume({busy, free}, 0));
-    EXPECT_EQ(m_bench.diskToolRuns().size(), 2U);
+    computer.mounts.setHolders(busy, {"editor"});
+    EXPECT_FALSE(app().UnmountVolume({busy, free}, 0));
+    EXPECT_EQ(diskToolRuns().size(), 2U);
     EXPECT_EQ(mountedFrom("/media/user/PRIVATE"), "");
 }
 
 TEST_F(SessionLogOffTest, AnEmptyListIsUnmountedAtOnce) {
     beginUnlocked();
-    EXPECT_TRUE(m_bench.app().UnmountVolume({}, 1));
-    EXPECT_THAT(m_bench.diskToolRuns(), IsEmpty());
+    EXPECT_TRUE(app().UnmountVolume({}, 1));
+    EXPECT_THAT(diskToolRuns(), IsEmpty());
 }
 
 // --- Spin-up -----------------------------------------------------------------------------------
 
 TEST_F(SessionLogOffTest, ADriveThatIsReadyIsNotWaitedFor) {
     beginUnlocked();
-    EXPECT_TRUE(m_bench.app().SpinUpDrive());
-    EXPECT_THAT(m_bench.computer.log.story(), ElementsAre("TKVR21_GetDeviceStatus"));
-    EXPECT_EQ(m_bench.computer.log.latest("TKVR21_GetDeviceStatus")->setup.wValue, 1);
+    EXPECT_TRUE(app().SpinUpDrive());
+    EXPECT_THAT(computer.log.story(), ElementsAre("TKVR21_GetDeviceStatus"));
+    EXPECT_EQ(computer.log.latest("TKVR21_GetDeviceStatus")->setup.wValue, 1);
 }
 
 TEST_F(SessionLogOffTest, ADriveThatGetsReadyIsWaitedForSecondBySecond) {
     beginUnlocked();
     m_drive->drive().setNotReadyReads(3);
-    EXPECT_TRUE(m_bench.app().SpinUpDrive());
-    EXPECT_EQ(m_bench.computer.log.count("TKVR21_GetDeviceStatus"), 4U);
-    EXPECT_EQ(m_bench.computer.log.count("sleep 1"), 3U);
+    EXPECT_TRUE(app().SpinUpDrive());
+    EXPECT_EQ(computer.log.count("TKVR21_GetDeviceStatus"), 4U);
+    EXPECT_EQ(computer.log.count("sleep 1"), 3U);
 }
 
 TEST_F(SessionLogOffTest, ADriveThatNeverGetsReadyIsReadTenTimesThenSaidAndEndsTheApplication) {
     beginUnlocked();
     m_drive->drive().setNotReadyReads(1000);
-    EXPECT_FALSE(m_bench.app().SpinUpDrive());
-    EXPECT_EQ(m_bench.computer.log.count("TKVR21_GetDeviceStatus"), 10U);
-    EXPECT_EQ(m_bench.computer.log.count("sleep 1"), 9U);
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_SPINUP")));
-    EXPECT_TRUE(m_bench.hasQuit());
+    EXPECT_FALSE(app().SpinUpDrive());
+    EXPECT_EQ(computer.log.count("TKVR21_GetDeviceStatus"), 10U);
+    EXPECT_EQ(computer.log.count("sleep 1"), 9U);
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_SPINUP")));
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(SessionLogOffTest, AFailedStatusReadDuringSpinUpIsReportedAndTheApplicationStays) {
     beginUnlocked();
-    m_bench.unplug(m_drive);
-    EXPECT_FALSE(m_bench.app().SpinUpDrive());
-    EXPECT_THAT(alerts(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
-    EXPECT_FALSE(m_bench.hasQuit());
+    unplug(m_drive);
+    EXPECT_FALSE(app().SpinUpDrive());
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
+    EXPECT_FALSE(hasQuit());
 }
 
 } // namespace

@@ -203,37 +203,27 @@ protected:
         computer.log.clear();
     }
 
-    /// The commands since the log was cleared, in order, without their common prefix and without
-    /// what the tick reads.
-    [[nodiscard]] std::vector<std::string> commands() const {
-        auto names = ControllerBench::commands();
-        for (auto& name : names) {
-            name.erase(0, Prefix.size());
-        }
-        return names;
-    }
     [[nodiscard]] const simulator::LogLine& latest(const std::string& command) const {
         static const simulator::LogLine none;
-        const auto* const line = computer.log.latest(Prefix + command);
+        const auto* const line = computer.log.latest(command);
         EXPECT_NE(line, nullptr) << command;
         return line == nullptr ? none : *line;
     }
     [[nodiscard]] std::vector<simulator::LogLine> all(const std::string& command) const {
         std::vector<simulator::LogLine> found;
         for (const auto& line : computer.log.lines()) {
-            if (line.text == Prefix + command) {
+            if (line.text == command) {
                 found.push_back(line);
             }
         }
         return found;
     }
-    [[nodiscard]] std::vector<QString> messages() const { return alertTexts(); }
 
     /// The next transfer of this command goes wrong, and all later ones of it.
     void failCommand(const std::string& command, simulator::Fault fault) {
         plan->failWhen(
-            [name = Prefix + command](const IOUSBDevRequest& request) {
-                return simulator::commandName(request) == name;
+            [command](const IOUSBDevRequest& request) {
+                return simulator::commandName(request) == command;
             },
             fault);
     }
@@ -246,8 +236,6 @@ protected:
     Drive drive;
 
 private:
-    inline static const std::string Prefix = "TKVR21_";
-
     /// What first-time set-up makes of the wishes, its unset clock and blank user areas included.
     static simulator::DriveSetup setupOf(const Wishes& wishes) {
         constexpr std::uint32_t SecondsPerDay = 86400;

@@ -77,11 +77,11 @@ TEST_F(ChangeSettings, TheRemainingTimeBoxAloneIsCommittedWithBothPeriodsAndQuit
     press("ShowRemainingTimeCheckBox");
     ASSERT_TRUE(okIsEnabled());
     commit();
-    EXPECT_EQ(commands(),
-              (Commands{"ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData"}));
-    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 172800 & 0xFFFF);
-    EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 1800);
-    EXPECT_THAT(latest("ZELTO_WriteHintData").data, ElementsAre(1));
+    EXPECT_EQ(commands(), (Commands{"TKVR21_ZELTO_SetErasePeriod", "TKVR21_ZELTO_SetIdleLockPeriod",
+                                    "TKVR21_ZELTO_WriteHintData"}));
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wValue, 172800 & 0xFFFF);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetIdleLockPeriod").setup.wValue, 1800);
+    EXPECT_THAT(latest("TKVR21_ZELTO_WriteHintData").data, ElementsAre(1));
     EXPECT_TRUE(hasQuit());
     EXPECT_THAT(messages(), IsEmpty());
 }
@@ -92,8 +92,8 @@ TEST_F(ChangeSettings, AnUncheckedAutoClearIsSentAsZero) {
     // Whatever the text holds.
     control<QLineEdit>("AutoClearText")->setText(QStringLiteral("7"));
     commit();
-    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 0);
-    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wIndex, 0);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wValue, 0);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wIndex, 0);
 }
 
 TEST_F(ChangeSettings, CancelQuitsWithoutACommand) {
@@ -115,7 +115,7 @@ TEST_F(ChangeSettings, OnePasswordIsChangedByOneRecord) {
     changePasswords({});
     ASSERT_TRUE(okIsEnabled());
     commit();
-    const auto records = all("SetAuthInfo");
+    const auto records = all("TKVR21_SetAuthInfo");
     ASSERT_EQ(records.size(), 1u);
     EXPECT_EQ(records[0].data.size(), 72u);
     EXPECT_EQ(records[0].data[0], 0x06);
@@ -136,7 +136,7 @@ TEST_F(ChangeSettings, TwoPasswordsAreChangedByTwoRecords) {
     EXPECT_TRUE(app().Settings.PasswordSettingsParameters.Use1stAnd2ndPassword);
     changePasswords({}, true);
     commit();
-    const auto records = all("SetAuthInfo");
+    const auto records = all("TKVR21_SetAuthInfo");
     ASSERT_EQ(records.size(), 2u);
     EXPECT_EQ(records[0].data.size(), 72u);
     EXPECT_EQ(records[0].data[0], 0x06);
@@ -157,7 +157,7 @@ TEST_F(ChangeSettings, AWrongCurrentFirstPasswordIsToldAfterAPauseAndTheWindowSt
     beginWithSettingsOf({});
     changePasswords({.current1 = "wrong"});
     commit();
-    EXPECT_EQ(commands(), (Commands{"SetAuthInfo", "GetDeviceStatus"}));
+    EXPECT_EQ(commands(), (Commands{"TKVR21_SetAuthInfo", "TKVR21_GetDeviceStatus"}));
     EXPECT_EQ(computer.log.count("sleep 1"), 1u);
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_CURRENT_1ST_PASSWORD_INVALID")));
     EXPECT_FALSE(hasQuit());
@@ -180,7 +180,7 @@ TEST_F(ChangeSettings, AWrongCurrentSecondPasswordChangesNothing) {
     beginWithSettingsOf({.twoPasswords = true});
     changePasswords({.current2 = "wrong"}, true);
     commit();
-    EXPECT_EQ(commands(), (Commands{"SetAuthInfo", "GetDeviceStatus"}));
+    EXPECT_EQ(commands(), (Commands{"TKVR21_SetAuthInfo", "TKVR21_GetDeviceStatus"}));
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_CURRENT_2ND_PASSWORD_INVALID")));
 }
 
@@ -198,7 +198,8 @@ TEST_F(ChangeSettings, AWrongFirstPasswordLeavesTheSecondOneChanged) {
 TEST_F(ChangeSettings, ARecordRefusedForAnotherReasonIsReportedWithItsSense) {
     beginWithSettingsOf({});
     changePasswords({});
-    failCommand("SetAuthInfo", {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
+    failCommand("TKVR21_SetAuthInfo",
+                {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
     commit();
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 0, 0, 0)));
     EXPECT_TRUE(okIsEnabled());
@@ -207,14 +208,14 @@ TEST_F(ChangeSettings, ARecordRefusedForAnotherReasonIsReportedWithItsSense) {
 TEST_F(ChangeSettings, ADriveThatIsGoneIsReportedByTheStatusReadAfterTheRefusal) {
     beginWithSettingsOf({});
     changePasswords({});
-    failCommand("SetAuthInfo", {.kind = Fault::Kind::VanishesBefore});
+    failCommand("TKVR21_SetAuthInfo", {.kind = Fault::Kind::VanishesBefore});
     commit();
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
     EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(ChangeSettings, ARefusedPeriodKeepsTheWindowOpen) {
-    for (const char* command : {"ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
+    for (const char* command : {"TKVR21_ZELTO_SetErasePeriod", "TKVR21_ZELTO_SetIdleLockPeriod"}) {
         beginWithSettingsOf({});
         press("ShowRemainingTimeCheckBox");
         failCommand(command, {});
@@ -268,7 +269,7 @@ TEST_F(ChangeSettings, OpeningTwiceInOneRunLeavesTwoItemsAndShowsTheFirst) {
 TEST_F(ChangeSettings, AnAreaListThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
     app().MainSettingsWindow.orderOut();
-    failCommand("GetAreaInfos", {.kind = Fault::Kind::VanishesBefore});
+    failCommand("TKVR21_GetAreaInfos", {.kind = Fault::Kind::VanishesBefore});
     app().DisplayMainSettingsWindow(false);
     EXPECT_FALSE(app().MainSettingsWindow.isVisible());
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
@@ -277,7 +278,7 @@ TEST_F(ChangeSettings, AnAreaListThatCannotBeReadOpensNothing) {
 TEST_F(ChangeSettings, ATimeStatusThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
     app().MainSettingsWindow.orderOut();
-    failCommand("ZELTO_GetTimeStatus", {});
+    failCommand("TKVR21_ZELTO_GetTimeStatus", {});
     app().DisplayMainSettingsWindow(false);
     EXPECT_FALSE(app().MainSettingsWindow.isVisible());
     EXPECT_EQ(messages().size(), 1u);
@@ -285,7 +286,7 @@ TEST_F(ChangeSettings, ATimeStatusThatCannotBeReadOpensNothing) {
 
 TEST_F(ChangeSettings, AStatusThatCannotBeReadIsNotReported) {
     beginWithSettingsOf({});
-    failCommand("GetDeviceStatus", {});
+    failCommand("TKVR21_GetDeviceStatus", {});
     app().DisplayMainSettingsWindow(false);
     EXPECT_TRUE(app().MainSettingsWindow.isVisible());
     EXPECT_THAT(messages(), IsEmpty());

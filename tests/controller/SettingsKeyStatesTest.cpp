@@ -45,10 +45,10 @@ protected:
     /// (L)og out, (C)lear, (A)reas.
     [[nodiscard]] std::string letters() const {
         static const std::map<std::string, char> Letters{
-            {"GetDeviceStatus", 'S'},     {"ZELTO_SetErasePeriod", 'E'},
-            {"ZELTO_WriteHintData", 'H'}, {"ZELTO_SetIdleLockPeriod", 'I'},
-            {"ResetAreaInfos", 'R'},      {"Logout", 'L'},
-            {"ClearEncryptionInfo", 'C'}, {"GetAreaInfos", 'A'}};
+            {"TKVR21_GetDeviceStatus", 'S'},     {"TKVR21_ZELTO_SetErasePeriod", 'E'},
+            {"TKVR21_ZELTO_WriteHintData", 'H'}, {"TKVR21_ZELTO_SetIdleLockPeriod", 'I'},
+            {"TKVR21_ResetAreaInfos", 'R'},      {"TKVR21_Logout", 'L'},
+            {"TKVR21_ClearEncryptionInfo", 'C'}, {"TKVR21_GetAreaInfos", 'A'}};
         std::string text;
         for (const auto& command : commands()) {
             const auto found = Letters.find(command);

@@ -31,9 +31,9 @@ TEST_F(EraseKey, TheDefaultAnswerSendsNothing) {
 TEST_F(EraseKey, SetsAPeriodOfOneSecondLogsOutAndQuits) {
     beginWithSettingsOf({});
     eraseAnsweringYes();
-    EXPECT_EQ(commands(),
-              (Commands{"GetDeviceStatus", "ZELTO_SetErasePeriod", "GetAreaInfos", "Logout"}));
-    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 1);
+    EXPECT_EQ(commands(), (Commands{"TKVR21_GetDeviceStatus", "TKVR21_ZELTO_SetErasePeriod",
+                                    "TKVR21_GetAreaInfos", "TKVR21_Logout"}));
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wValue, 1);
     EXPECT_TRUE(hasQuit());
     computer.clock.pass(std::chrono::seconds(2));
     EXPECT_EQ(driveState(), SecurityState::StateFullLock);
@@ -47,13 +47,13 @@ TEST_F(EraseKey, ALockedDriveIsRefusedAfterTheStatusRead) {
     ASSERT_EQ(driveState(), SecurityState::StateLocked);
     computer.log.clear();
     eraseAnsweringYes();
-    EXPECT_EQ(commands(), (Commands{"GetDeviceStatus"}));
+    EXPECT_EQ(commands(), (Commands{"TKVR21_GetDeviceStatus"}));
     EXPECT_EQ(messages().back(), localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
     EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(EraseKey, EachFailedCommandIsReportedOnceAndStopsIt) {
-    for (const char* command : {"GetDeviceStatus", "ZELTO_SetErasePeriod"}) {
+    for (const char* command : {"TKVR21_GetDeviceStatus", "TKVR21_ZELTO_SetErasePeriod"}) {
         beginWithSettingsOf({});
         failCommand(command, {});
         eraseAnsweringYes();
@@ -89,17 +89,18 @@ TEST_F(ClearAll, TheDefaultAnswerSendsNothing) {
 TEST_F(ClearAll, AnUnlockedDriveRefusesTheResetIsLoggedOutClearedAndReset) {
     beginWithSettingsOf({});
     clearAnsweringYes();
-    EXPECT_EQ(commands(),
-              (Commands{"GetDeviceStatus", "GetDeviceStatus", "ZELTO_SetErasePeriod",
-                        "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData", "ResetAreaInfos",
-                        "GetDeviceStatus", "Logout", "ClearEncryptionInfo", "ResetAreaInfos"}));
-    EXPECT_EQ(all("GetDeviceStatus")[0].setup.wValue, 1);
-    EXPECT_EQ(all("GetDeviceStatus")[1].setup.wValue, 0);
-    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 0);
-    EXPECT_EQ(latest("ZELTO_WriteHintData").setup.wIndex, 4095);
-    EXPECT_THAT(latest("ZELTO_WriteHintData").data, ElementsAre(1));
-    EXPECT_EQ(latest("ResetAreaInfos").setup.wValue, 3);
-    EXPECT_EQ(latest("ClearEncryptionInfo").setup.wValue, 2);
+    EXPECT_EQ(commands(), (Commands{"TKVR21_GetDeviceStatus", "TKVR21_GetDeviceStatus",
+                                    "TKVR21_ZELTO_SetErasePeriod", "TKVR21_ZELTO_SetIdleLockPeriod",
+                                    "TKVR21_ZELTO_WriteHintData", "TKVR21_ResetAreaInfos",
+                                    "TKVR21_GetDeviceStatus", "TKVR21_Logout",
+                                    "TKVR21_ClearEncryptionInfo", "TKVR21_ResetAreaInfos"}));
+    EXPECT_EQ(all("TKVR21_GetDeviceStatus")[0].setup.wValue, 1);
+    EXPECT_EQ(all("TKVR21_GetDeviceStatus")[1].setup.wValue, 0);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wValue, 0);
+    EXPECT_EQ(latest("TKVR21_ZELTO_WriteHintData").setup.wIndex, 4095);
+    EXPECT_THAT(latest("TKVR21_ZELTO_WriteHintData").data, ElementsAre(1));
+    EXPECT_EQ(latest("TKVR21_ResetAreaInfos").setup.wValue, 3);
+    EXPECT_EQ(latest("TKVR21_ClearEncryptionInfo").setup.wValue, 2);
     EXPECT_TRUE(hasQuit());
     EXPECT_EQ(messages().size(), 1u);
 }
@@ -107,9 +108,9 @@ TEST_F(ClearAll, AnUnlockedDriveRefusesTheResetIsLoggedOutClearedAndReset) {
 TEST_F(ClearAll, ADriveWithoutSecureAreaIsResetAtOnce) {
     beginWithSettingsOf({.secureDisk = 0});
     clearAnsweringYes();
-    EXPECT_EQ(commands(),
-              (Commands{"GetDeviceStatus", "GetDeviceStatus", "ZELTO_SetErasePeriod",
-                        "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData", "ResetAreaInfos"}));
+    EXPECT_EQ(commands(), (Commands{"TKVR21_GetDeviceStatus", "TKVR21_GetDeviceStatus",
+                                    "TKVR21_ZELTO_SetErasePeriod", "TKVR21_ZELTO_SetIdleLockPeriod",
+                                    "TKVR21_ZELTO_WriteHintData", "TKVR21_ResetAreaInfos"}));
     EXPECT_TRUE(hasQuit());
 }
 
@@ -139,7 +140,7 @@ TEST_F(ClearAll, ALockedDriveWithASecureAreaIsRefused) {
     beginWithSettingsOf({});
     lockDrive();
     clearAnsweringYes();
-    EXPECT_EQ(commands(), (Commands{"GetDeviceStatus", "GetDeviceStatus"}));
+    EXPECT_EQ(commands(), (Commands{"TKVR21_GetDeviceStatus", "TKVR21_GetDeviceStatus"}));
     EXPECT_EQ(messages().back(), localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
     EXPECT_FALSE(hasQuit());
 }
@@ -180,18 +181,22 @@ TEST_F(ClearAll, AFullyLockedDriveGetsNoPeriods) {
 
 TEST_F(ClearAll, AResetRefusedForAnotherReasonIsReportedAndNotRepeated) {
     beginWithSettingsOf({.secureDisk = 0});
-    failCommand("ResetAreaInfos", {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
+    failCommand("TKVR21_ResetAreaInfos",
+                {.kind = Fault::Kind::FailsBefore, .result = kIOReturnTimeout});
     clearAnsweringYes();
-    EXPECT_EQ(commands().back(), "GetDeviceStatus");
+    EXPECT_EQ(commands().back(), "TKVR21_GetDeviceStatus");
     EXPECT_EQ(messages().back(), localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 0, 0, 0));
     EXPECT_FALSE(hasQuit());
     EXPECT_TRUE(app().MainSettingsWindow.isVisible());
 }
 
 TEST_F(ClearAll, EachFailedCommandIsReportedOnceAndStopsIt) {
-    const std::vector<const char*> all{
-        "GetDeviceStatus", "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData",
-        "Logout",          "ClearEncryptionInfo"};
+    const std::vector<const char*> all{"TKVR21_GetDeviceStatus",
+                                       "TKVR21_ZELTO_SetErasePeriod",
+                                       "TKVR21_ZELTO_SetIdleLockPeriod",
+                                       "TKVR21_ZELTO_WriteHintData",
+                                       "TKVR21_Logout",
+                                       "TKVR21_ClearEncryptionInfo"};
     for (const char* command : all) {
         beginWithSettingsOf({});
         failCommand(command, {});

@@ -61,10 +61,10 @@ TEST_F(FirstTimeSetup, TwoNormalAreasAreSentWithTheToolAreaAndNoSecrets) {
     ASSERT_TRUE(okIsEnabled());
     computer.log.clear();
     commit();
-    EXPECT_EQ(commands(),
-              (Commands{"GetDeviceStatus", "SetAreaInfos", "ZELTO_SetErasePeriod",
-                        "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData", "Reconnect"}));
-    const auto& areas = latest("SetAreaInfos");
+    EXPECT_EQ(commands(), (Commands{"TKVR21_GetDeviceStatus", "TKVR21_SetAreaInfos",
+                                    "TKVR21_ZELTO_SetErasePeriod", "TKVR21_ZELTO_SetIdleLockPeriod",
+                                    "TKVR21_ZELTO_WriteHintData", "TKVR21_Reconnect"}));
+    const auto& areas = latest("TKVR21_SetAreaInfos");
     EXPECT_EQ(areas.data.size(), 60u);
     EXPECT_EQ(areas.setup.wValue, 0);
     // 60 MiB from sector 0, 20 MiB from 122880, the tool area from 163840.
@@ -81,31 +81,31 @@ TEST_F(FirstTimeSetup, ASecureAreaIsSentWithKeyPasswordAndPeriodsInThisOrder) {
     ASSERT_TRUE(okIsEnabled());
     computer.log.clear();
     commit();
-    EXPECT_EQ(commands(),
-              (Commands{"GetDeviceStatus", "SetAreaInfos", "SetEncryptionInfo", "SetAuthInfo",
-                        "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod", "ZELTO_WriteHintData",
-                        "Reconnect"}));
-    const auto& key = latest("SetEncryptionInfo");
+    EXPECT_EQ(commands(), (Commands{"TKVR21_GetDeviceStatus", "TKVR21_SetAreaInfos",
+                                    "TKVR21_SetEncryptionInfo", "TKVR21_SetAuthInfo",
+                                    "TKVR21_ZELTO_SetErasePeriod", "TKVR21_ZELTO_SetIdleLockPeriod",
+                                    "TKVR21_ZELTO_WriteHintData", "TKVR21_Reconnect"}));
+    const auto& key = latest("TKVR21_SetEncryptionInfo");
     EXPECT_THAT(part(key, 0, 8), ElementsAre('T', 'K', 'E', 'R', 0x03, 0x80, 0, 0));
     EXPECT_THAT(part(key, 8, 64), testing::Each(0));
     EXPECT_EQ(key.setup.wValue, 2);
-    const auto& password = latest("SetAuthInfo");
+    const auto& password = latest("TKVR21_SetAuthInfo");
     EXPECT_THAT(part(password, 0, 8), ElementsAre(0x02, 0, 1, 0, 0, 0, 0, 0));
     EXPECT_THAT(part(password, 8, 32), ElementsAreArray(digestOf("first")));
     EXPECT_THAT(part(password, 40, 32), testing::Each(0));
     EXPECT_EQ(password.setup.wValue, 2);
-    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 172800 & 0xFFFF);
-    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wIndex, 172800 >> 16);
-    EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 1800);
-    EXPECT_EQ(latest("Reconnect").setup.wValue, 1);
-    EXPECT_EQ(latest("Reconnect").setup.wIndex, 1);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wValue, 172800 & 0xFFFF);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wIndex, 172800 >> 16);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetIdleLockPeriod").setup.wValue, 1800);
+    EXPECT_EQ(latest("TKVR21_Reconnect").setup.wValue, 1);
+    EXPECT_EQ(latest("TKVR21_Reconnect").setup.wIndex, 1);
 }
 
 TEST_F(FirstTimeSetup, TwoPasswordsGoInTwoRecords) {
     begin();
     fill({.twoPasswords = true, .trials = "7"});
     commit();
-    const auto records = all("SetAuthInfo");
+    const auto records = all("TKVR21_SetAuthInfo");
     ASSERT_EQ(records.size(), 2u);
     EXPECT_THAT(part(records[0], 0, 8), ElementsAre(0x02, 0, 1, 0, 7, 0, 0, 0));
     EXPECT_THAT(part(records[0], 8, 32), ElementsAreArray(digestOf("second")));
@@ -119,7 +119,7 @@ TEST_F(FirstTimeSetup, AKeyEnteredByHandIsSentAsTyped) {
     begin();
     fill({.key = QStringLiteral("0A1b")});
     commit();
-    const auto& key = latest("SetEncryptionInfo");
+    const auto& key = latest("TKVR21_SetEncryptionInfo");
     EXPECT_THAT(part(key, 4, 6), ElementsAre(0x03, 0x00, 0, 0, 0x0A, 0x1B));
     EXPECT_THAT(part(key, 10, 62), testing::Each(0));
 }
@@ -131,7 +131,7 @@ TEST_F(FirstTimeSetup, AutoClearInMinutesIsSentInSeconds) {
     press("AutoClearMinutesCell");
     type("AutoClearText", "30");
     commit();
-    EXPECT_EQ(latest("ZELTO_SetErasePeriod").setup.wValue, 1800);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wValue, 1800);
 }
 
 TEST_F(FirstTimeSetup, ShowsItsProgressWhileTheDriveIsAway) {
@@ -155,8 +155,8 @@ TEST_F(FirstTimeSetup, ForgetsPasswordsAndKeyOnceTheyAreSent) {
     EXPECT_TRUE(app().Settings.PasswordSettingsParameters.strNew1stPassword.isEmpty());
     EXPECT_TRUE(app().Settings.PasswordSettingsParameters.strNew2ndPassword.isEmpty());
     EXPECT_TRUE(app().Settings.StrEncryptionKey.isEmpty());
-    EXPECT_TRUE(text("PS_1stPasswordText").isEmpty());
-    EXPECT_TRUE(text("EncryptionKeyText").isEmpty());
+    EXPECT_TRUE(control<QLineEdit>("PS_1stPasswordText")->text().isEmpty());
+    EXPECT_TRUE(control<QLineEdit>("EncryptionKeyText")->text().isEmpty());
 }
 
 TEST_F(FirstTimeSetup, EndsWithTheProgramOnTheToolArea) {
@@ -238,27 +238,27 @@ TEST_F(FirstTimeSetup, ADriveThatDoesNotSpinUpEndsTheProgram) {
 TEST_F(FirstTimeSetup, ARetryAppendsAnotherToolArea) {
     begin();
     layOut({.secureDisk = 0});
-    failCommand("ZELTO_SetErasePeriod", {});
+    failCommand("TKVR21_ZELTO_SetErasePeriod", {});
     commit();
     EXPECT_EQ(messages().size(), 1u);
     EXPECT_TRUE(okIsEnabled());
-    EXPECT_EQ(latest("SetAreaInfos").data.size(), 40u);
+    EXPECT_EQ(latest("TKVR21_SetAreaInfos").data.size(), 40u);
     EXPECT_EQ(app().Settings.AreaInfosViewData.areaCount, 1);
 
     plan->clear();
     commit();
-    EXPECT_EQ(latest("SetAreaInfos").data.size(), 60u);
+    EXPECT_EQ(latest("TKVR21_SetAreaInfos").data.size(), 60u);
     EXPECT_EQ(app().Setup.ReservedAreaDiskNumber, 3);
 }
 
 TEST_F(FirstTimeSetup, AfterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom) {
     begin();
     layOut({.secureDisk = 0});
-    failCommand("SetAreaInfos", {.kind = simulator::Fault::Kind::FailsAfter});
+    failCommand("TKVR21_SetAreaInfos", {.kind = simulator::Fault::Kind::FailsAfter});
     for (int retry = 0; retry < 11; ++retry) {
         commit();
     }
-    EXPECT_EQ(latest("SetAreaInfos").data.size(), 240u);
+    EXPECT_EQ(latest("TKVR21_SetAreaInfos").data.size(), 240u);
     computer.log.clear();
     alerts.clear();
     commit();
@@ -269,7 +269,7 @@ TEST_F(FirstTimeSetup, AfterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom)
     plan->clear();
     layOut({.secureDisk = 0});
     commit();
-    EXPECT_EQ(latest("SetAreaInfos").data.size(), 40u);
+    EXPECT_EQ(latest("TKVR21_SetAreaInfos").data.size(), 40u);
     EXPECT_EQ(app().Setup.InitialSettingState, 1);
 }
 

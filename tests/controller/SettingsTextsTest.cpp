@@ -133,7 +133,7 @@ TEST_F(PastedTexts, LeftInTheSecondPasswordOfAFirstOnlyChoiceAreNeverUsed) {
     EXPECT_EQ(app().Settings.PasswordSettingsParameters.NumberOfTrials, 2147483647);
     commit();
     EXPECT_EQ(app().Setup.InitialSettingState, 1);
-    EXPECT_EQ(all("SetAuthInfo").size(), 1u);
+    EXPECT_EQ(all("TKVR21_SetAuthInfo").size(), 1u);
 }
 
 TEST_F(PastedTexts, InThePasswordChangeAreAcceptedAsPasswordsAndTrialsOnly) {
@@ -203,7 +203,7 @@ TEST_F(PastedTexts, TheLargestIdlePeriodOfADriveIsSentBackInWholeMinutes) {
     press("ShowRemainingTimeCheckBox");
     commit();
     EXPECT_TRUE(hasQuit());
-    EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 65520);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetIdleLockPeriod").setup.wValue, 65520);
 }
 
 TEST_F(PastedTexts, ATextOf1093MinutesWouldBeSentAs44Seconds) {
@@ -213,7 +213,7 @@ TEST_F(PastedTexts, ATextOf1093MinutesWouldBeSentAs44Seconds) {
     control<QLineEdit>("AutoLogOffText")->setText(QStringLiteral("1093"));
     press("ShowRemainingTimeCheckBox");
     commit();
-    EXPECT_EQ(latest("ZELTO_SetIdleLockPeriod").setup.wValue, 44);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetIdleLockPeriod").setup.wValue, 44);
 }
 
 } // namespace

@@ -112,7 +112,7 @@ protected:
     }
 
     void check(const Ending& ending, const std::string& askedAfterwards) {
-        EXPECT_EQ(alertTexts(), ending.messages);
+        EXPECT_EQ(messages(), ending.messages);
         EXPECT_EQ(askedAfterwards, ending.asksAfterwards);
         EXPECT_EQ(hasQuit(), ending.window == Quit);
         if (ending.window != Quit) {

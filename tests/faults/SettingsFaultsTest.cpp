@@ -103,8 +103,9 @@ TEST_P(SettingsFaults, OfFirstTimeSetupKeepTheWindowOpenForARetry) {
 class SettingsRetries : public SettingsFaults {};
 
 TEST_P(SettingsRetries, OfFirstTimeSetupSucceed) {
-    for (const char* command : {"SetAreaInfos", "SetEncryptionInfo", "SetAuthInfo",
-                                "ZELTO_SetErasePeriod", "ZELTO_SetIdleLockPeriod"}) {
+    for (const char* command :
+         {"TKVR21_SetAreaInfos", "TKVR21_SetEncryptionInfo", "TKVR21_SetAuthInfo",
+          "TKVR21_ZELTO_SetErasePeriod", "TKVR21_ZELTO_SetIdleLockPeriod"}) {
         SCOPED_TRACE(command);
         begin();
         fill({.twoPasswords = true});

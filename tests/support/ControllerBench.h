@@ -70,7 +70,7 @@ public:
     [[nodiscard]] std::string visibleWindow() const { return person.visibleWindowName(); }
 
     /// The texts of the alerts so far.
-    [[nodiscard]] std::vector<QString> alertTexts() const { return alerts.messages(); }
+    [[nodiscard]] std::vector<QString> messages() const { return alerts.messages(); }
     /// The commands sent so far, by name and in order, without the tick's reading of the clock.
     [[nodiscard]] std::vector<std::string> commands() const;
     /// The runs of the disk tool so far.
