@@ -1,5 +1,5 @@
 #include "device/VendorRequest.h"
-#include "tests/controller/SettingsBench.h"
+#include "tests/support/SettingsBench.h"
 
 #include <map>
 

@@ -1,4 +1,4 @@
-#include "tests/controller/SettingsBench.h"
+#include "tests/support/SettingsBench.h"
 
 namespace zelto::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/controller/SettingsBench.h"
+#include "tests/support/SettingsBench.h"
 
 #include "digest/SHA256.h"
 

@@ -5,11 +5,6 @@
 
 #include <functional>
 #include <map>
-#include <ostream>
-
-inline void PrintTo(const QString& text, std::ostream* stream) {
-    *stream << '"' << text.toStdString() << '"';
-}
 
 namespace zelto::test {
 namespace {

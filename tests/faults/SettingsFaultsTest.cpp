@@ -1,5 +1,5 @@
-#include "tests/controller/SettingsBench.h"
 #include "tests/faults/WaysToFail.h"
+#include "tests/support/SettingsBench.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "settings/IntegerValue.h"
 #include "settings/NumericCheck.h"
-#include "tests/rules/TextCases.h"
+#include "tests/support/TextCases.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "settings/KeyDigits.h"
-#include "tests/rules/TextCases.h"
+#include "tests/support/TextCases.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "settings/Periods.h"
-#include "tests/rules/TextCases.h"
+#include "tests/support/TextCases.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "simulator/computer/FaultyDevice.h"
+#include "simulator/computer/ScriptedAlerts.h"
 #include "simulator/play/Person.h"
 #include "simulator/play/PreparedDrive.h"
 #include "simulator/play/UtilityProcess.h"
 #include "tests/support/ForgedReplies.h"
-#include "tests/support/ScriptedAlerts.h"
+#include "tests/support/QtPrinting.h"
 
 #include <QApplication>
 
@@ -83,7 +84,7 @@ public:
     void stopForging() { m_forgeries->clear(); }
 
     simulator::VirtualComputer computer;
-    ScriptedAlerts alerts{computer.log};
+    simulator::ScriptedAlerts alerts{computer.log};
     simulator::Person person;
     /// What goes wrong in the cables, of all drives together.
     std::shared_ptr<simulator::FaultPlan> plan = std::make_shared<simulator::FaultPlan>();

@@ -1,9 +1,7 @@
 #include "simulator/usbip/VhciPort.h"
+#include "tests/support/TemporaryFolder.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
-#include <stdlib.h>
 
 namespace zelto::test {
 namespace {
@@ -39,26 +37,19 @@ TEST(VhciStatus, OfNonsenseHasNoPort) {
 class Vhci : public ::testing::Test {
 protected:
     void SetUp() override {
-        std::string name = (std::filesystem::temp_directory_path() / "zelto-vhci-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        folder = name;
         write("status", std::string(Heading) + "hs  0000 006 003 00010002 000003 1-1\n"
                                                "hs  0001 004 000 00000000 000000 0-0\n");
         write("attach", "");
         write("detach", "");
     }
-    void TearDown() override { std::filesystem::remove_all(folder); }
 
     void write(const std::string& name, const std::string& text) const {
-        std::ofstream(folder / name) << text;
+        temporary.write(name, text);
     }
-    [[nodiscard]] std::string read(const std::string& name) const {
-        std::ostringstream text;
-        text << std::ifstream(folder / name).rdbuf();
-        return text.str();
-    }
+    [[nodiscard]] std::string read(const std::string& name) const { return temporary.read(name); }
 
-    std::filesystem::path folder;
+    TemporaryFolder temporary;
+    std::filesystem::path folder = temporary.path();
     std::string error;
 };
 

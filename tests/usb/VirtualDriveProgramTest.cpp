@@ -2,11 +2,9 @@
 #include "simulator/virtual-drive/Console.h"
 #include "simulator/virtual-drive/Options.h"
 #include "simulator/virtual-drive/RequestLog.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/usb/UsbipTest.h"
 
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <sys/socket.h>
 #include <sys/un.h>
 
@@ -418,24 +416,19 @@ TEST_F(Host, AnswersEveryLineAndNothingBreaksIt) {
 class HostAtKernel : public Host {
 protected:
     void SetUp() override {
-        std::string name = (std::filesystem::temp_directory_path() / "zelto-host-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        folder = name;
         write("attach", "");
         write("detach", "");
         write("status", "hs  0003 004 000 00000000 000000 0-0\n");
     }
-    void TearDown() override { std::filesystem::remove_all(folder); }
     void write(const std::string& name, const std::string& text) const {
-        std::ofstream(folder / name, std::ios::trunc) << text;
+        temporary.write(name, text);
     }
     [[nodiscard]] std::string contents(const std::string& name) const {
-        std::ostringstream text;
-        text << std::ifstream(folder / name).rdbuf();
-        return text.str();
+        return temporary.read(name);
     }
 
-    std::filesystem::path folder;
+    TemporaryFolder temporary;
+    std::filesystem::path folder = temporary.path();
     std::string error;
 };
 

@@ -9,14 +9,8 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
-#include <ostream>
 #include <string>
 #include <vector>
-
-/// For failure messages, which would list a text's bytes otherwise.
-inline void PrintTo(const QString& text, std::ostream* stream) {
-    *stream << '"' << text.toStdString() << '"';
-}
 
 namespace zelto::test {
 

@@ -1,7 +1,0 @@
-#pragma once
-
-#include "simulator/computer/ScriptedAlerts.h"
-
-namespace zelto::test {
-using simulator::ScriptedAlerts;
-}
