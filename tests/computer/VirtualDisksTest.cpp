@@ -20,7 +20,6 @@ using namespace simulator;
 using std::chrono::seconds;
 using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Not;
 
 constexpr std::uint64_t DriveSectors = 262144;

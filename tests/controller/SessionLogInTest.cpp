@@ -4,10 +4,7 @@
 namespace zelto::test {
 namespace {
 
-using simulator::LogLine;
-using testing::Contains;
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 class SessionLogInTest : public SessionTest {

@@ -3,10 +3,8 @@
 namespace zelto::test {
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 class SessionTimerTest : public SessionTest {
 protected:

@@ -123,7 +123,7 @@ TEST_F(SetupProgressTest, ARefusedQuitLeavesTheSetupToEndAsUsual) {
 TEST_F(SetupProgressTest, AToolVolumeWithoutRoomIsAFailedCopy) {
     // Larger than the tool area's 20 MiB.
     const auto large = computer.files.bundlePath() / "large";
-    const std::vector<std::uint8_t> bytes(21U * 1024U * 1024U, 0x5A);
+    const std::vector<std::uint8_t> bytes(std::size_t{21} * 1024 * 1024, 0x5A);
     ASSERT_TRUE(
         computer.files.ownDisk().writeFile(simulator::VirtualFiles::onOwnDisk(large), bytes, {}));
     commitSetup();
