@@ -2,6 +2,7 @@
 
 #include "device/VendorRequest.h"
 #include "device/ZELTOctrl.h"
+#include "simulator/drive/DriveNames.h"
 
 #include <algorithm>
 #include <functional>
@@ -11,7 +12,7 @@ namespace zelto::simulator {
 DriveOnBus::DriveOnBus(std::unique_ptr<VirtualDrive> drive) : m_drive(std::move(drive)) {
     m_description.idVendor = UsbIdentity::Vendor;
     m_description.idProduct = UsbIdentity::Product;
-    m_description.product = "ZELTO DISK";
+    m_description.product = DriveName::Product;
     m_description.serial = m_drive->serial();
 }
 
@@ -43,25 +44,7 @@ IOReturn DriveOnBus::control(IOUSBDevRequest& request, Moment now) {
 }
 
 std::string DriveOnBus::unitName(std::size_t unit) const {
-    return "KESTRIN ZELTO DISK" + std::to_string(unit + 1);
-}
-
-std::optional<MediumInfo> DriveOnBus::medium(std::size_t unit, Moment now) {
-    const std::uint64_t sectors = m_drive->sectorCount(unit, now);
-    if (sectors == 0) {
-        return std::nullopt;
-    }
-    return MediumInfo{.sectorCount = sectors, .generation = m_drive->mediaGeneration(unit, now)};
-}
-
-bool DriveOnBus::read(std::size_t unit, std::uint64_t firstSector, std::span<std::uint8_t> into,
-                      Moment now) {
-    return m_drive->read(unit, firstSector, into, now) == StorageResult::Done;
-}
-
-bool DriveOnBus::write(std::size_t unit, std::uint64_t firstSector,
-                       std::span<const std::uint8_t> from, Moment now) {
-    return m_drive->write(unit, firstSector, from, now) == StorageResult::Done;
+    return std::string(DriveName::Vendor) + " " + unitProduct(unit);
 }
 
 std::shared_ptr<DriveOnBus> makeDrive(const std::string& serial, std::uint64_t totalSectors) {

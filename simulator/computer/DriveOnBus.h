@@ -1,7 +1,7 @@
 #pragma once
 
 #include "simulator/computer/PluggableDevice.h"
-#include "simulator/drive/VirtualDrive.h"
+#include "simulator/drive/DriveUnits.h"
 
 #include <memory>
 
@@ -23,11 +23,10 @@ public:
     [[nodiscard]] bool takeReconnect() override { return m_drive->takeReconnect(); }
     [[nodiscard]] std::size_t unitCount() const override { return VirtualDrive::UnitCount; }
     [[nodiscard]] std::string unitName(std::size_t unit) const override;
-    [[nodiscard]] std::optional<MediumInfo> medium(std::size_t unit, Moment now) override;
-    [[nodiscard]] bool read(std::size_t unit, std::uint64_t firstSector,
-                            std::span<std::uint8_t> into, Moment now) override;
-    [[nodiscard]] bool write(std::size_t unit, std::uint64_t firstSector,
-                             std::span<const std::uint8_t> from, Moment now) override;
+    [[nodiscard]] std::unique_ptr<UnitStorage>
+    makeUnits(std::function<Moment()> clock) override {
+        return std::make_unique<DriveUnits>(*m_drive, std::move(clock));
+    }
 
 private:
     std::unique_ptr<VirtualDrive> m_drive;

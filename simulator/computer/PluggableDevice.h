@@ -2,10 +2,12 @@
 
 #include "platform/UsbDevice.h"
 #include "simulator/drive/DriveModel.h"
+#include "simulator/drive/UnitStorage.h"
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -27,13 +29,6 @@ struct UsbDescription {
     IOReturn openResult = kIOReturnSuccess;
 };
 
-/// The medium that a storage unit shows.
-struct MediumInfo {
-    std::uint64_t sectorCount = 0;
-    /// Another number for another medium: a new size, a new key, a new start.
-    std::uint64_t generation = 0;
-};
-
 /// Something with a USB plug.
 class PluggableDevice {
 public:
@@ -53,12 +48,11 @@ public:
 
     [[nodiscard]] virtual std::size_t unitCount() const { return 0; }
     /// VENDOR, blank, MODEL.
-    [[nodiscard]] virtual std::string unitName(std::size_t unit) const = 0;
-    [[nodiscard]] virtual std::optional<MediumInfo> medium(std::size_t unit, Moment now) = 0;
-    [[nodiscard]] virtual bool read(std::size_t unit, std::uint64_t firstSector,
-                                    std::span<std::uint8_t> into, Moment now) = 0;
-    [[nodiscard]] virtual bool write(std::size_t unit, std::uint64_t firstSector,
-                                     std::span<const std::uint8_t> from, Moment now) = 0;
+    [[nodiscard]] virtual std::string unitName(std::size_t /*unit*/) const { return {}; }
+    /// Its storage units as a computer with that clock sees them; null when it has none.
+    [[nodiscard]] virtual std::unique_ptr<UnitStorage> makeUnits(std::function<Moment()> /*clock*/) {
+        return nullptr;
+    }
 };
 
 } // namespace zelto::simulator

@@ -47,10 +47,10 @@ public:
     VirtualClock clock;
     VirtualApplication application{clock, log};
     VirtualUsbBus usb{clock, application, log};
-    VirtualDisks disks{usb, clock};
+    VirtualDisks disks{usb};
     VirtualRegistry registry{usb, disks};
-    VirtualMountTable mounts{disks, clock};
-    VirtualDiskTool diskTool{disks, mounts, clock, log};
+    VirtualMountTable mounts{disks};
+    VirtualDiskTool diskTool{disks, mounts, log};
     VirtualFiles files{mounts, log};
 };
 

@@ -20,12 +20,11 @@ enum class ToolBehaviour {
     OnlyPretends,
 };
 
-/// The disk tool of the virtual computer. It really unmounts, ejects and formats.
+/// The disk tool of the virtual computer.
 class VirtualDiskTool : public DiskTool {
 public:
-    VirtualDiskTool(VirtualDisks& disks, VirtualMountTable& mounts, VirtualClock& clock,
-                    EventLog& log)
-        : m_disks(disks), m_mounts(mounts), m_clock(clock), m_log(log) {}
+    VirtualDiskTool(VirtualDisks& disks, VirtualMountTable& mounts, EventLog& log)
+        : m_disks(disks), m_mounts(mounts), m_log(log) {}
 
     [[nodiscard]] bool umount(const std::string& bsdName) override;
     [[nodiscard]] bool eject(const std::string& bsdName) override;
@@ -47,12 +46,11 @@ public:
 private:
     [[nodiscard]] bool run(DiskVerb verb, const std::string& arguments, const std::string& bsdName,
                            const std::function<bool()>& action);
-    [[nodiscard]] bool unmountAll(const VirtualDisk& disk);
+    [[nodiscard]] bool unmountVolume(const VirtualDisk& disk);
     [[nodiscard]] bool format(VirtualDisk& disk, const std::string& label);
 
     VirtualDisks& m_disks;
     VirtualMountTable& m_mounts;
-    VirtualClock& m_clock;
     EventLog& m_log;
     std::map<DiskVerb, ToolBehaviour> m_behaviours;
     bool m_eraseMounts = true;

@@ -1,6 +1,6 @@
 #include "simulator/computer/VirtualDisks.h"
 
-#include "simulator/fat/FatLayout.h"
+#include "simulator/computer/VirtualVolume.h"
 
 #include <algorithm>
 
@@ -12,31 +12,25 @@ namespace {
 constexpr unsigned FirstName = 2;
 
 /// A medium seen through the system: it fails once the device has left, as a disk does.
-class MediumDevice : public BlockDevice {
+class DiskMedium : public SectorStore {
 public:
-    MediumDevice(std::shared_ptr<Attachment> attachment, std::size_t unit,
-                 std::uint64_t sectorCount, VirtualClock& clock)
-        : m_attachment(std::move(attachment)),
-          m_unit(unit),
-          m_sectorCount(sectorCount),
-          m_clock(clock) {}
+    DiskMedium(std::shared_ptr<Attachment> attachment, std::size_t unit, std::uint64_t sectorCount)
+        : m_attachment(std::move(attachment)), m_unit(unit), m_sectorCount(sectorCount) {}
 
     [[nodiscard]] std::uint64_t sectorCount() const override { return m_sectorCount; }
-    [[nodiscard]] bool read(std::uint64_t firstSector, std::span<std::uint8_t> into) override {
-        return m_attachment->isAttached &&
-               m_attachment->device->read(m_unit, firstSector, into, m_clock.worldTime());
+    [[nodiscard]] bool read(std::uint64_t sector, std::span<std::uint8_t> bytes) override {
+        return m_attachment->isAttached && m_attachment->units->read(m_unit, sector, bytes);
     }
-    [[nodiscard]] bool write(std::uint64_t firstSector,
-                             std::span<const std::uint8_t> from) override {
-        return m_attachment->isAttached &&
-               m_attachment->device->write(m_unit, firstSector, from, m_clock.worldTime());
+    [[nodiscard]] bool write(std::uint64_t sector, std::span<const std::uint8_t> bytes) override {
+        return m_attachment->isAttached && m_attachment->units->write(m_unit, sector, bytes);
     }
+    [[nodiscard]] bool flush() override { return true; }
+    [[nodiscard]] bool discardAll() override { return false; }
 
 private:
     std::shared_ptr<Attachment> m_attachment;
     std::size_t m_unit;
     std::uint64_t m_sectorCount;
-    VirtualClock& m_clock;
 };
 
 } // namespace
@@ -47,16 +41,11 @@ void VirtualDisks::setListeners(std::function<void(VirtualDisk&)> appeared,
     m_vanished = std::move(vanished);
 }
 
-std::optional<MediumInfo> VirtualDisks::mediumOf(const VirtualDisk& disk) const {
-    return disk.attachment->isAttached
-               ? disk.attachment->device->medium(disk.unit, m_clock.worldTime())
-               : std::nullopt;
-}
-
 void VirtualDisks::removeVanished() {
     for (std::size_t i = 0; i < m_disks.size();) {
-        const auto medium = mediumOf(*m_disks[i]);
-        if (medium && medium->generation == m_disks[i]->generation) {
+        const Attachment& attachment = *m_disks[i]->attachment;
+        const auto medium = attachment.units->medium(m_disks[i]->unit);
+        if (attachment.isAttached && medium && medium->identity == m_disks[i]->mediumIdentity) {
             ++i;
             continue;
         }
@@ -66,14 +55,6 @@ void VirtualDisks::removeVanished() {
             m_vanished(*gone);
         }
     }
-}
-
-bool VirtualDisks::isEjected(const std::shared_ptr<Attachment>& attachment, std::size_t unit,
-                             std::uint64_t generation) const {
-    return std::ranges::any_of(m_ejected, [&](const Ejected& ejected) {
-        return ejected.attachment.lock() == attachment && ejected.unit == unit &&
-               ejected.generation == generation;
-    });
 }
 
 bool VirtualDisks::isKnown(const Attachment& attachment, std::size_t unit) const {
@@ -93,8 +74,9 @@ std::string VirtualDisks::freeName() const {
 }
 
 void VirtualDisks::addNew(const std::shared_ptr<Attachment>& attachment, std::size_t unit) {
-    const auto medium = attachment->device->medium(unit, m_clock.worldTime());
-    if (!medium || isKnown(*attachment, unit) || isEjected(attachment, unit, medium->generation)) {
+    const auto medium = attachment->units->medium(unit);
+    if (!medium || isKnown(*attachment, unit) ||
+        attachment->ejectedMedia[unit] == medium->identity) {
         return;
     }
     auto disk = std::make_unique<VirtualDisk>();
@@ -102,9 +84,9 @@ void VirtualDisks::addNew(const std::shared_ptr<Attachment>& attachment, std::si
     disk->unitName = attachment->device->unitName(unit);
     disk->attachment = attachment;
     disk->unit = unit;
-    disk->generation = medium->generation;
-    disk->device = std::make_unique<MediumDevice>(attachment, unit, medium->sectorCount, m_clock);
-    readPartitions(*disk);
+    disk->mediumIdentity = medium->identity;
+    disk->medium = std::make_unique<DiskMedium>(attachment, unit, medium->sectorCount);
+    disk->hasVolume = VirtualVolume::mount(*disk->medium) != nullptr;
     m_disks.push_back(std::move(disk));
     if (m_appeared) {
         m_appeared(*m_disks.back());
@@ -127,14 +109,8 @@ void VirtualDisks::lookAgain() {
     m_isLooking = false;
 }
 
-void VirtualDisks::readPartitions(VirtualDisk& disk) const {
-    disk.isVolume = readFatLayout(*disk.device).has_value();
-    disk.partitions = disk.isVolume ? std::vector<Partition>() : readMasterBootRecord(*disk.device);
-}
-
 void VirtualDisks::eject(VirtualDisk& disk) {
-    m_ejected.push_back({disk.attachment, disk.unit, disk.generation});
-    std::erase_if(m_ejected, [](const Ejected& ejected) { return ejected.attachment.expired(); });
+    disk.attachment->ejectedMedia[disk.unit] = disk.mediumIdentity;
     const auto found = std::ranges::find(
         m_disks, &disk, [](const std::unique_ptr<VirtualDisk>& each) { return each.get(); });
     const std::unique_ptr<VirtualDisk> gone = std::move(*found);
@@ -144,29 +120,11 @@ void VirtualDisks::eject(VirtualDisk& disk) {
     }
 }
 
-std::optional<DiskPlace> VirtualDisks::find(const std::string& bsdName) const {
-    for (const auto& disk : m_disks) {
-        if (disk->bsdName == bsdName) {
-            return DiskPlace{.disk = disk.get(), .partition = std::nullopt};
-        }
-        for (const Partition& partition : disk->partitions) {
-            if (disk->partitionName(partition.number) == bsdName) {
-                return DiskPlace{.disk = disk.get(), .partition = partition};
-            }
-        }
-    }
-    return std::nullopt;
-}
-
-std::vector<std::string> VirtualDisks::volumeNames(const VirtualDisk& disk) {
-    if (disk.isVolume) {
-        return {disk.bsdName};
-    }
-    std::vector<std::string> names;
-    for (const Partition& partition : disk.partitions) {
-        names.push_back(disk.partitionName(partition.number));
-    }
-    return names;
+VirtualDisk* VirtualDisks::find(const std::string& bsdName) const {
+    const auto found = std::ranges::find_if(m_disks, [&](const auto& disk) {
+        return disk->bsdName == bsdName || (disk->hasVolume && disk->volumeName() == bsdName);
+    });
+    return found == m_disks.end() ? nullptr : found->get();
 }
 
 } // namespace zelto::simulator

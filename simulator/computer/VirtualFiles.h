@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Computer.h"
-#include "simulator/computer/MemoryFiles.h"
+#include "simulator/computer/FileTree.h"
 #include "simulator/computer/VirtualMountTable.h"
 
 namespace zelto::simulator {
@@ -40,8 +40,8 @@ public:
     void setCopyFails(bool fails) { m_copyFails = fails; }
 
     /// The computer's own disk. Its paths lack the leading slash.
-    [[nodiscard]] MemoryFiles& ownDisk() { return m_ownDisk; }
-    [[nodiscard]] static FileStore::Path onOwnDisk(const std::filesystem::path& path) {
+    [[nodiscard]] FileTree& ownDisk() { return m_ownDisk; }
+    [[nodiscard]] static FileTree::Path onOwnDisk(const std::filesystem::path& path) {
         return path.relative_path();
     }
     /// Whether two files, or two folders with all that is in them, are equal byte for byte.
@@ -49,29 +49,19 @@ public:
                                 const std::filesystem::path& other) const;
 
 private:
+    /// A path within the tree that it leads into.
     struct Place {
-        FileStore* store = nullptr;
-        FileStore::Path path;
-    };
-    /// A file or folder, taken out of its store.
-    struct Tree {
-        std::string name;
-        FileInfo info;
-        FileStore::Bytes bytes;
-        std::vector<Tree> children;
+        FileTree& tree;
+        FileTree::Path path;
     };
 
     [[nodiscard]] Place place(const std::filesystem::path& path) const;
-    [[nodiscard]] std::optional<FileInfo> info(const std::filesystem::path& path) const;
-    [[nodiscard]] static std::optional<Tree> read(const Place& from, unsigned depth = 0);
-    [[nodiscard]] static bool write(const Tree& tree, const Place& to);
-    [[nodiscard]] static bool sameContents(const Tree& one, const Tree& other);
-    void makeParents(const Place& of) const;
+    [[nodiscard]] const File* find(const std::filesystem::path& path) const;
 
     VirtualMountTable& m_mounts;
     EventLog& m_log;
-    /// Files are read through const operations; the stores read their media then.
-    mutable MemoryFiles m_ownDisk;
+    /// Looking at a file and changing it both begin with its place.
+    mutable FileTree m_ownDisk;
     std::filesystem::path m_bundlePath;
     std::vector<std::filesystem::path> m_running;
     std::vector<std::filesystem::path> m_opened;

@@ -44,17 +44,11 @@ bool VirtualMountTable::mount(const std::string& bsdName) {
     if (isMounted(bsdName)) {
         return true;
     }
-    const auto place = m_disks.find(bsdName);
-    if (!place) {
+    const VirtualDisk* const disk = m_disks.find(bsdName);
+    if (disk == nullptr || disk->volumeName() != bsdName) {
         return false;
     }
-    BlockDevice& disk = *place->disk->device;
-    const Partition whole{.firstSector = 0, .sectorCount = disk.sectorCount()};
-    const Partition part = place->partition.value_or(whole);
-    MountedVolume mounted;
-    mounted.bsdName = bsdName;
-    mounted.part = std::make_unique<BlockDevicePart>(disk, part.firstSector, part.sectorCount);
-    mounted.volume = FatVolume::mount(*mounted.part);
+    MountedVolume mounted{.bsdName = bsdName, .volume = VirtualVolume::mount(*disk->medium)};
     if (!mounted.volume) {
         return false;
     }
@@ -64,15 +58,9 @@ bool VirtualMountTable::mount(const std::string& bsdName) {
 }
 
 bool VirtualMountTable::unmount(const std::string& bsdName) {
-    if (!holders(bsdName).empty() || std::erase_if(m_mounted, [&](const MountedVolume& mounted) {
-                                         return mounted.bsdName == bsdName;
-                                     }) == 0) {
-        return false;
-    }
-    if (m_habit == DesktopHabit::MountsAgain) {
-        m_clock.after(std::chrono::seconds(1), [this, bsdName] { mount(bsdName); });
-    }
-    return true;
+    return holders(bsdName).empty() && std::erase_if(m_mounted, [&](const MountedVolume& mounted) {
+                                           return mounted.bsdName == bsdName;
+                                       }) > 0;
 }
 
 bool VirtualMountTable::isMounted(const std::string& bsdName) const {
@@ -85,8 +73,8 @@ std::string VirtualMountTable::mountPoint(const std::string& bsdName) const {
     return found == m_mounted.end() ? std::string() : found->mountPoint;
 }
 
-FatVolume* VirtualMountTable::volumeAt(const std::filesystem::path& path,
-                                       std::filesystem::path& rest) const {
+VirtualVolume* VirtualMountTable::volumeAt(const std::filesystem::path& path,
+                                           std::filesystem::path& rest) const {
     for (const MountedVolume& mounted : m_mounted) {
         const std::filesystem::path relative = path.lexically_relative(mounted.mountPoint);
         if (relative.empty() || *relative.begin() == "..") {
@@ -99,29 +87,16 @@ FatVolume* VirtualMountTable::volumeAt(const std::filesystem::path& path,
 }
 
 void VirtualMountTable::diskAppeared(const VirtualDisk& disk) {
-    for (const std::string& name : VirtualDisks::volumeNames(disk)) {
-        switch (m_habit) {
-        case DesktopHabit::MountsAtOnce:
-        case DesktopHabit::MountsAgain:
-            mount(name);
-            break;
-        case DesktopHabit::MountsLate:
-            m_clock.after(m_delay, [this, name] { mount(name); });
-            break;
-        case DesktopHabit::Never:
-            break;
-        }
+    if (m_habit == DesktopHabit::MountsAtOnce) {
+        mount(disk.volumeName());
     }
 }
 
 void VirtualMountTable::diskVanished(const VirtualDisk& disk) {
-    const std::vector<std::string> names = VirtualDisks::volumeNames(disk);
-    std::erase_if(m_mounted, [&](const MountedVolume& mounted) {
-        return std::ranges::find(names, mounted.bsdName) != names.end();
+    std::erase_if(m_mounted, [name = disk.volumeName()](const MountedVolume& mounted) {
+        return mounted.bsdName == name;
     });
-    for (const std::string& name : names) {
-        m_holders.erase(name);
-    }
+    m_holders.erase(disk.volumeName());
 }
 
 } // namespace zelto::simulator

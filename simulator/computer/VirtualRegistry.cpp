@@ -2,6 +2,13 @@
 
 namespace zelto::simulator {
 
+struct RegistryNode {
+    std::string name;
+    std::string className;
+    RegistryProperties properties = {};
+    std::vector<std::shared_ptr<RegistryNode>> children = {};
+};
+
 namespace {
 
 using NodePointer = std::shared_ptr<RegistryNode>;
@@ -14,19 +21,19 @@ public:
 
     [[nodiscard]] std::optional<std::string>
     IORegistryEntryGetNameInPlane(const std::string& plane) const override {
-        return m_node->nameFails || plane != ServicePlane ? std::nullopt
-                                                          : std::optional(m_node->name);
+        return plane == ServicePlane ? std::optional(m_node->name) : std::nullopt;
     }
     [[nodiscard]] std::optional<std::string> IOObjectGetClass() const override {
-        return m_node->classFails ? std::nullopt : std::optional(m_node->className);
+        return m_node->className;
     }
     [[nodiscard]] bool IOObjectConformsTo(const std::string& className) const override {
+        const bool isService = m_node->className != "IORegistryEntry";
         return className == m_node->className || className == "IORegistryEntry" ||
-               (m_node->isService && className == "IOService");
+               (isService && className == "IOService");
     }
     [[nodiscard]] std::optional<RegistryProperties>
     IORegistryEntryCreateCFProperties() const override {
-        return m_node->propertiesFail ? std::nullopt : std::optional(m_node->properties);
+        return m_node->properties;
     }
     [[nodiscard]] std::unique_ptr<RegistryIterator>
     IORegistryEntryGetChildIterator(const std::string& plane) const override;
@@ -41,15 +48,6 @@ public:
 
     [[nodiscard]] std::unique_ptr<RegistryEntry> IOIteratorNext() override {
         const auto& children = m_parent->children;
-        switch (m_parent->endless) {
-        case RegistryNode::Endless::No:
-            break;
-        case RegistryNode::Endless::Children:
-            return std::make_unique<Entry>(children.empty() ? std::make_shared<RegistryNode>()
-                                                            : children[m_next++ % children.size()]);
-        case RegistryNode::Endless::Depth:
-            return m_next++ == 0 ? std::make_unique<Entry>(m_parent) : nullptr;
-        }
         return m_next < children.size() ? std::make_unique<Entry>(children[m_next++]) : nullptr;
     }
 
@@ -60,8 +58,7 @@ private:
 
 std::unique_ptr<RegistryIterator>
 Entry::IORegistryEntryGetChildIterator(const std::string& plane) const {
-    return m_node->childrenFail || plane != ServicePlane ? nullptr
-                                                         : std::make_unique<Iterator>(m_node);
+    return plane == ServicePlane ? std::make_unique<Iterator>(m_node) : nullptr;
 }
 
 NodePointer makeNode(std::string name, std::string className) {
@@ -79,9 +76,8 @@ NodePointer mediaNode(std::string name, const std::string& bsdName) {
 
 NodePointer diskNode(const VirtualDisk& disk) {
     NodePointer node = mediaNode(disk.unitName + " Media", disk.bsdName);
-    for (const Partition& partition : disk.partitions) {
-        node->children.push_back(mediaNode("Untitled " + std::to_string(partition.number),
-                                           disk.partitionName(partition.number)));
+    if (disk.hasVolume) {
+        node->children.push_back(mediaNode("Untitled 1", disk.volumeName()));
     }
     return node;
 }
@@ -113,9 +109,8 @@ NodePointer VirtualRegistry::deviceNode(const Attachment& attachment) const {
     return node;
 }
 
-NodePointer VirtualRegistry::tree() const {
+std::unique_ptr<RegistryEntry> VirtualRegistry::IORegistryGetRootEntry() {
     NodePointer root = makeNode("Root", "IORegistryEntry");
-    root->isService = false;
     const NodePointer computer = makeNode("VirtualComputer", "IOPlatformExpertDevice");
     root->children.push_back(computer);
     const NodePointer controller = makeNode("EHC1", "IOUSBController");
@@ -126,30 +121,7 @@ NodePointer VirtualRegistry::tree() const {
         hub->children.push_back(deviceNode(*attachment));
     }
     root->children.push_back(makeNode("IOResources", "IOService"));
-    return root;
-}
-
-std::unique_ptr<RegistryEntry> VirtualRegistry::IORegistryGetRootEntry() {
-    if (m_missing) {
-        return nullptr;
-    }
-    NodePointer root = tree();
-    if (m_edit) {
-        m_edit(*root);
-    }
     return std::make_unique<Entry>(std::move(root));
-}
-
-RegistryNode* VirtualRegistry::findNode(RegistryNode& from, const std::string& name) {
-    if (from.name == name) {
-        return &from;
-    }
-    for (const NodePointer& child : from.children) {
-        if (RegistryNode* const found = findNode(*child, name)) {
-            return found;
-        }
-    }
-    return nullptr;
 }
 
 } // namespace zelto::simulator

@@ -1,6 +1,7 @@
 #include "simulator/computer/VirtualUsbBus.h"
 
 #include "simulator/computer/LoggedDevice.h"
+#include "simulator/usb/UsbDescriptors.h"
 
 #include <algorithm>
 
@@ -11,19 +12,6 @@ namespace {
 constexpr std::uint8_t StandardToHost = 0x80;
 constexpr std::uint8_t GetDescriptor = 6;
 constexpr std::uint8_t StringDescriptor = 3;
-
-/// A string descriptor as USB 2.0, 9.6.7 has it: bLength, bDescriptorType, UTF-16LE.
-std::vector<std::uint8_t> makeStringDescriptor(const std::string& text) {
-    constexpr std::size_t LongestText = 126;
-    const std::string shown = text.substr(0, LongestText);
-    std::vector<std::uint8_t> descriptor{static_cast<std::uint8_t>(2 + 2 * shown.size()),
-                                         StringDescriptor};
-    for (const char letter : shown) {
-        descriptor.push_back(static_cast<std::uint8_t>(letter));
-        descriptor.push_back(0);
-    }
-    return descriptor;
-}
 
 class Handle : public UsbDeviceInterface {
 public:
@@ -91,7 +79,8 @@ void VirtualUsbBus::plug(const Device& device) {
         return;
     }
     device->powerUp(m_clock.worldTime());
-    const auto attachment = std::make_shared<Attachment>(Attachment{.device = device});
+    const auto attachment = std::make_shared<Attachment>(
+        Attachment{.device = device, .units = device->makeUnits([this] { return m_clock.worldTime(); })});
     m_attachments.push_back(attachment);
     notifyChanged();
     announce(UsbEvent::FirstMatch, attachment);
@@ -224,7 +213,7 @@ IOReturn VirtualUsbBus::standardRequest(const Attachment& attachment, IOUSBDevRe
         return kIOUSBPipeStalled;
     }
     const std::vector<std::uint8_t> descriptor =
-        description.serialDescriptor.value_or(makeStringDescriptor(description.serial));
+        description.serialDescriptor.value_or(usbStringDescriptor(description.serial));
     const std::size_t length = std::min<std::size_t>(descriptor.size(), request.wLength);
     std::copy_n(descriptor.begin(), length, request.pData);
     request.wLenDone = static_cast<std::uint32_t>(length);

@@ -17,7 +17,11 @@ namespace zelto::simulator {
 /// it and then answer, for ever, that the device is gone.
 struct Attachment {
     std::shared_ptr<PluggableDevice> device;
+    /// Null for a device without storage.
+    std::unique_ptr<UnitStorage> units;
     bool isAttached = true;
+    /// The media that the system has ejected, by unit; they stay away until they are exchanged.
+    std::map<std::size_t, std::uint64_t> ejectedMedia = {};
 };
 
 /// The computer's USB ports. The physical verbs are plug, unplug and replug; the program sees

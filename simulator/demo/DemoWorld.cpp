@@ -1,5 +1,6 @@
 #include "simulator/demo/DemoWorld.h"
 
+#include "simulator/drive/DriveNames.h"
 #include "simulator/play/Person.h"
 
 #include <QApplication>
@@ -15,21 +16,8 @@ constexpr std::uint64_t NewDriveSectors = 262144;
 constexpr std::chrono::milliseconds WhenIdle{20};
 
 QString stateText(SecurityState state) {
-    switch (state) {
-    case SecurityState::StateNoPassword:
-        return QStringLiteral("no password");
-    case SecurityState::StateIdle:
-        return QStringLiteral("idle");
-    case SecurityState::StateLocked:
-        return QStringLiteral("locked");
-    case SecurityState::StatePasswordPending:
-        return QStringLiteral("second password awaited");
-    case SecurityState::StateUnlocking:
-        return QStringLiteral("unlocked");
-    case SecurityState::StateFullLock:
-        return QStringLiteral("fully locked");
-    }
-    return {};
+    const std::string_view name = nameOf(state);
+    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 } // namespace
@@ -100,10 +88,9 @@ void DemoWorld::loseClock() {
 void DemoWorld::setVolumesBusy(bool busy) {
     m_volumesBusy = busy;
     for (const auto& disk : m_computer.disks.all()) {
-        for (const std::string& volume : VirtualDisks::volumeNames(*disk)) {
-            m_computer.mounts.setHolders(volume, busy ? std::set<std::string>{"a text editor"}
-                                                      : std::set<std::string>{});
-        }
+        m_computer.mounts.setHolders(disk->volumeName(),
+                                     busy ? std::set<std::string>{"a text editor"}
+                                          : std::set<std::string>{});
     }
 }
 

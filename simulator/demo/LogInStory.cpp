@@ -1,4 +1,3 @@
-#include "simulator/demo/Stories.h"
 #include "simulator/demo/Story.h"
 
 #include <algorithm>
@@ -11,10 +10,6 @@ using Drive = std::shared_ptr<DriveOnBus>;
 
 const std::filesystem::path SecureVolume = "/media/user/PRIVATE";
 const std::filesystem::path Letters = SecureVolume / "My letters";
-
-bool isInState(Story& story, const Drive& drive, SecurityState state) {
-    return drive->drive().state(story.computer.clock.worldTime()) == state;
-}
 
 bool wasSentTo(const Story& story, const std::string& serial) {
     return std::ranges::any_of(story.computer.log.lines(),
@@ -78,7 +73,7 @@ void useAndLogOff(Story& story, const Drive& drive) {
     const auto logout = std::ranges::find(lines, "TKVR21_Logout");
     story.check("ejected before the drive was locked", eject < logout && logout != lines.end());
     story.check("the secure volume is gone", !story.computer.files.fileExistsAtPath(SecureVolume));
-    story.check("the drive is locked", isInState(story, drive, SecurityState::StateLocked));
+    story.checkState("the drive is locked", *drive, SecurityState::StateLocked);
     story.check("the utility has ended", story.utilityHasQuit());
 }
 
@@ -98,15 +93,12 @@ void findTheFilesAgain(Story& story, const Drive& drive) {
                 story.computer.files.areEqual(story.computer.files.bundlePath(), Letters));
 
     story.tell("A program keeps the volume busy: log-off is refused, the drive stays unlocked.");
-    const auto& disks = story.computer.disks.all();
-    const auto secure = std::ranges::find_if(
-        disks, [](const auto& disk) { return disk->unitName == "KESTRIN ZELTO DISK2"; });
-    const std::string volume = (*secure)->partitionName(1);
+    const VirtualDisk* const secure = story.diskOfUnit("KESTRIN ZELTO DISK2");
+    const std::string volume = secure != nullptr ? secure->volumeName() : "";
     story.computer.mounts.setHolders(volume, {"text editor"});
     story.person.press("UnlockedLogOff");
     story.checkAlert("IDS_ERR_UNMOUNT");
-    story.check("the drive is still unlocked",
-                isInState(story, drive, SecurityState::StateUnlocking));
+    story.checkState("the drive is still unlocked", *drive, SecurityState::StateUnlocking);
 
     story.tell("The program is closed; the utility, started again, finds the drive unlocked.");
     story.computer.mounts.setHolders(volume, {});
@@ -114,7 +106,7 @@ void findTheFilesAgain(Story& story, const Drive& drive) {
     story.checkWindow("UnlockingWindow");
     story.picture("already-unlocked");
     story.person.press("UnlockingLogOff");
-    story.check("the drive is locked", isInState(story, drive, SecurityState::StateLocked));
+    story.checkState("the drive is locked", *drive, SecurityState::StateLocked);
     story.checkNoAlert();
 }
 
@@ -124,14 +116,13 @@ void setTheClock(Story& story, const Drive& drive) {
     story.computer.unplug(drive);
     drive->drive().loseClock(story.computer.clock.worldTime());
     story.computer.plug(drive);
-    story.check("the drive is fully locked", isInState(story, drive, SecurityState::StateFullLock));
+    story.checkState("the drive is fully locked", *drive, SecurityState::StateFullLock);
     story.startUtility();
     const auto panels = story.alerts.takePanels();
     story.check("asked first, then told that the clock is set", panels.size() == 2);
     story.check("the drive's clock was written",
                 story.computer.log.latest("TKVR21_ZELTO_SetCurrentTime") != nullptr);
-    story.check("the drive asks for its password again",
-                isInState(story, drive, SecurityState::StateLocked));
+    story.checkState("the drive asks for its password again", *drive, SecurityState::StateLocked);
     story.check("the utility has ended", story.utilityHasQuit());
 }
 
@@ -148,7 +139,7 @@ void showRemainingTime(Story& story) {
 void letItExpire(Story& story, const Drive& drive) {
     story.tell("Three days go by. The auto-clear period has run out, and the key is gone.");
     story.computer.skip(std::chrono::days(3));
-    story.check("the drive is fully locked", isInState(story, drive, SecurityState::StateFullLock));
+    story.checkState("the drive is fully locked", *drive, SecurityState::StateFullLock);
     story.startUtility();
     story.checkAlert("IDS_ERR_ZELTO_DRIVE_LOST");
     story.tell("Nothing is left to save; the settings open, so that it can be set up anew.");

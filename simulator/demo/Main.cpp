@@ -1,5 +1,4 @@
 #include "simulator/demo/DemoPanel.h"
-#include "simulator/demo/Stories.h"
 #include "simulator/demo/Story.h"
 #include "ui/Resources.h"
 #include "ui/Strings.h"

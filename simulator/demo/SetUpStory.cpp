@@ -1,4 +1,3 @@
-#include "simulator/demo/Stories.h"
 #include "simulator/demo/Story.h"
 
 #include "ui/Strings.h"
@@ -24,17 +23,6 @@ struct Passwords {
 };
 constexpr Passwords OldPasswords{"first", "second"};
 constexpr Passwords NewPasswords{"primary", "another"};
-
-bool isInState(Story& story, const Drive& drive, SecurityState state) {
-    return drive->drive().state(story.computer.clock.worldTime()) == state;
-}
-
-VirtualDisk* diskOfUnit(Story& story, const std::string& unitName) {
-    const auto& disks = story.computer.disks.all();
-    const auto found =
-        std::ranges::find(disks, unitName, [](const auto& disk) { return disk->unitName; });
-    return found == disks.end() ? nullptr : found->get();
-}
 
 void layOutAreas(Story& story) {
     story.tell("A new drive is plugged in. The settings open; OK waits until all is said.");
@@ -143,10 +131,10 @@ void logIn(Story& story, const Passwords& passwords) {
 
 void useTheDrive(Story& story, const Drive& drive) {
     story.tell("The drive just set up is locked; both passwords open it.");
-    story.check("the drive is locked", isInState(story, drive, SecurityState::StateLocked));
+    story.checkState("the drive is locked", *drive, SecurityState::StateLocked);
     logIn(story, OldPasswords);
     story.tell("The secure area is blank; its owner formats it and keeps something there.");
-    const VirtualDisk* const secure = diskOfUnit(story, "KESTRIN ZELTO DISK1");
+    const VirtualDisk* const secure = story.diskOfUnit("KESTRIN ZELTO DISK1");
     const bool formatted =
         secure != nullptr && story.computer.diskTool.eraseDisk(secure->bsdName, "SECRET");
     story.check("the volume SECRET is there",
@@ -217,7 +205,7 @@ void eraseTheKey(Story& story, const Drive& drive) {
     story.checkAlert("IDS_ERASE_ENCRYPTION_KEY_CONFIRM");
     story.check("the utility has ended", story.utilityHasQuit());
     story.computer.skip(std::chrono::seconds(2));
-    story.check("the drive is fully locked", isInState(story, drive, SecurityState::StateFullLock));
+    story.checkState("the drive is fully locked", *drive, SecurityState::StateFullLock);
 }
 
 void clearAll(Story& story, const Drive& drive) {
@@ -230,10 +218,10 @@ void clearAll(Story& story, const Drive& drive) {
     story.checkAlert("IDS_CLEAR_ALL_CONFIRM");
     story.check("the utility has ended", story.utilityHasQuit());
     story.computer.replug(drive);
-    const VirtualDisk* const whole = diskOfUnit(story, "KESTRIN ZELTO DISK1");
+    const VirtualDisk* const whole = story.diskOfUnit("KESTRIN ZELTO DISK1");
     story.check("the drive is as new: one blank medium of all its sectors",
-                whole != nullptr && whole->device->sectorCount() == DriveSectors &&
-                    whole->partitions.empty() && !whole->isVolume);
+                whole != nullptr && whole->medium->sectorCount() == DriveSectors &&
+                    !whole->hasVolume);
 }
 
 void setUpAnew(Story& story, const Drive& drive) {
@@ -248,8 +236,7 @@ void setUpAnew(Story& story, const Drive& drive) {
     story.person.press("MainSettingsOKButton");
     waitForCompletion(story);
     story.checkNoAlert();
-    story.check("the drive needs no password",
-                isInState(story, drive, SecurityState::StateNoPassword));
+    story.checkState("the drive needs no password", *drive, SecurityState::StateNoPassword);
     story.check("the volume ZELTO TOOL holds the utility, byte for byte",
                 story.computer.files.areEqual(story.computer.files.bundlePath(), ToolCopy));
     story.person.press("ZeltoSettingOKButton");

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QPixmap>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace zelto::simulator {
@@ -77,6 +78,17 @@ void Story::checkNoAlert() {
 void Story::checkWindow(const std::string& name) {
     const std::string open = person.visibleWindowName();
     check("the window that is open is " + (open.empty() ? "none" : open), open == name);
+}
+
+void Story::checkState(const std::string& what, DriveOnBus& drive, SecurityState state) {
+    check(what, drive.drive().state(computer.clock.worldTime()) == state);
+}
+
+const VirtualDisk* Story::diskOfUnit(const std::string& unitName) const {
+    const auto& disks = computer.disks.all();
+    const auto found =
+        std::ranges::find(disks, unitName, [](const auto& disk) { return disk->unitName; });
+    return found == disks.end() ? nullptr : found->get();
 }
 
 void Story::submitPassword(const QString& password) {

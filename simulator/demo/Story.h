@@ -40,6 +40,9 @@ public:
     void checkAlert(const char* key);
     void checkNoAlert();
     void checkWindow(const std::string& name);
+    void checkState(const std::string& what, DriveOnBus& drive, SecurityState state);
+    /// The disk that a unit's medium is; null without one.
+    [[nodiscard]] const VirtualDisk* diskOfUnit(const std::string& unitName) const;
     /// Types a password into the log-in window and submits it.
     void submitPassword(const QString& password);
 
@@ -57,5 +60,10 @@ private:
     int m_picture = 0;
     int m_failures = 0;
 };
+
+/// A user logs in to a drive and logs off again; then the clock, and the drive that has expired.
+void playLogInStory(Story& story);
+/// A new drive is set up, logged in to, changed, erased, cleared and set up anew.
+void playSetUpStory(Story& story);
 
 } // namespace zelto::simulator

@@ -13,6 +13,8 @@
 namespace zelto::simulator {
 namespace {
 
+using linux_platform::FileDescriptor;
+
 constexpr const char* StateName = "drive.state";
 /// Written first, then given the state's name.
 constexpr const char* NewStateName = "drive.state.new";
@@ -29,27 +31,9 @@ bool failWithErrno(std::string& error, const std::filesystem::path& path) {
     return fail(error, path, std::generic_category().message(errno));
 }
 
-class Descriptor {
-public:
-    explicit Descriptor(int descriptor) : m_descriptor(descriptor) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (isOpen()) {
-            ::close(m_descriptor);
-        }
-    }
-
-    [[nodiscard]] bool isOpen() const { return m_descriptor >= 0; }
-    [[nodiscard]] int get() const { return m_descriptor; }
-
-private:
-    int m_descriptor = -1;
-};
-
 /// The whole file, of at most MostStateBytes.
 bool readFile(const std::filesystem::path& path, std::string& text, std::string& error) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.isOpen()) {
         return failWithErrno(error, path);
     }
@@ -74,7 +58,7 @@ bool readFile(const std::filesystem::path& path, std::string& text, std::string&
 
 bool writeFile(const std::filesystem::path& path, std::string_view text, std::string& error) {
     constexpr mode_t OwnerOnly = 0600;
-    const Descriptor file(
+    const FileDescriptor file(
         ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, OwnerOnly));
     if (!file.isOpen()) {
         return failWithErrno(error, path);
@@ -96,20 +80,15 @@ bool writeFile(const std::filesystem::path& path, std::string_view text, std::st
 
 DriveFolder::DriveFolder(std::filesystem::path folder) : m_folder(std::move(folder)) {}
 
-DriveFolder::~DriveFolder() {
-    if (m_directory >= 0) {
-        ::close(m_directory);
-    }
-}
-
 bool DriveFolder::lock(std::string& error) {
-    if (m_directory < 0) {
-        m_directory = ::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (!m_directory.isOpen()) {
+        m_directory =
+            FileDescriptor(::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     }
-    if (m_directory < 0) {
+    if (!m_directory.isOpen()) {
         return failWithErrno(error, m_folder);
     }
-    if (::flock(m_directory, LOCK_EX | LOCK_NB) == 0) {
+    if (::flock(m_directory.get(), LOCK_EX | LOCK_NB) == 0) {
         return true;
     }
     return errno == EWOULDBLOCK ? fail(error, m_folder, "another program has this drive")
@@ -185,7 +164,7 @@ bool DriveFolder::save(const Manufactured& manufactured, const Remembered& remem
         return failWithErrno(error, path);
     }
     // The new name survives a power failure only once the folder is written, too.
-    return m_directory < 0 || ::fsync(m_directory) == 0 || failWithErrno(error, m_folder);
+    return !m_directory.isOpen() || ::fsync(m_directory.get()) == 0 || failWithErrno(error, m_folder);
 }
 
 } // namespace zelto::simulator

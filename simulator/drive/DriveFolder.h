@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/FileDescriptor.h"
 #include "simulator/drive/DriveModel.h"
 #include "simulator/drive/SectorStore.h"
 
@@ -25,9 +26,6 @@ public:
     };
 
     explicit DriveFolder(std::filesystem::path folder);
-    DriveFolder(const DriveFolder&) = delete;
-    DriveFolder& operator=(const DriveFolder&) = delete;
-    ~DriveFolder();
 
     /// Puts a new drive into the folder, creating it where needed. False, and why in `error`, when
     /// that fails or when the folder already holds a drive.
@@ -46,7 +44,7 @@ private:
 
     std::filesystem::path m_folder;
     /// The folder itself, opened; its lock is the drive's.
-    int m_directory = -1;
+    linux_platform::FileDescriptor m_directory;
 };
 
 } // namespace zelto::simulator

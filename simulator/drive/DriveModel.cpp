@@ -17,10 +17,6 @@ constexpr Moment LatestMoment = std::chrono::sys_days{9999y / 1 / 1};
 constexpr std::uint8_t TwoPasswordsBit = 0x40;
 constexpr std::uint8_t AutomaticKeyBit = 0x80;
 
-bool isSecure(const AreaInfoEntry& entry) {
-    return entry.type == AreaInfoEntry::SecureArea;
-}
-
 } // namespace
 
 void SetupParts::forget() {
@@ -81,7 +77,7 @@ std::optional<Medium> DriveModel::medium(std::size_t unit, Moment now) {
     if (area.sectorCount == AreaInfoEntry::AllSectors) {
         return Medium{.firstSector = 0, .sectorCount = m_manufactured.totalSectors};
     }
-    if (!isSecure(area)) {
+    if (area.type != AreaInfoEntry::SecureArea) {
         return Medium{.firstSector = area.firstSector, .sectorCount = area.sectorCount};
     }
     if (computeState() != SecurityState::StateUnlocking) {
@@ -154,12 +150,8 @@ std::uint64_t DriveModel::autoClearElapsed() const {
     return static_cast<std::uint64_t>(std::max(elapsed, 0s).count());
 }
 
-bool DriveModel::hasSecureArea() const {
-    return std::ranges::any_of(m_remembered.areas, isSecure);
-}
-
 SecurityState DriveModel::computeState() const {
-    if (!hasSecureArea()) {
+    if (!hasSecureArea(m_remembered.areas)) {
         return SecurityState::StateNoPassword;
     }
     if (!m_remembered.key || m_remembered.autoClearHeldAt) {
@@ -205,7 +197,7 @@ void DriveModel::putSetupInForce() {
     destroyKey();
     forgetPasswords();
     m_remembered.areas = setup.areas.value_or(m_remembered.areas);
-    if (hasSecureArea()) {
+    if (hasSecureArea(m_remembered.areas)) {
         m_remembered.key = setup.key;
         m_remembered.keyIsAutomatic = setup.keyIsAutomatic;
         m_remembered.firstPassword = setup.firstPassword;

@@ -141,6 +141,11 @@ struct Powered {
 /// one of them is secure (the drive has one key).
 [[nodiscard]] bool areSoundAreas(std::span<const AreaInfoEntry> areas, std::uint64_t totalSectors);
 
+[[nodiscard]] bool hasSecureArea(std::span<const AreaInfoEntry> areas);
+/// Whether a set-up may come into force: one that would leave a secure area without a key, or
+/// without a password to open it, may not.
+[[nodiscard]] bool isComplete(const SetupParts& setup);
+
 /// The drive's firmware: what it answers to the sixteen vendor requests, which media its storage
 /// units show, and what time and unplugging do to it. A pure model: no threads, no clock of its
 /// own, no USB around it. Nothing in it blocks.
@@ -208,7 +213,6 @@ private:
     void expireAutoClear();
     void lockIdleDrive();
     [[nodiscard]] std::uint64_t autoClearElapsed() const;
-    [[nodiscard]] bool hasSecureArea() const;
     [[nodiscard]] SecurityState computeState() const;
     [[nodiscard]] std::uint8_t securityByte() const;
     void lock();

@@ -168,17 +168,15 @@ bool isSound(const AreaInfoEntry& entry) {
     }
 }
 
-/// A set-up that may come into force. One that would leave a secure area without a key or without
-/// a password to open it may not.
-bool isComplete(const SetupParts& setup) {
-    const bool hasSecureArea =
-        setup.areas && std::ranges::any_of(*setup.areas, [](const AreaInfoEntry& area) {
-            return area.type == AreaInfoEntry::SecureArea;
-        });
-    return !hasSecureArea || (setup.key && setup.firstPassword);
+} // namespace
+
+bool hasSecureArea(std::span<const AreaInfoEntry> areas) {
+    return std::ranges::find(areas, AreaInfoEntry::SecureArea, &AreaInfoEntry::type) != areas.end();
 }
 
-} // namespace
+bool isComplete(const SetupParts& setup) {
+    return !setup.areas || !hasSecureArea(*setup.areas) || (setup.key && setup.firstPassword);
+}
 
 bool areSoundAreas(std::span<const AreaInfoEntry> areas, std::uint64_t totalSectors) {
     std::uint64_t next = 0;

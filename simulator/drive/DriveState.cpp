@@ -2,9 +2,9 @@
 
 #include "digest/SHA256.h"
 #include "simulator/drive/SecretBytes.h"
+#include "simulator/drive/Words.h"
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
 
 namespace zelto::simulator {
@@ -33,9 +33,9 @@ std::string hexOf(std::span<const std::uint8_t> bytes) {
 
 template <typename Integer>
 bool parse(std::string_view word, Integer& value, int base = 10) {
-    const char* const end = word.data() + word.size();
-    const auto [stop, fault] = std::from_chars(word.data(), end, value, base);
-    return fault == std::errc{} && stop == end;
+    const auto number = numberIn<Integer>(word, base);
+    value = number.value_or(value);
+    return number.has_value();
 }
 
 bool parseHex(std::string_view word, std::span<std::uint8_t> bytes) {
@@ -145,16 +145,6 @@ constexpr LineRule LineRules[] = {
 };
 // clang-format on
 
-std::vector<std::string_view> wordsOf(std::string_view line) {
-    std::vector<std::string_view> words;
-    for (std::size_t start = 0; start <= line.size();) {
-        const std::size_t end = std::min(line.find(' ', start), line.size());
-        words.push_back(line.substr(start, end - start));
-        start = end + 1;
-    }
-    return words;
-}
-
 /// Reads lines until the text ends; the number of the first one that can't be read, 0 when all
 /// could.
 std::size_t findBadLine(std::string_view text, SavedDrive& drive) {
@@ -190,10 +180,6 @@ std::string sumOf(std::string_view text) {
     return hexOf(sum);
 }
 
-bool hasSecureArea(std::span<const AreaInfoEntry> areas) {
-    return std::ranges::find(areas, AreaInfoEntry::SecureArea, &AreaInfoEntry::type) != areas.end();
-}
-
 /// What a drive can't remember, however it was used; empty when there is no such thing.
 std::string faultOf(const Remembered& remembered, std::uint64_t totalSectors) {
     const std::vector<AreaInfoEntry> neverSet{{.sectorCount = AreaInfoEntry::AllSectors}};
@@ -211,7 +197,7 @@ std::string faultOf(const Remembered& remembered, std::uint64_t totalSectors) {
         if (!setup.areas || !areSoundAreas(*setup.areas, totalSectors)) {
             return "the areas to come don't fit the drive";
         }
-        if (hasSecureArea(*setup.areas) && (!setup.key || !setup.firstPassword)) {
+        if (!isComplete(setup)) {
             return "the set-up to come has no key or no password";
         }
     }

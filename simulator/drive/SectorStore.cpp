@@ -120,40 +120,31 @@ std::unique_ptr<FileSectorStore> FileSectorStore::open(const std::filesystem::pa
                                                        std::uint64_t sectorCount,
                                                        std::string& error) {
     constexpr mode_t OwnerOnly = 0600;
-    const int descriptor =
-        ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, OwnerOnly);
-    if (descriptor < 0) {
-        error = path.string() + ": " + reasonOf(errno);
-        return nullptr;
-    }
-    std::unique_ptr<FileSectorStore> store(new FileSectorStore(descriptor, sectorCount));
-    std::string reason;
-    if (hasOrGetsSize(descriptor, sectorCount * SectorSize, reason)) {
-        return store;
+    linux_platform::FileDescriptor file(::open(
+        path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, OwnerOnly));
+    std::string reason = file.isOpen() ? std::string() : reasonOf(errno);
+    if (file.isOpen() && hasOrGetsSize(file.get(), sectorCount * SectorSize, reason)) {
+        return std::unique_ptr<FileSectorStore>(new FileSectorStore(std::move(file), sectorCount));
     }
     error = path.string() + ": " + reason;
     return nullptr;
 }
 
-FileSectorStore::~FileSectorStore() {
-    ::close(m_descriptor);
-}
-
 bool FileSectorStore::read(std::uint64_t sector, std::span<std::uint8_t> bytes) {
-    return holds(sector, bytes.size()) && inFull(::pread, m_descriptor, sector, bytes);
+    return holds(sector, bytes.size()) && inFull(::pread, m_file.get(), sector, bytes);
 }
 
 bool FileSectorStore::write(std::uint64_t sector, std::span<const std::uint8_t> bytes) {
-    return holds(sector, bytes.size()) && inFull(::pwrite, m_descriptor, sector, bytes);
+    return holds(sector, bytes.size()) && inFull(::pwrite, m_file.get(), sector, bytes);
 }
 
 bool FileSectorStore::flush() {
-    return ::fdatasync(m_descriptor) == 0;
+    return ::fdatasync(m_file.get()) == 0;
 }
 
 bool FileSectorStore::discardAll() {
-    return ::ftruncate(m_descriptor, 0) == 0 &&
-           ::ftruncate(m_descriptor, static_cast<off_t>(m_sectorCount * SectorSize)) == 0;
+    return ::ftruncate(m_file.get(), 0) == 0 &&
+           ::ftruncate(m_file.get(), static_cast<off_t>(m_sectorCount * SectorSize)) == 0;
 }
 
 } // namespace zelto::simulator

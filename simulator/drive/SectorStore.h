@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/FileDescriptor.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -62,7 +64,6 @@ public:
     /// its size is not that of the sectors.
     [[nodiscard]] static std::unique_ptr<FileSectorStore>
     open(const std::filesystem::path& path, std::uint64_t sectorCount, std::string& error);
-    ~FileSectorStore() override;
 
     [[nodiscard]] std::uint64_t sectorCount() const override { return m_sectorCount; }
     [[nodiscard]] bool read(std::uint64_t sector, std::span<std::uint8_t> bytes) override;
@@ -71,10 +72,10 @@ public:
     [[nodiscard]] bool discardAll() override;
 
 private:
-    FileSectorStore(int descriptor, std::uint64_t sectorCount)
-        : m_descriptor(descriptor), m_sectorCount(sectorCount) {}
+    FileSectorStore(linux_platform::FileDescriptor file, std::uint64_t sectorCount)
+        : m_file(std::move(file)), m_sectorCount(sectorCount) {}
 
-    int m_descriptor = -1;
+    linux_platform::FileDescriptor m_file;
     std::uint64_t m_sectorCount = 0;
 };
 

@@ -67,11 +67,6 @@ void VirtualDrive::unplug(Moment now) {
     save();
 }
 
-void VirtualDrive::replug(Moment now) {
-    unplug(now);
-    plug(now);
-}
-
 ControlReply VirtualDrive::control(const SetupPacket& setup, std::span<const std::uint8_t> sent,
                                    Moment now) {
     // Before the request as well: the idle lock may close the drive in the same second in which

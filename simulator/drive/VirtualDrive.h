@@ -47,15 +47,14 @@ public:
     void plug(Moment now);
     /// Pulls the plug, at any moment.
     void unplug(Moment now);
-    /// What the bus does after a reconnect: the drive leaves and comes back.
-    void replug(Moment now);
     [[nodiscard]] bool isPlugged() const { return m_model.isPowered(); }
 
     /// One vendor request to the plugged drive; see DriveModel::control. What it makes the drive
     /// remember is saved when this returns; if that fails, the request is refused as a write fault.
     [[nodiscard]] ControlReply control(const SetupPacket& setup, std::span<const std::uint8_t> sent,
                                        Moment now);
-    /// True once after a request to reconnect: time to call replug.
+    /// True once after a request to reconnect: the drive is to leave the bus and come
+    /// back.
     [[nodiscard]] bool takeReconnect() { return m_model.takeReconnect(); }
     [[nodiscard]] SecurityState state(Moment now);
 

@@ -4,57 +4,16 @@
 #include "device/ZELTOctrl.h"
 #include "digest/SHA256.h"
 #include "settings/AreaPacking.h"
-#include "simulator/fat/FatLayout.h"
-#include "simulator/fat/PartitionTable.h"
+#include "simulator/computer/VirtualComputer.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace zelto::simulator {
 
 namespace {
 
 const std::string ToolLabel = "ZELTO TOOL";
-
-/// A cable straight to the drive, without a computer.
-class DirectHandle : public UsbDeviceInterface {
-public:
-    DirectHandle(DriveOnBus& drive, Moment now) : m_drive(drive), m_now(now) {}
-    [[nodiscard]] std::uint16_t GetDeviceVendor() const override { return UsbIdentity::Vendor; }
-    [[nodiscard]] std::uint16_t GetDeviceProduct() const override { return UsbIdentity::Product; }
-    [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override { return 0; }
-    [[nodiscard]] IOReturn USBDeviceOpen() override { return kIOReturnSuccess; }
-    [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override { return 0; }
-    [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override {
-        return m_drive.control(request, m_now);
-    }
-
-private:
-    DriveOnBus& m_drive;
-    Moment m_now;
-};
-
-/// A unit's medium, without a computer.
-class DirectMedium : public BlockDevice {
-public:
-    DirectMedium(DriveOnBus& drive, std::size_t unit, Moment now)
-        : m_drive(drive), m_unit(unit), m_now(now) {}
-    [[nodiscard]] std::uint64_t sectorCount() const override {
-        return m_drive.drive().sectorCount(m_unit, m_now);
-    }
-    [[nodiscard]] bool read(std::uint64_t firstSector, std::span<std::uint8_t> into) override {
-        return m_drive.read(m_unit, firstSector, into, m_now);
-    }
-    [[nodiscard]] bool write(std::uint64_t firstSector,
-                             std::span<const std::uint8_t> from) override {
-        return m_drive.write(m_unit, firstSector, from, m_now);
-    }
-
-private:
-    DriveOnBus& m_drive;
-    std::size_t m_unit;
-    Moment m_now;
-};
 
 PasswordDigest passwordDigest(const std::string& password) {
     return digestOf({reinterpret_cast<const std::uint8_t*>(password.data()), password.size()});
@@ -98,23 +57,15 @@ bool logIn(UsbDeviceInterface& drive, const std::string& password, bool firstSte
            kIOReturnSuccess;
 }
 
-bool formatUnit(DriveOnBus& drive, std::size_t unit, const std::string& label, Moment now) {
-    DirectMedium medium(drive, unit, now);
-    Partition partition = partitionFilling(medium.sectorCount(), 0);
-    partition.type = fatPartitionType(partition.sectorCount);
-    BlockDevicePart part(medium, partition.firstSector, partition.sectorCount);
-    return label.empty() ||
-           (writeMasterBootRecord(medium, partition) &&
-            formatFat(part, label, static_cast<std::uint32_t>(partition.firstSector), now));
-}
-
-bool formatAll(DriveOnBus& drive, const DriveSetup& setup, Moment now) {
-    for (std::size_t unit = 0; unit < setup.areas.size(); ++unit) {
-        if (!formatUnit(drive, unit, setup.areas[unit].label, now)) {
-            return false;
-        }
-    }
-    return formatUnit(drive, setup.areas.size(), ToolLabel, now);
+/// Formats the volumes on the drive's media, the tool area's among them.
+bool formatAll(VirtualComputer& workshop, const DriveSetup& setup) {
+    std::vector<std::string> labels;
+    std::ranges::transform(setup.areas, std::back_inserter(labels), &DriveSetup::Area::label);
+    labels.push_back(ToolLabel);
+    return std::ranges::all_of(workshop.disks.all(), [&](const auto& disk) {
+        const std::string& label = labels.at(disk->unit);
+        return label.empty() || workshop.diskTool.eraseDisk(disk->bsdName, label);
+    });
 }
 
 } // namespace
@@ -123,20 +74,25 @@ std::shared_ptr<DriveOnBus> makePreparedDrive(const DriveSetup& setup, Moment no
     const AreaInfoTable areas = layOut(setup);
     const AreaInfoEntry last = areas.entry(areas.storedCount() - 1U);
     auto drive = makeDrive(setup.serial, last.firstSector + last.sectorCount);
-    DirectHandle handle(*drive, now);
     const bool secure = std::ranges::any_of(setup.areas, &DriveSetup::Area::isSecure);
-    drive->powerUp(now);
-    bool done = writeAreaInfos(handle, storedEntries(areas)) == kIOReturnSuccess &&
-                (!secure || sendSecrets(handle, setup)) && sendSettings(handle, setup, now) &&
-                TKVR21_Reconnect(handle, 1, 1) == kIOReturnSuccess && drive->takeReconnect();
-    drive->powerOff(now);
-    drive->powerUp(now);
+    VirtualComputer workshop(now);
+    workshop.usb.setReconnectDelay(std::nullopt);
+    const auto plug = [&] {
+        workshop.plug(drive);
+        auto handle = workshop.usb.makeHandle(workshop.usb.attachments().front());
+        return handle->USBDeviceOpen() == kIOReturnSuccess ? std::move(handle) : nullptr;
+    };
+    auto handle = plug();
+    bool done = writeAreaInfos(*handle, storedEntries(areas)) == kIOReturnSuccess &&
+                (!secure || sendSecrets(*handle, setup)) && sendSettings(*handle, setup, now) &&
+                TKVR21_Reconnect(*handle, 1, 1) == kIOReturnSuccess;
+    handle = plug();
     if (done && secure) {
-        done = logIn(handle, setup.firstPassword, true) &&
-               (setup.secondPassword.empty() || logIn(handle, setup.secondPassword, false));
+        done = logIn(*handle, setup.firstPassword, true) &&
+               (setup.secondPassword.empty() || logIn(*handle, setup.secondPassword, false));
     }
-    done = done && formatAll(*drive, setup, now);
-    drive->powerOff(now);
+    done = done && formatAll(workshop, setup);
+    workshop.unplug(drive);
     return done ? drive : nullptr;
 }
 

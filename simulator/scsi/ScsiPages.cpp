@@ -1,7 +1,8 @@
 #include "simulator/scsi/ScsiPages.h"
 
 #include "device/Record.h"
-#include "simulator/scsi/UnitStorage.h"
+#include "simulator/drive/DriveNames.h"
+#include "simulator/drive/SectorStore.h"
 
 #include <algorithm>
 
@@ -11,7 +12,6 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr std::string_view Vendor = "KESTRIN";
 constexpr std::string_view Revision = "0100";
 constexpr std::uint8_t DirectAccess = 0x00;
 constexpr std::uint8_t Spc4 = 0x06;
@@ -23,17 +23,13 @@ void appendPadded(Bytes& bytes, std::string_view text, std::size_t width) {
     }
 }
 
-std::string productOf(const UnitIdentity& unit) {
-    return "ZELTO DISK" + std::to_string(unit.number + 1);
-}
-
 Bytes inquiryData(std::uint8_t peripheral, std::string_view product) {
     constexpr std::uint8_t Removable = 0x80;
     constexpr std::uint8_t ResponseFormat = 0x02;
     constexpr std::size_t Size = 74;
     constexpr std::uint8_t AdditionalLength = Size - 5;
     Bytes bytes{peripheral, Removable, Spc4, ResponseFormat, AdditionalLength, 0, 0, 0};
-    appendPadded(bytes, Vendor, 8);
+    appendPadded(bytes, DriveName::Vendor, 8);
     appendPadded(bytes, product, 16);
     appendPadded(bytes, Revision, 4);
     bytes.resize(Size);
@@ -57,8 +53,8 @@ Bytes identification(const UnitIdentity& unit) {
     constexpr std::uint8_t Ascii = 0x02;
     constexpr std::uint8_t T10VendorId = 0x01;
     Bytes name;
-    appendPadded(name, Vendor, 8);
-    appendPadded(name, productOf(unit), 16);
+    appendPadded(name, DriveName::Vendor, 8);
+    appendPadded(name, unitProduct(unit.number), 16);
     name.insert(name.end(), unit.serial.begin(), unit.serial.end());
     Bytes bytes{Ascii, T10VendorId, 0, static_cast<std::uint8_t>(name.size())};
     bytes.insert(bytes.end(), name.begin(), name.end());
@@ -118,7 +114,7 @@ Bytes controlPage() {
 } // namespace
 
 std::vector<std::uint8_t> standardInquiry(const UnitIdentity& unit) {
-    return inquiryData(DirectAccess, productOf(unit));
+    return inquiryData(DirectAccess, unitProduct(unit.number));
 }
 
 std::vector<std::uint8_t> absentUnitInquiry() {
@@ -161,14 +157,14 @@ std::optional<std::vector<std::uint8_t>> modePages(std::uint8_t page, std::uint8
 std::vector<std::uint8_t> capacity10(std::uint64_t sectorCount) {
     Bytes bytes(8);
     record::put(bytes, {0, 4}, std::min<std::uint64_t>(sectorCount - 1, 0xFFFFFFFF));
-    record::put(bytes, {4, 4}, UnitStorage::SectorSize);
+    record::put(bytes, {4, 4}, SectorSize);
     return bytes;
 }
 
 std::vector<std::uint8_t> capacity16(std::uint64_t sectorCount) {
     Bytes bytes(32);
     record::put(bytes, {0, 8}, sectorCount - 1);
-    record::put(bytes, {8, 4}, UnitStorage::SectorSize);
+    record::put(bytes, {8, 4}, SectorSize);
     return bytes;
 }
 
@@ -179,7 +175,7 @@ std::vector<std::uint8_t> formatCapacities(std::optional<std::uint64_t> sectorCo
     bytes[3] = 8;
     record::put(bytes, {4, 4}, std::min<std::uint64_t>(sectorCount.value_or(0), 0xFFFFFFFF));
     bytes[8] = sectorCount ? FormattedMedium : NoMedium;
-    record::put(bytes, {9, 3}, UnitStorage::SectorSize);
+    record::put(bytes, {9, 3}, SectorSize);
     return bytes;
 }
 

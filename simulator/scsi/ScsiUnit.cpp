@@ -203,7 +203,7 @@ DataPlan ScsiUnit::startTransfer(Transfer transfer, Range range) {
     m_nextSector = range.first;
     m_sectorsLeft = range.count;
     return {transfer == Transfer::ReadMedium ? DataDirection::ToHost : DataDirection::FromHost,
-            range.count * UnitStorage::SectorSize};
+            range.count * SectorSize};
 }
 
 ScsiUnit::Range ScsiUnit::rangeOf(Command command) {
@@ -262,8 +262,8 @@ std::size_t ScsiUnit::readReply(std::span<std::uint8_t> buffer) {
 
 std::size_t ScsiUnit::readMedium(std::span<std::uint8_t> buffer) {
     const std::uint64_t count =
-        std::min<std::uint64_t>(buffer.size() / UnitStorage::SectorSize, m_sectorsLeft);
-    const auto size = static_cast<std::size_t>(count * UnitStorage::SectorSize);
+        std::min<std::uint64_t>(buffer.size() / SectorSize, m_sectorsLeft);
+    const auto size = static_cast<std::size_t>(count * SectorSize);
     if (size == 0) {
         return 0;
     }
@@ -305,7 +305,7 @@ bool ScsiUnit::write(std::span<const std::uint8_t> data) {
 }
 
 bool ScsiUnit::takeSectors(std::span<const std::uint8_t> sectors) {
-    const std::uint64_t count = sectors.size() / UnitStorage::SectorSize;
+    const std::uint64_t count = sectors.size() / SectorSize;
     const bool takesData =
         m_transfer == Transfer::WriteMedium || m_transfer == Transfer::CompareMedium;
     if (!takesData || count > m_sectorsLeft) {
@@ -328,7 +328,7 @@ bool ScsiUnit::takeSectors(std::span<const std::uint8_t> sectors) {
 }
 
 bool ScsiUnit::compareSectors(std::span<const std::uint8_t> sectors) {
-    constexpr std::size_t PieceSize = ComparedAtOnce * UnitStorage::SectorSize;
+    constexpr std::size_t PieceSize = ComparedAtOnce * SectorSize;
     std::vector<std::uint8_t> onMedium(std::min(sectors.size(), PieceSize));
     while (!sectors.empty()) {
         const auto piece = sectors.first(std::min(sectors.size(), PieceSize));
@@ -341,7 +341,7 @@ bool ScsiUnit::compareSectors(std::span<const std::uint8_t> sectors) {
             fail(ScsiSense::MiscompareDuringVerify, m_nextSector);
             return false;
         }
-        const std::size_t count = piece.size() / UnitStorage::SectorSize;
+        const std::size_t count = piece.size() / SectorSize;
         m_nextSector += count;
         m_sectorsLeft -= count;
         sectors = sectors.subspan(piece.size());

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "simulator/drive/SectorStore.h"
+#include "simulator/drive/UnitStorage.h"
 #include "simulator/scsi/ScsiPages.h"
 #include "simulator/scsi/ScsiSense.h"
-#include "simulator/scsi/UnitStorage.h"
 
 #include <array>
 #include <cstddef>
@@ -138,7 +139,7 @@ private:
     std::uint64_t m_sectorsLeft = 0;
     WriteThrough m_writeThrough = WriteThrough::No;
     /// The beginning of a sector whose rest the next piece of data brings.
-    std::array<std::uint8_t, UnitStorage::SectorSize> m_partialSector{};
+    std::array<std::uint8_t, SectorSize> m_partialSector{};
     std::size_t m_partialSize = 0;
 };
 

@@ -171,7 +171,7 @@ TransferResult BulkOnlyTransport::takeData(std::span<const std::uint8_t> data) {
     } else {
         // A sector that was not written does not count, nor what had come of it before.
         const std::uint32_t written = m_wrapper.transferLength - m_residue;
-        m_residue += written % static_cast<std::uint32_t>(UnitStorage::SectorSize);
+        m_residue += written % static_cast<std::uint32_t>(SectorSize);
     }
     refuseRest();
     finishCommand(unit.end() ? CommandStatus::Passed : CommandStatus::Failed);

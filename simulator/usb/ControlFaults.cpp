@@ -1,6 +1,7 @@
 #include "simulator/usb/ControlFaults.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace zelto::simulator {
@@ -39,7 +40,7 @@ bool ControlFaults::takeVanished() {
 std::optional<ControlReply> ControlFaults::request(const SetupPacket& setup,
                                                    std::span<const std::uint8_t> sent) {
     if (m_countdown == 0 || !isCounted(setup) || --m_countdown > 0) {
-        return m_firmware.request(setup, sent);
+        return m_firmware(setup, sent);
     }
     return fail(setup, sent);
 }
@@ -50,15 +51,12 @@ std::optional<ControlReply> ControlFaults::fail(const SetupPacket& setup,
                           m_fault != ControlFault::Vanished;
     std::optional<ControlReply> reply;
     if (isObeyed) {
-        reply = m_firmware.request(setup, sent);
+        reply = m_firmware(setup, sent);
     }
     switch (m_fault) {
     case ControlFault::Refused:
-    case ControlFault::AnswerLost: {
-        ControlReply stall;
-        stall.stalled = true;
-        return stall;
-    }
+    case ControlFault::AnswerLost:
+        return ControlReply{.stalled = true};
     case ControlFault::Short:
         if (reply) {
             reply->data.resize(reply->data.size() / 2);

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "simulator/usb/VendorControl.h"
+#include "simulator/drive/DriveModel.h"
 
-#include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace zelto::simulator {
@@ -32,9 +33,12 @@ enum class ControlFault : std::uint8_t {
 [[nodiscard]] std::optional<ControlFault> controlFaultNamed(std::string_view name);
 
 /// Stands before the firmware and makes one coming vendor request fail.
-class ControlFaults final : public VendorControl {
+class ControlFaults {
 public:
-    explicit ControlFaults(VendorControl& firmware) : m_firmware(firmware) {}
+    using Firmware = std::function<std::optional<ControlReply>(const SetupPacket&,
+                                                               std::span<const std::uint8_t>)>;
+
+    explicit ControlFaults(Firmware firmware) : m_firmware(std::move(firmware)) {}
 
     /// The `count`-th vendor request from now on (1: the next one) fails; with `code`, the
     /// `count`-th towards the drive with that bRequest. One fault at a time: this replaces one that
@@ -45,14 +49,14 @@ public:
     [[nodiscard]] bool takeVanished();
 
     [[nodiscard]] std::optional<ControlReply> request(const SetupPacket& setup,
-                                                      std::span<const std::uint8_t> sent) override;
+                                                      std::span<const std::uint8_t> sent);
 
 private:
     [[nodiscard]] bool isCounted(const SetupPacket& setup) const;
     [[nodiscard]] std::optional<ControlReply> fail(const SetupPacket& setup,
                                                    std::span<const std::uint8_t> sent);
 
-    VendorControl& m_firmware;
+    Firmware m_firmware;
     std::uint32_t m_countdown = 0;
     ControlFault m_fault = ControlFault::Refused;
     std::optional<std::uint8_t> m_code;

@@ -1,6 +1,7 @@
 #include "simulator/usb/UsbDescriptors.h"
 
 #include "device/ZELTOctrl.h"
+#include "simulator/drive/DriveNames.h"
 
 #include <algorithm>
 
@@ -100,18 +101,6 @@ Bytes configurationDescriptor(std::uint8_t type, Speed speed) {
     return bytes;
 }
 
-/// ASCII only. A descriptor's length is one byte, so what does not fit is left out.
-Bytes stringDescriptor(std::string_view text) {
-    constexpr std::size_t MaximumUnits = 126;
-    text = text.substr(0, MaximumUnits);
-    Bytes bytes{static_cast<std::uint8_t>(2 + 2 * text.size()), Type::String};
-    for (const char character : text) {
-        bytes.push_back(static_cast<std::uint8_t>(character));
-        bytes.push_back(0);
-    }
-    return bytes;
-}
-
 std::optional<Bytes> stringDescriptor(std::uint8_t index, std::uint16_t language,
                                       std::string_view serial) {
     if (index == StringIndex::Languages) {
@@ -122,17 +111,28 @@ std::optional<Bytes> stringDescriptor(std::uint8_t index, std::uint16_t language
     }
     switch (index) {
     case StringIndex::Manufacturer:
-        return stringDescriptor("KESTRIN");
+        return usbStringDescriptor(DriveName::Vendor);
     case StringIndex::Product:
-        return stringDescriptor("ZELTO Secure");
+        return usbStringDescriptor(DriveName::Product);
     case StringIndex::SerialNumber:
-        return stringDescriptor(serial);
+        return usbStringDescriptor(serial);
     default:
         return std::nullopt;
     }
 }
 
 } // namespace
+
+std::vector<std::uint8_t> usbStringDescriptor(std::string_view text) {
+    constexpr std::size_t MaximumUnits = 126;
+    text = text.substr(0, MaximumUnits);
+    Bytes bytes{static_cast<std::uint8_t>(2 + 2 * text.size()), Type::String};
+    for (const char character : text) {
+        bytes.push_back(static_cast<std::uint8_t>(character));
+        bytes.push_back(0);
+    }
+    return bytes;
+}
 
 std::optional<std::vector<std::uint8_t>> usbDescriptor(std::uint16_t value, std::uint16_t language,
                                                        std::string_view serial) {

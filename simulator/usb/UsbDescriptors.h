@@ -24,4 +24,8 @@ inline constexpr std::uint8_t BulkOutAddress = 0x02;
 [[nodiscard]] std::optional<std::vector<std::uint8_t>>
 usbDescriptor(std::uint16_t value, std::uint16_t language, std::string_view serial);
 
+/// A text of ASCII characters as a string descriptor. Its length is one byte, so what does not fit
+/// is left out.
+[[nodiscard]] std::vector<std::uint8_t> usbStringDescriptor(std::string_view text);
+
 } // namespace zelto::simulator

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/usbip/FileDescriptor.h"
+#include "platform/linux/FileDescriptor.h"
 
 #include <chrono>
 #include <functional>
@@ -9,6 +9,8 @@
 #include <optional>
 
 namespace zelto::simulator {
+
+using linux_platform::FileDescriptor;
 
 /// Waits for sockets and for time to pass, and calls whoever asked. Everything runs on the one
 /// thread that runs the loop, which is why nothing behind it needs a lock.

@@ -1,9 +1,10 @@
 #include "simulator/usbip/UsbipServer.h"
 
+#include "simulator/drive/Words.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <charconv>
 #include <cstring>
 #include <netdb.h>
 #include <netinet/in.h>
@@ -35,16 +36,11 @@ struct FreeAddress {
 };
 using Address = std::unique_ptr<addrinfo, FreeAddress>;
 
-/// getaddrinfo would cut a number that is too large.
-bool isPort(std::string_view text) {
-    unsigned port = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), port);
-    return error == std::errc{} && end == text.data() + text.size() && port <= 0xFFFF;
-}
-
 Address resolve(const std::string& text, std::string& error) {
     const std::size_t colon = text.rfind(':');
-    if (colon == std::string::npos || colon == 0 || !isPort(text.substr(colon + 1))) {
+    // getaddrinfo would cut a port that is too large.
+    if (colon == std::string::npos || colon == 0 ||
+        !numberIn<std::uint16_t>(std::string_view(text).substr(colon + 1))) {
         error = "an address looks like 127.0.0.1:3240";
         return nullptr;
     }

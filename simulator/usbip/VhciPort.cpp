@@ -1,5 +1,7 @@
 #include "simulator/usbip/VhciPort.h"
 
+#include "platform/linux/FileDescriptor.h"
+
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -14,14 +16,8 @@ namespace {
 
 /// One write(2), as sysfs wants it; 0 or the errno.
 int writeAttribute(const std::filesystem::path& path, const std::string& text) {
-    const int file = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
-    if (file < 0) {
-        return errno;
-    }
-    const ssize_t written = ::write(file, text.data(), text.size());
-    const int error = written < 0 ? errno : 0;
-    ::close(file);
-    return error;
+    const linux_platform::FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
+    return file.isOpen() && ::write(file.get(), text.data(), text.size()) >= 0 ? 0 : errno;
 }
 
 } // namespace
@@ -66,16 +62,19 @@ std::optional<std::uint32_t> VhciPort::findFreePort() const {
     return std::nullopt;
 }
 
-bool VhciPort::isThere() const {
+bool VhciPort::isThere(std::string& error) const {
     std::error_code ignored;
-    return std::filesystem::exists(m_folder / "attach", ignored);
+    if (std::filesystem::exists(m_folder / "attach", ignored)) {
+        return true;
+    }
+    error = "no virtual host controller (is the module vhci_hcd loaded?)";
+    return false;
 }
 
 bool VhciPort::attach(int socket, const UsbipDevice& device, std::string& error) {
     constexpr int HighSpeed = 3;
     detach();
-    if (!isThere()) {
-        error = "no virtual host controller (is the module vhci_hcd loaded?)";
+    if (!isThere(error)) {
         return false;
     }
     const std::optional<std::uint32_t> port = findFreePort();

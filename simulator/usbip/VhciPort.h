@@ -27,8 +27,8 @@ public:
     VhciPort& operator=(const VhciPort&) = delete;
     ~VhciPort();
 
-    /// Whether there is a controller.
-    [[nodiscard]] bool isThere() const;
+    /// Whether there is a controller; what to do about it in `error` when there is none.
+    [[nodiscard]] bool isThere(std::string& error) const;
     /// Plugs `device` into a free port, the kernel talking to it through `socket`, which it keeps
     /// for itself: the caller closes its own descriptor. False, and why in `error`, when the
     /// controller is missing, has no free port or refuses.

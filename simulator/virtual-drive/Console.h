@@ -3,10 +3,7 @@
 #include "simulator/usbip/EventLoop.h"
 #include "simulator/virtual-drive/DriveHost.h"
 
-#include <filesystem>
 #include <functional>
-#include <list>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -17,11 +14,11 @@ namespace zelto::simulator {
 [[nodiscard]] std::string carryOutVerb(DriveHost& host, std::string_view line,
                                        const std::function<void()>& quit);
 
-/// Takes verbs from standard input and from a local socket, line by line.
+/// Takes verbs from a descriptor, line by line, and writes the answers to another; both are the
+/// caller's. When the input ends, nothing happens: the drive stays plugged.
 class Console {
 public:
-    /// Clients of the socket at a time, and bytes of a line; more is turned away.
-    static constexpr std::size_t MaximumClients = 8;
+    /// Bytes of a line; after a longer one nothing more is taken.
     static constexpr std::size_t MaximumLine = 256;
 
     /// Refers to `loop` and `host` for as long as it lives.
@@ -30,35 +27,19 @@ public:
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
 
-    /// Reads verbs from one descriptor and writes the answers to another, both of the caller. When
-    /// the input ends, nothing happens: the drive stays plugged.
     void use(int input, int output);
-    /// Listens on a local socket that only this user can open. A socket that nobody serves any more
-    /// is replaced. False, and why in `error`, when that is not possible.
-    [[nodiscard]] bool listen(const std::filesystem::path& path, std::string& error);
 
 private:
-    struct Client {
-        /// Open for a connection; not for descriptors of the caller.
-        FileDescriptor socket;
-        int input = -1;
-        int output = -1;
-        std::string line;
-    };
-
-    void accept();
-    void watch(Client& client);
-    /// False at the end of the input, or when the client is to be dropped.
-    [[nodiscard]] bool readFrom(Client& client);
-    [[nodiscard]] bool answerLines(Client& client);
-    void drop(Client& client);
+    /// False at the end of the input, or when no more is to be taken from it.
+    [[nodiscard]] bool read();
+    [[nodiscard]] bool answerLines();
 
     EventLoop& m_loop;
     DriveHost& m_host;
     std::function<void()> m_quit;
-    FileDescriptor m_listener;
-    std::filesystem::path m_path;
-    std::list<Client> m_clients;
+    int m_input = -1;
+    int m_output = -1;
+    std::string m_line;
 };
 
 } // namespace zelto::simulator

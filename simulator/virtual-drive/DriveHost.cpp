@@ -1,62 +1,20 @@
 #include "simulator/virtual-drive/DriveHost.h"
 
+#include "simulator/drive/DriveNames.h"
 #include "simulator/virtual-drive/RequestLog.h"
 
-#include <array>
-#include <string_view>
 #include <utility>
 
 namespace zelto::simulator {
-
-namespace {
-
-std::string_view nameOf(SecurityState state) {
-    switch (state) {
-    case SecurityState::StateNoPassword:
-        return "StateNoPassword";
-    case SecurityState::StateIdle:
-        return "StateIdle";
-    case SecurityState::StateLocked:
-        return "StateLocked";
-    case SecurityState::StatePasswordPending:
-        return "StatePasswordPending";
-    case SecurityState::StateUnlocking:
-        return "StateUnlocking";
-    case SecurityState::StateFullLock:
-        return "StateFullLock";
-    }
-    return "unknown";
-}
-
-} // namespace
-
-/// The log shows what the computer gets, so it stands outside the faults.
-class DriveHost::LoggedControl final : public VendorControl {
-public:
-    explicit LoggedControl(DriveHost& host) : m_host(host) {}
-
-    [[nodiscard]] std::optional<ControlReply> request(const SetupPacket& setup,
-                                                      std::span<const std::uint8_t> sent) override {
-        std::optional<ControlReply> reply = m_host.m_faults.request(setup, sent);
-        m_host.m_log("request " + describeRequest(setup, sent, reply));
-        if (m_host.m_faults.takeVanished()) {
-            m_host.m_presence = Presence::Vanishing;
-        }
-        return reply;
-    }
-
-private:
-    DriveHost& m_host;
-};
 
 DriveHost::DriveHost(EventLoop& loop, std::unique_ptr<VirtualDrive> drive, WallClock clock, Log log)
     : m_loop(loop),
       m_drive(std::move(drive)),
       m_clock(std::move(clock)),
       m_log(std::move(log)),
-      m_faults(*this),
-      m_logged(std::make_unique<LoggedControl>(*this)),
-      m_device(m_drive->serial(), *m_logged, *this),
+      m_faults([this](const auto& setup, auto sent) { return askFirmware(setup, sent); }),
+      m_units(*m_drive, [this] { return now(); }),
+      m_device(m_drive->serial(), *this, m_units),
       m_server(
           loop, *this, [this] { followFirmware(); },
           [this](const std::string& line) { m_log(line); }) {}
@@ -73,13 +31,10 @@ bool DriveHost::listen(const std::string& address, std::string& error) {
 
 bool DriveHost::attachToKernel(const std::filesystem::path& controller, std::string& error) {
     m_kernel = std::make_unique<VhciPort>(controller);
-    if (!m_kernel->isThere()) {
-        error = "no virtual host controller in " + controller.string() +
-                " (is the module vhci_hcd loaded?)";
+    if (!m_kernel->isThere(error)) {
         m_kernel.reset();
-        return false;
     }
-    return true;
+    return m_kernel != nullptr;
 }
 
 // Coming and going
@@ -189,7 +144,7 @@ std::string DriveHost::describe() {
     return text;
 }
 
-// What the session, the device and the units ask
+// What the session and the device ask
 
 std::optional<UsbipDevice> DriveHost::offered() const {
     if (m_presence != Presence::Plugged) {
@@ -200,35 +155,24 @@ std::optional<UsbipDevice> DriveHost::offered() const {
     return device;
 }
 
+/// The log shows what the computer gets, faults included.
 std::optional<ControlReply> DriveHost::request(const SetupPacket& setup,
                                                std::span<const std::uint8_t> sent) {
+    std::optional<ControlReply> reply = m_faults.request(setup, sent);
+    m_log("request " + describeRequest(setup, sent, reply));
+    if (m_faults.takeVanished()) {
+        m_presence = Presence::Vanishing;
+    }
+    return reply;
+}
+
+ControlReply DriveHost::askFirmware(const SetupPacket& setup, std::span<const std::uint8_t> sent) {
     ControlReply reply = m_drive->control(setup, sent, now());
     if (m_drive->takeReconnect()) {
         m_presence = Presence::Leaving;
         later(LingerTime, [this] { replug(); });
     }
     return reply;
-}
-
-std::optional<UnitMedium> DriveHost::medium(std::size_t unit) {
-    const std::uint64_t sectors = m_drive->sectorCount(unit, now());
-    if (sectors == 0) {
-        return std::nullopt;
-    }
-    return UnitMedium{sectors, m_drive->mediaGeneration(unit, now())};
-}
-
-bool DriveHost::read(std::size_t unit, std::uint64_t firstSector, std::span<std::uint8_t> sectors) {
-    return m_drive->read(unit, firstSector, sectors, now()) == StorageResult::Done;
-}
-
-bool DriveHost::write(std::size_t unit, std::uint64_t firstSector,
-                      std::span<const std::uint8_t> sectors) {
-    return m_drive->write(unit, firstSector, sectors, now()) == StorageResult::Done;
-}
-
-bool DriveHost::flush(std::size_t /*unit*/) {
-    return m_drive->flush() == StorageResult::Done;
 }
 
 } // namespace zelto::simulator

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/drive/VirtualDrive.h"
+#include "simulator/drive/DriveUnits.h"
 #include "simulator/usb/ControlFaults.h"
 #include "simulator/usb/StorageDevice.h"
 #include "simulator/usbip/UsbipServer.h"
@@ -20,7 +20,7 @@ namespace zelto::simulator {
 /// firmware wants of the bus (leaving and coming back) is done here.
 ///
 /// All on the event loop's thread; the drive, the units and the sessions know no other.
-class DriveHost final : private UsbipExport, private VendorControl, private UnitStorage {
+class DriveHost final : private UsbipExport, private VendorControl {
 public:
     using WallClock = std::function<Moment()>;
     using Log = std::function<void(const std::string& line)>;
@@ -92,14 +92,8 @@ private:
     // The firmware's side of the device
     [[nodiscard]] std::optional<ControlReply> request(const SetupPacket& setup,
                                                       std::span<const std::uint8_t> sent) override;
-
-    // The units' side
-    [[nodiscard]] std::optional<UnitMedium> medium(std::size_t unit) override;
-    [[nodiscard]] bool read(std::size_t unit, std::uint64_t firstSector,
-                            std::span<std::uint8_t> sectors) override;
-    [[nodiscard]] bool write(std::size_t unit, std::uint64_t firstSector,
-                             std::span<const std::uint8_t> sectors) override;
-    [[nodiscard]] bool flush(std::size_t unit) override;
+    [[nodiscard]] ControlReply askFirmware(const SetupPacket& setup,
+                                           std::span<const std::uint8_t> sent);
 
     [[nodiscard]] Moment now() const { return m_clock() + m_advanced; }
     void enterBus();
@@ -108,9 +102,6 @@ private:
     void followFirmware();
     /// Calls `action` after `delay`, unless somebody plugs or unplugs the drive before.
     void later(Milliseconds delay, std::function<void()> action);
-
-    /// Stands between the device and the firmware, and writes the log.
-    class LoggedControl;
 
     EventLoop& m_loop;
     std::unique_ptr<VirtualDrive> m_drive;
@@ -121,7 +112,7 @@ private:
     /// Counts pluggings and unpluggings: a delayed action of an earlier one is void.
     std::uint64_t m_episode = 0;
     ControlFaults m_faults;
-    std::unique_ptr<LoggedControl> m_logged;
+    DriveUnits m_units;
     StorageDevice m_device;
     UsbipServer m_server;
     std::unique_ptr<VhciPort> m_kernel;

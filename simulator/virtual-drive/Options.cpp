@@ -1,5 +1,7 @@
 #include "simulator/virtual-drive/Options.h"
 
+#include "simulator/drive/SectorStore.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -8,8 +10,6 @@
 namespace zelto::simulator {
 
 namespace {
-
-constexpr std::uint64_t SectorSize = 512;
 
 enum class Argument : std::uint8_t { None, One };
 
@@ -31,45 +31,38 @@ bool isSerial(std::string_view text) {
     return !text.empty() && text.size() <= Longest && std::ranges::all_of(text, isPlain);
 }
 
+/// Any text but none.
+template <auto Member>
+bool takeText(Options& options, std::string_view text) {
+    options.*Member = text;
+    return !text.empty();
+}
+
+template <bool Options::*Member>
+bool takeMark(Options& options, std::string_view /*text*/) {
+    return options.*Member = true;
+}
+
+bool takeSize(Options& options, std::string_view text) {
+    options.sectors = parseSize(text);
+    return options.sectors.has_value();
+}
+
+bool takeSerial(Options& options, std::string_view text) {
+    options.serial = text;
+    return isSerial(text);
+}
+
 constexpr std::array Rows{
-    Row{"--help", Argument::None,
-        [](Options& options, std::string_view) { return options.wantsHelp = true; }},
-    Row{"--version", Argument::None,
-        [](Options& options, std::string_view) { return options.wantsVersion = true; }},
-    Row{"--attach", Argument::None,
-        [](Options& options, std::string_view) { return options.attaches = true; }},
-    Row{"--unplugged", Argument::None,
-        [](Options& options, std::string_view) { return options.isUnplugged = true; }},
-    Row{"--drive", Argument::One,
-        [](Options& options, std::string_view text) {
-            options.drive = text;
-            return !text.empty();
-        }},
-    Row{"--size", Argument::One,
-        [](Options& options, std::string_view text) {
-            options.sectors = parseSize(text);
-            return options.sectors.has_value();
-        }},
-    Row{"--serial", Argument::One,
-        [](Options& options, std::string_view text) {
-            options.serial = text;
-            return isSerial(text);
-        }},
-    Row{"--listen", Argument::One,
-        [](Options& options, std::string_view text) {
-            options.address = text;
-            return !text.empty();
-        }},
-    Row{"--log", Argument::One,
-        [](Options& options, std::string_view text) {
-            options.log = text;
-            return !text.empty();
-        }},
-    Row{"--control", Argument::One,
-        [](Options& options, std::string_view text) {
-            options.control = text;
-            return !text.empty();
-        }},
+    Row{"--help", Argument::None, &takeMark<&Options::wantsHelp>},
+    Row{"--version", Argument::None, &takeMark<&Options::wantsVersion>},
+    Row{"--attach", Argument::None, &takeMark<&Options::attaches>},
+    Row{"--unplugged", Argument::None, &takeMark<&Options::isUnplugged>},
+    Row{"--drive", Argument::One, &takeText<&Options::drive>},
+    Row{"--size", Argument::One, &takeSize},
+    Row{"--serial", Argument::One, &takeSerial},
+    Row{"--listen", Argument::One, &takeText<&Options::address>},
+    Row{"--log", Argument::One, &takeText<&Options::log>},
 };
 
 } // namespace
@@ -138,10 +131,9 @@ A ZELTO DISK made of software, behind a real USB interface.
                       nothing listens then, unless --listen is given as well
   --unplugged         start with the drive pulled out
   --log FILE          append every vendor request and what happens to the drive
-  --control PATH      take verbs from a local socket, too
   --help, --version   print this, or the version, and end
 
-Verbs, one a line, on standard input or the socket; each is answered by a line:
+Verbs, one a line, on standard input; each is answered by a line:
   plug, unplug, replug
   advance SECONDS     let time pass
   lose-clock          the drive was without power for too long

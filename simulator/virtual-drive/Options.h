@@ -28,7 +28,6 @@ struct Options {
     bool attaches = false;
     bool isUnplugged = false;
     std::optional<std::filesystem::path> log;
-    std::optional<std::filesystem::path> control;
 };
 
 /// The arguments behind the program's name. Nothing, and why in `error`, when they make no sense.

@@ -5,6 +5,7 @@
 #include "device/PasswordRecords.h"
 #include "device/TimeStatus.h"
 #include "device/VendorRequest.h"
+#include "simulator/drive/DriveNames.h"
 
 #include <algorithm>
 #include <array>
@@ -28,10 +29,6 @@ std::string format(const char* pattern, Values... values) {
 /// A request's own words for what it carries, from the set-up packet and the data of either
 /// direction.
 using Describe = std::string (*)(const SetupPacket&, Bytes);
-
-std::string nothing(const SetupPacket& /*setup*/, Bytes /*data*/) {
-    return {};
-}
 
 std::string valueOnly(const SetupPacket& setup, Bytes /*data*/) {
     return format(" value=%u", unsigned{setup.wValue});
@@ -130,31 +127,28 @@ std::string reconnect(const SetupPacket& setup, Bytes data) {
     return valueOnly(setup, data) + format(" index=%u", unsigned{setup.wIndex});
 }
 
-struct Known {
-    std::uint8_t type = 0;
-    std::uint8_t code = 0;
-    std::string_view name;
-    Describe describe = &nothing;
+/// One for each request that has a name.
+struct Teller {
+    std::uint8_t bRequest = 0;
+    Describe describe = nullptr;
 };
 
-constexpr std::array KnownRequests{
-    Known{VendorRequest::ToDevice, VendorRequest::SetEncryptionInfo, "SetEncryptionInfo",
-          &encryptionRecord},
-    Known{VendorRequest::ToDevice, VendorRequest::SetAuthInfo, "SetAuthInfo", &passwordRecord},
-    Known{VendorRequest::ToDevice, VendorRequest::Authenticate, "Authenticate", &authenticate},
-    Known{VendorRequest::ToDevice, VendorRequest::Logout, "Logout", &valueOnly},
-    Known{VendorRequest::ToHost, VendorRequest::ReadHintData, "ReadHintData", &hintData},
-    Known{VendorRequest::ToDevice, VendorRequest::WriteHintData, "WriteHintData", &hintData},
-    Known{VendorRequest::ToHost, VendorRequest::GetTimeStatus, "GetTimeStatus", &timeStatus},
-    Known{VendorRequest::ToDevice, VendorRequest::SetCurrentTime, "SetCurrentTime", &currentTime},
-    Known{VendorRequest::ToDevice, VendorRequest::SetErasePeriod, "SetErasePeriod", &erasePeriod},
-    Known{VendorRequest::ToDevice, VendorRequest::SetIdleLockPeriod, "SetIdleLockPeriod",
-          &idleLockPeriod},
-    Known{VendorRequest::ToHost, VendorRequest::GetDeviceStatus, "GetDeviceStatus", &deviceStatus},
-    Known{VendorRequest::ToDevice, VendorRequest::Reconnect, "Reconnect", &reconnect},
-    Known{VendorRequest::ToHost, VendorRequest::GetAreaInfos, "GetAreaInfos", &areaTable},
-    Known{VendorRequest::ToDevice, VendorRequest::SetAreaInfos, "SetAreaInfos", &areaEntries},
-    Known{VendorRequest::ToDevice, VendorRequest::ResetAreaInfos, "ResetAreaInfos", &valueOnly},
+constexpr std::array Tellers{
+    Teller{VendorRequest::SetEncryptionInfo, &encryptionRecord},
+    Teller{VendorRequest::SetAuthInfo, &passwordRecord},
+    Teller{VendorRequest::Authenticate, &authenticate},
+    Teller{VendorRequest::Logout, &valueOnly},
+    Teller{VendorRequest::ReadHintData, &hintData},
+    Teller{VendorRequest::WriteHintData, &hintData},
+    Teller{VendorRequest::GetTimeStatus, &timeStatus},
+    Teller{VendorRequest::SetCurrentTime, &currentTime},
+    Teller{VendorRequest::SetErasePeriod, &erasePeriod},
+    Teller{VendorRequest::SetIdleLockPeriod, &idleLockPeriod},
+    Teller{VendorRequest::GetDeviceStatus, &deviceStatus},
+    Teller{VendorRequest::Reconnect, &reconnect},
+    Teller{VendorRequest::GetAreaInfos, &areaTable},
+    Teller{VendorRequest::SetAreaInfos, &areaEntries},
+    Teller{VendorRequest::ResetAreaInfos, &valueOnly},
 };
 
 std::string_view ending(const std::optional<ControlReply>& reply) {
@@ -170,17 +164,16 @@ std::string describeRequest(const SetupPacket& setup, std::span<const std::uint8
                             const std::optional<ControlReply>& reply) {
     constexpr std::uint8_t ToHost = 0x80;
     const bool isToHost = (setup.bmRequestType & ToHost) != 0;
-    const auto known = std::ranges::find_if(KnownRequests, [&](const Known& entry) {
-        return entry.type == setup.bmRequestType && entry.code == setup.bRequest;
-    });
+    const std::string_view command = commandOf(setup.bmRequestType, setup.bRequest);
     std::string text = format("%s %02X ", isToHost ? "in" : "out", unsigned{setup.bRequest});
-    if (known == KnownRequests.end()) {
+    if (command.empty()) {
         text += format("unknown type=%02X value=%u index=%u", unsigned{setup.bmRequestType},
                        unsigned{setup.wValue}, unsigned{setup.wIndex});
     } else {
         const Bytes received = reply ? Bytes(reply->data) : Bytes();
-        text += known->name;
-        text += known->describe(setup, isToHost ? received : sent);
+        text += command.substr(command.rfind('_') + 1);
+        const auto* const teller = std::ranges::find(Tellers, setup.bRequest, &Teller::bRequest);
+        text += teller->describe(setup, isToHost ? received : sent);
     }
     return text + format(" length=%u: ", unsigned{setup.wLength}) + std::string(ending(reply));
 }

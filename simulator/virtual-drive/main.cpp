@@ -94,9 +94,6 @@ int serve(const Options& options, EventLoop& loop, DriveHost& host) {
     if (options.attaches && !host.attachToKernel(VhciPort::Folder, error)) {
         return complain(error);
     }
-    if (options.control && !console.listen(*options.control, error)) {
-        return complain(options.control->string() + ": " + error);
-    }
     const FileDescriptor signals = takeEndingSignals();
     loop.watch(signals.get(), EventLoop::Interest::Read, [&loop] { loop.stop(); });
     if (!options.isUnplugged && !host.plug()) {

@@ -1,8 +1,10 @@
-#include "simulator/computer/OtherUsbDevices.h"
 #include "simulator/computer/VirtualComputer.h"
+#include "tests/computer/OtherUsbDevices.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <map>
 
 namespace zelto {
 
@@ -27,21 +29,25 @@ constexpr std::uint64_t DriveSectors = 262144;
 class VirtualDisksTest : public testing::Test {
 protected:
     bool erase(const std::string& disk) { return m_tool.eraseDisk(disk, "ZELTO TOOL"); }
-    /// The names of all entries of the registry, depth first, as a walk sees them.
-    static void walk(const RegistryEntry& entry, std::vector<std::string>& names) {
+    /// The names of all entries of the registry, depth first, as a walk sees them; the properties
+    /// of each go to `found`.
+    static void walk(const RegistryEntry& entry, std::vector<std::string>& names,
+                     std::map<std::string, RegistryProperties>& found) {
         names.push_back(entry.IORegistryEntryGetNameInPlane("IOService").value());
+        found[names.back()] = entry.IORegistryEntryCreateCFProperties().value();
         const auto children = entry.IORegistryEntryGetChildIterator("IOService");
         while (const auto child = children->IOIteratorNext()) {
-            walk(*child, names);
+            walk(*child, names, found);
         }
     }
     std::vector<std::string> walk() {
         std::vector<std::string> names;
-        walk(*m_computer.registry.IORegistryGetRootEntry(), names);
+        walk(*m_computer.registry.IORegistryGetRootEntry(), names, m_properties);
         return names;
     }
 
     const MountedFileSystem ToolMounted{"/media/user/ZELTO TOOL", "/dev/disk2s1"};
+    std::map<std::string, RegistryProperties> m_properties;
     VirtualComputer m_computer;
     VirtualDiskTool& m_tool = m_computer.diskTool;
     std::shared_ptr<DriveOnBus> m_drive = makeDrive("ZD0000000000A1", DriveSectors);
@@ -51,7 +57,7 @@ TEST_F(VirtualDisksTest, ShowANewDriveAsOneBlankDiskThatNothingMounts) {
     m_computer.plug(m_drive);
     ASSERT_EQ(m_computer.disks.all().size(), 1U);
     EXPECT_EQ(m_computer.disks.all()[0]->bsdName, "disk2");
-    EXPECT_EQ(m_computer.disks.all()[0]->device->sectorCount(), DriveSectors);
+    EXPECT_EQ(m_computer.disks.all()[0]->medium->sectorCount(), DriveSectors);
     EXPECT_EQ(m_computer.mounts.getmntinfo().size(), 1U);
 }
 
@@ -69,19 +75,17 @@ TEST_F(VirtualDisksTest, AppearInTheRegistryBelowTheirDeviceAndAClosingEntryFoll
 
 TEST_F(VirtualDisksTest, CarryTheirIdentityOnTheDevicesOwnEntry) {
     m_computer.plug(m_drive);
-    const auto root = m_computer.registry.tree();
-    const RegistryNode* const device = VirtualRegistry::findNode(*root, "ZELTO DISK");
-    ASSERT_NE(device, nullptr);
+    ASSERT_THAT(walk(), Contains("ZELTO DISK"));
     const auto has = [&](const std::string& key, const RegistryValue& value) {
-        return std::ranges::find(device->properties, std::pair(key, value)) !=
-               device->properties.end();
+        const auto& properties = m_properties["ZELTO DISK"];
+        return std::ranges::find(properties, std::pair(key, value)) != properties.end();
     };
     EXPECT_TRUE(has("idVendor", std::int64_t{0x07F7}));
     EXPECT_TRUE(has("idProduct", std::int64_t{0x0135}));
     EXPECT_TRUE(has("USB Serial Number", std::string("ZD0000000000A1")));
 }
 
-TEST_F(VirtualDisksTest, EraseDiskLeavesAMountedFatVolumeWithTheLabel) {
+TEST_F(VirtualDisksTest, EraseDiskLeavesAMountedVolumeWithTheLabel) {
     m_computer.plug(m_drive);
     EXPECT_TRUE(erase("disk2"));
     EXPECT_THAT(m_computer.mounts.getmntinfo(), Contains(ToolMounted));
@@ -103,28 +107,6 @@ TEST_F(VirtualDisksTest, AreMountedByTheDesktopWhenTheDriveIsPluggedInAgain) {
     EXPECT_THAT(m_computer.mounts.getmntinfo(), Not(Contains(ToolMounted)));
     m_computer.plug(m_drive);
     EXPECT_THAT(m_computer.mounts.getmntinfo(), Contains(ToolMounted));
-}
-
-TEST_F(VirtualDisksTest, AreMountedLateByASlowDesktop) {
-    m_computer.plug(m_drive);
-    ASSERT_TRUE(erase("disk2"));
-    m_computer.mounts.setDesktopHabit(DesktopHabit::MountsLate);
-    m_computer.mounts.setDesktopDelay(seconds(4));
-    m_computer.replug(m_drive);
-    m_computer.advance(seconds(3));
-    EXPECT_FALSE(m_computer.mounts.isMounted("disk2s1"));
-    m_computer.advance(seconds(1));
-    EXPECT_TRUE(m_computer.mounts.isMounted("disk2s1"));
-}
-
-TEST_F(VirtualDisksTest, AreMountedAgainBehindTheProgramsBack) {
-    m_computer.plug(m_drive);
-    ASSERT_TRUE(erase("disk2"));
-    m_computer.mounts.setDesktopHabit(DesktopHabit::MountsAgain);
-    EXPECT_TRUE(m_tool.umount("disk2s1"));
-    EXPECT_FALSE(m_computer.mounts.isMounted("disk2s1"));
-    m_computer.advance(seconds(1));
-    EXPECT_TRUE(m_computer.mounts.isMounted("disk2s1"));
 }
 
 TEST_F(VirtualDisksTest, StayUnmountedWithADesktopThatNeverMounts) {
@@ -173,7 +155,7 @@ TEST_F(VirtualDisksTest, AVerbFailsWhenItIsToldTo) {
     m_computer.plug(m_drive);
     m_tool.setBehaviour(DiskVerb::EraseDisk, ToolBehaviour::Fails);
     EXPECT_FALSE(erase("disk2"));
-    EXPECT_TRUE(m_computer.disks.all()[0]->partitions.empty());
+    EXPECT_FALSE(m_computer.disks.all()[0]->hasVolume);
     m_tool.setBehaviour(DiskVerb::EraseDisk, ToolBehaviour::Works);
     EXPECT_TRUE(erase("disk2"));
 }
@@ -181,30 +163,10 @@ TEST_F(VirtualDisksTest, AVerbFailsWhenItIsToldTo) {
 TEST_F(VirtualDisksTest, GiveAFreedNameToTheNextDisk) {
     m_computer.plug(m_drive);
     m_computer.plug(std::make_shared<ForeignDisk>(DriveSectors));
-    EXPECT_EQ(m_computer.mounts.mountPoint("disk3"), "/media/user/HOLIDAYS");
+    EXPECT_EQ(m_computer.mounts.mountPoint("disk3s1"), "/media/user/HOLIDAYS");
     m_computer.unplug(m_drive);
     m_computer.plug(makeDrive("ZD0000000000B2", DriveSectors));
     EXPECT_EQ(m_computer.disks.all().back()->bsdName, "disk2");
-}
-
-TEST_F(VirtualDisksTest, AMissingRegistryHasNoRoot) {
-    m_computer.registry.setMissing(true);
-    EXPECT_EQ(m_computer.registry.IORegistryGetRootEntry(), nullptr);
-}
-
-TEST_F(VirtualDisksTest, ARegistryCanBeBentToFailOrNeverToEnd) {
-    m_computer.registry.setEdit([](RegistryNode& root) {
-        root.nameFails = root.classFails = root.propertiesFail = true;
-        root.endless = RegistryNode::Endless::Children;
-    });
-    const auto root = m_computer.registry.IORegistryGetRootEntry();
-    EXPECT_FALSE(root->IORegistryEntryGetNameInPlane("IOService"));
-    EXPECT_FALSE(root->IOObjectGetClass());
-    EXPECT_FALSE(root->IORegistryEntryCreateCFProperties());
-    const auto children = root->IORegistryEntryGetChildIterator("IOService");
-    for (int i = 0; i < 1000; ++i) {
-        ASSERT_NE(children->IOIteratorNext(), nullptr);
-    }
 }
 
 } // namespace

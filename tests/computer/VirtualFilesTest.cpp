@@ -59,13 +59,13 @@ TEST_F(VirtualFilesTest, BringBackWhatAFailedCopyWasToReplace) {
     const std::filesystem::path source = "/home/user/large";
     const std::filesystem::path target = "/home/user/small";
     ASSERT_TRUE(m_files.ownDisk().writeFile(VirtualFiles::onOwnDisk(source),
-                                            FileStore::Bytes(200000, 1), {}));
+                                            FileTree::Bytes(200000, 1), {}));
     ASSERT_TRUE(m_files.ownDisk().writeFile(VirtualFiles::onOwnDisk(target),
-                                            FileStore::Bytes(1000, 2), {}));
+                                            FileTree::Bytes(1000, 2), {}));
     m_files.ownDisk().setCapacity(600000);
     EXPECT_FALSE(m_files.copyItemAtPath(source, target));
-    EXPECT_EQ(m_files.ownDisk().readFile(VirtualFiles::onOwnDisk(target)),
-              FileStore::Bytes(1000, 2));
+    EXPECT_EQ(m_files.ownDisk().find(VirtualFiles::onOwnDisk(target))->bytes,
+              FileTree::Bytes(1000, 2));
 }
 
 TEST_F(VirtualFilesTest, CopyNothingIntoAFolderThatIsReadOnly) {
@@ -82,7 +82,7 @@ TEST_F(VirtualFilesTest, CopyNeitherWhatIsMissingNorAFolderIntoItself) {
 }
 
 TEST_F(VirtualFilesTest, CopyOverAFileThatStandsWhereTheFolderGoes) {
-    ASSERT_TRUE(m_files.ownDisk().writeFile("home/user/Copy.app", FileStore::Bytes(3), {}));
+    ASSERT_TRUE(m_files.ownDisk().writeFile("home/user/Copy.app", FileTree::Bytes(3), {}));
     EXPECT_TRUE(m_files.copyItemAtPath(Bundle, "/home/user/Copy.app"));
     EXPECT_TRUE(m_files.areEqual(Bundle, "/home/user/Copy.app"));
 }

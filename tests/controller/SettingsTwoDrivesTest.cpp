@@ -20,16 +20,16 @@ protected:
     }
 
     void noteRun(const std::string& bsdName) {
-        const auto place = computer.disks.find(bsdName);
-        m_touchedDevices.insert(place ? place->disk->attachment->device : nullptr);
+        const auto* const disk = computer.disks.find(bsdName);
+        m_touchedDevices.insert(disk != nullptr ? disk->attachment->device : nullptr);
     }
 
     /// The other drive's mounted file systems.
     [[nodiscard]] std::set<std::string> mountedOfOther() {
         std::set<std::string> points;
         for (const auto& line : computer.mounts.getmntinfo()) {
-            const auto place = computer.disks.find(line.f_mntfromname.substr(5));
-            if (place && place->disk->attachment->device == m_other) {
+            const auto* const disk = computer.disks.find(line.f_mntfromname.substr(5));
+            if (disk != nullptr && disk->attachment->device == m_other) {
                 points.insert(line.f_mntonname);
             }
         }

@@ -34,11 +34,15 @@ struct Desk {
         const Bytes status = drive->control(getStatus().setup, {}, now).data;
         return {status.at(13), status.at(14), status.at(15)};
     }
+    void replug() {
+        drive->unplug(now);
+        drive->plug(now);
+    }
     bool setUp() {
         const bool accepted = send(setSecureAreas()) && send(setAutomaticKey()) &&
                               send(setFirst(First)) && send(reconnect());
         if (accepted && drive->takeReconnect()) {
-            drive->replug(now);
+            replug();
         }
         return accepted;
     }
@@ -158,7 +162,7 @@ TEST_F(VirtualDriveTest, ComesUpBlankAfterAReset) {
     EXPECT_EQ(desk.write(0, 7, data), StorageResult::Done);
     ASSERT_TRUE(desk.send(resetAreas()));
     EXPECT_EQ(desk.drive->sectorCount(0, desk.now), 0U);
-    desk.drive->replug(desk.now);
+    desk.replug();
     EXPECT_EQ(desk.read(0, 7), Bytes(SectorSize));
 }
 

@@ -164,7 +164,8 @@ protected:
 
     Faults() { firmware.answer->data = Bytes(8); }
     FakeControl firmware;
-    ControlFaults faults{firmware};
+    ControlFaults faults{
+        [this](const auto& setup, auto sent) { return firmware.request(setup, sent); }};
 };
 
 TEST_F(Faults, HitTheRequestCountedAndNoOther) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/scsi/UnitStorage.h"
+#include "simulator/drive/UnitStorage.h"
 #include "simulator/usb/VendorControl.h"
 
 #include <algorithm>

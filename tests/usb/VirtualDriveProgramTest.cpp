@@ -6,7 +6,6 @@
 #include "tests/usb/UsbipTest.h"
 
 #include <sys/socket.h>
-#include <sys/un.h>
 
 namespace zelto::test {
 namespace {
@@ -36,15 +35,13 @@ TEST(VirtualDriveOptions, WithAttachingListenOnlyWhenAsked) {
 }
 
 TEST(VirtualDriveOptions, AllTogether) {
-    const auto options =
-        parse({"--drive", "d", "--size", "64M", "--serial", "ZD42", "--listen", "0.0.0.0:1",
-               "--attach", "--unplugged", "--log", "l", "--control", "c"});
+    const auto options = parse({"--drive", "d", "--size", "64M", "--serial", "ZD42", "--listen",
+                                "0.0.0.0:1", "--attach", "--unplugged", "--log", "l"});
     ASSERT_TRUE(options);
     EXPECT_EQ(options->drive, "d");
     EXPECT_EQ(options->sectors, 131072U);
     EXPECT_EQ(options->serial, "ZD42");
     EXPECT_EQ(options->log, "l");
-    EXPECT_EQ(options->control, "c");
     EXPECT_TRUE(options->attaches && options->isUnplugged);
 }
 
@@ -480,80 +477,31 @@ TEST_F(HostAtKernel, WithoutAControllerSaysSo) {
 
 class ConsoleTest : public HostAtKernel {
 protected:
-    FileDescriptor connect() {
-        FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        path().native().copy(address.sun_path, sizeof address.sun_path - 1);
-        EXPECT_EQ(
-            ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address),
-            0);
-        turn();
-        return socket;
-    }
-    std::filesystem::path path() const { return folder / "control"; }
-    std::string say(const FileDescriptor& socket, std::string_view text) {
-        const auto answer = exchange(socket, {text.begin(), text.end()});
+    ConsoleTest() { console.use(ends->first.get(), ends->first.get()); }
+    std::string say(std::string_view text) {
+        const auto answer = exchange(ends->second, {text.begin(), text.end()});
         return answer ? std::string(answer->begin(), answer->end()) : "gone";
     }
+    std::optional<std::pair<FileDescriptor, FileDescriptor>> ends = makeSocketPair();
     Console console{loop, host, [this] { hasQuit = true; }};
 };
 
-TEST_F(ConsoleTest, AnswersEachLineOnItsSocket) {
-    ASSERT_TRUE(console.listen(path(), error)) << error;
-    const FileDescriptor client = connect();
-    EXPECT_EQ(say(client, "plug\nplug\n"), "ok\nerror the drive is plugged in\n");
-    EXPECT_EQ(say(client, "unp"), "");
-    EXPECT_EQ(say(client, "lug\n"), "ok\n");
+TEST_F(ConsoleTest, AnswersEachLine) {
+    EXPECT_EQ(say("plug\nplug\n"), "ok\nerror the drive is plugged in\n");
+    EXPECT_EQ(say("unp"), "");
+    EXPECT_EQ(say("lug\n"), "ok\n");
 }
 
-TEST_F(ConsoleTest, DropsWhoeverSendsALineWithoutAnEnd) {
-    ASSERT_TRUE(console.listen(path(), error));
-    const FileDescriptor client = connect();
-    EXPECT_EQ(say(client, std::string(Console::MaximumLine, 'x')), "");
-    EXPECT_EQ(say(client, "x"), "gone");
+TEST_F(ConsoleTest, TakesNothingMoreAfterALineWithoutAnEnd) {
+    EXPECT_EQ(say(std::string(Console::MaximumLine, 'x')), "");
+    EXPECT_EQ(say("x"), "");
+    EXPECT_EQ(say("\nplug\n"), "");
+    EXPECT_FALSE(host.isPlugged());
 }
 
-TEST_F(ConsoleTest, TurnsAwayMoreClientsThanItServes) {
-    ASSERT_TRUE(console.listen(path(), error));
-    std::vector<FileDescriptor> clients;
-    for (std::size_t count = 0; count < Console::MaximumClients; ++count) {
-        clients.push_back(connect());
-    }
-    const FileDescriptor surplus = connect();
-    EXPECT_EQ(read(surplus), std::nullopt);
-    EXPECT_EQ(say(clients.front(), "plug\n"), "ok\n");
-}
-
-TEST_F(ConsoleTest, ReplacesASocketThatNobodyServes) {
-    {
-        Console dead(loop, host, [] {});
-        ASSERT_TRUE(dead.listen(path(), error));
-        std::filesystem::create_hard_link(path(), folder / "copy");
-    }
-    std::filesystem::rename(folder / "copy", path());
-    EXPECT_TRUE(console.listen(path(), error)) << error;
-    EXPECT_EQ(say(connect(), "plug\n"), "ok\n");
-}
-
-TEST_F(ConsoleTest, LeavesASocketAloneThatIsServed) {
-    ASSERT_TRUE(console.listen(path(), error));
-    Console other(loop, host, [] {});
-    EXPECT_FALSE(other.listen(path(), error));
-    EXPECT_EQ(error, "another program serves this socket");
-}
-
-TEST_F(ConsoleTest, LeavesAPlainFileAlone) {
-    write("control", "precious");
-    EXPECT_FALSE(console.listen(path(), error));
-    EXPECT_EQ(contents("control"), "precious");
-}
-
-TEST_F(ConsoleTest, TakesVerbsFromADescriptorUntilItEnds) {
-    auto input = makeSocketPair();
-    console.use(input->first.get(), input->first.get());
-    EXPECT_EQ(say(input->second, "plug\n"), "ok\n");
-    ::shutdown(input->second.get(), SHUT_WR);
+TEST_F(ConsoleTest, TakesVerbsUntilTheInputEnds) {
+    EXPECT_EQ(say("plug\n"), "ok\n");
+    ::shutdown(ends->second.get(), SHUT_WR);
     turn();
     EXPECT_TRUE(host.isPlugged());
     EXPECT_FALSE(hasQuit);

@@ -9,7 +9,7 @@ namespace zelto::simulator {
 
 /// A medium as a storage unit's host sees it.
 struct UnitMedium {
-    /// Sectors of 512 bytes, at least 1.
+    /// At least 1.
     std::uint64_t sectorCount = 0;
     /// Another number whenever the medium is not the one that was there before.
     std::uint64_t identity = 0;
@@ -21,8 +21,6 @@ struct UnitMedium {
 /// on them. Units are counted from 0, sectors from the start of the medium.
 class UnitStorage {
 public:
-    static constexpr std::size_t SectorSize = 512;
-
     UnitStorage() = default;
     UnitStorage(const UnitStorage&) = delete;
     UnitStorage& operator=(const UnitStorage&) = delete;
