@@ -22,9 +22,6 @@ struct UsbDescription {
     std::uint8_t iSerialNumber = 3;
     std::string product;
     std::string serial;
-    /// What the device answers when asked for its serial number string; by default the descriptor
-    /// of `serial`. A drive that lies about its length sets its own.
-    std::optional<std::vector<std::uint8_t>> serialDescriptor;
     /// How an attempt to open the device ends.
     IOReturn openResult = kIOReturnSuccess;
 };

@@ -143,7 +143,7 @@ void VirtualUsbBus::callOut(IOObject id) {
 }
 
 IOObject VirtualUsbBus::IONotificationPortCreate() {
-    m_port = m_offersPort && m_hasService ? ++m_lastObject : 0;
+    m_port = m_hasService ? ++m_lastObject : 0;
     return m_port;
 }
 
@@ -212,8 +212,7 @@ IOReturn VirtualUsbBus::standardRequest(const Attachment& attachment, IOUSBDevRe
     if (!asksForSerial) {
         return kIOUSBPipeStalled;
     }
-    const std::vector<std::uint8_t> descriptor =
-        description.serialDescriptor.value_or(usbStringDescriptor(description.serial));
+    const std::vector<std::uint8_t> descriptor = usbStringDescriptor(description.serial);
     const std::size_t length = std::min<std::size_t>(descriptor.size(), request.wLength);
     std::copy_n(descriptor.begin(), length, request.pData);
     request.wLenDone = static_cast<std::uint32_t>(length);
@@ -226,9 +225,6 @@ IOReturn VirtualUsbBus::request(Attachment& attachment, IOUSBDevRequest& request
     }
     if (request.bmRequestType == StandardToHost) {
         return attachment.isAttached ? standardRequest(attachment, request) : kIOReturnNoDevice;
-    }
-    if (m_beforeRequest) {
-        m_beforeRequest(request);
     }
     if (!attachment.isAttached) {
         return kIOReturnNoDevice;

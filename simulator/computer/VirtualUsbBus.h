@@ -50,14 +50,8 @@ public:
     void setReconnectDelay(std::optional<std::chrono::seconds> delay) { m_reconnectDelay = delay; }
     /// A computer without any USB.
     void setHasService(bool hasService) { m_hasService = hasService; }
-    /// A system that lists devices but reports no events.
-    void setOffersPort(bool offersPort) { m_offersPort = offersPort; }
     /// From now on every handle that the program gets has this layer, around those of before.
     void addHandleLayer(HandleLayer layer) { m_handleLayers.push_back(std::move(layer)); }
-    /// Called before each vendor request reaches its device: the moment to pull the plug in.
-    void setBeforeRequest(std::function<void(const IOUSBDevRequest&)> hook) {
-        m_beforeRequest = std::move(hook);
-    }
     /// Called whenever devices or their media may have changed.
     void setListener(std::function<void()> changed) { m_changed = std::move(changed); }
     /// The process has ended; its notifications go with it.
@@ -108,9 +102,7 @@ private:
     IOObject m_lastObject = 0;
     std::optional<std::chrono::seconds> m_reconnectDelay = std::chrono::seconds(2);
     bool m_hasService = true;
-    bool m_offersPort = true;
     std::vector<HandleLayer> m_handleLayers;
-    std::function<void(const IOUSBDevRequest&)> m_beforeRequest;
     std::function<void()> m_changed;
 };
 

@@ -6,22 +6,22 @@
 
 namespace zelto::simulator {
 
-std::optional<ControlFault> controlFaultNamed(std::string_view name) {
-    using Entry = std::pair<std::string_view, ControlFault>;
+std::optional<FaultKind> faultNamed(std::string_view name) {
+    using Entry = std::pair<std::string_view, FaultKind>;
     static constexpr std::array Names{
-        Entry{"stall", ControlFault::Refused},
-        Entry{"lost", ControlFault::AnswerLost},
-        Entry{"silent", ControlFault::Silent},
-        Entry{"silent-after", ControlFault::SilentAfterwards},
-        Entry{"short", ControlFault::Short},
-        Entry{"vanish", ControlFault::Vanished},
-        Entry{"vanish-after", ControlFault::VanishedAfterwards},
+        Entry{"stall", FaultKind::FailsBefore},
+        Entry{"lost", FaultKind::FailsAfter},
+        Entry{"silent", FaultKind::SilentBefore},
+        Entry{"silent-after", FaultKind::SilentAfter},
+        Entry{"short", FaultKind::AnswersShort},
+        Entry{"vanish", FaultKind::VanishesBefore},
+        Entry{"vanish-after", FaultKind::VanishesAfter},
     };
     const auto entry = std::ranges::find(Names, name, &Entry::first);
     return entry == Names.end() ? std::nullopt : std::optional(entry->second);
 }
 
-void ControlFaults::failRequest(std::uint32_t count, ControlFault fault,
+void ControlFaults::failRequest(std::uint32_t count, FaultKind fault,
                                 std::optional<std::uint8_t> code) {
     m_countdown = count;
     m_fault = fault;
@@ -47,27 +47,27 @@ std::optional<ControlReply> ControlFaults::request(const SetupPacket& setup,
 
 std::optional<ControlReply> ControlFaults::fail(const SetupPacket& setup,
                                                 std::span<const std::uint8_t> sent) {
-    const bool isObeyed = m_fault != ControlFault::Refused && m_fault != ControlFault::Silent &&
-                          m_fault != ControlFault::Vanished;
+    const bool isObeyed = m_fault != FaultKind::FailsBefore && m_fault != FaultKind::SilentBefore &&
+                          m_fault != FaultKind::VanishesBefore;
     std::optional<ControlReply> reply;
     if (isObeyed) {
         reply = m_firmware(setup, sent);
     }
     switch (m_fault) {
-    case ControlFault::Refused:
-    case ControlFault::AnswerLost:
+    case FaultKind::FailsBefore:
+    case FaultKind::FailsAfter:
         return ControlReply{.stalled = true};
-    case ControlFault::Short:
+    case FaultKind::AnswersShort:
         if (reply) {
             reply->data.resize(reply->data.size() / 2);
         }
         return reply;
-    case ControlFault::Vanished:
-    case ControlFault::VanishedAfterwards:
+    case FaultKind::VanishesBefore:
+    case FaultKind::VanishesAfter:
         m_hasVanished = true;
         break;
-    case ControlFault::Silent:
-    case ControlFault::SilentAfterwards:
+    case FaultKind::SilentBefore:
+    case FaultKind::SilentAfter:
         break;
     }
     return std::nullopt;

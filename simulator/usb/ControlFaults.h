@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/drive/DriveModel.h"
+#include "simulator/usb/FaultKind.h"
 
 #include <cstdint>
 #include <functional>
@@ -10,27 +11,9 @@
 
 namespace zelto::simulator {
 
-/// How a vendor request goes wrong on purpose.
-enum class ControlFault : std::uint8_t {
-    /// Stalled; the drive never saw it.
-    Refused,
-    /// Stalled, but the drive obeyed: the answer was lost.
-    AnswerLost,
-    /// No answer until the host gives up; the drive never saw it.
-    Silent,
-    /// The same, but the drive obeyed.
-    SilentAfterwards,
-    /// Obeyed, and half of the answer.
-    Short,
-    /// The drive leaves the bus before it sees the request.
-    Vanished,
-    /// It obeys and leaves the bus before it answers.
-    VanishedAfterwards,
-};
-
-/// The words for them: "stall", "lost", "silent", "silent-after", "short", "vanish",
-/// "vanish-after".
-[[nodiscard]] std::optional<ControlFault> controlFaultNamed(std::string_view name);
+/// The words for them: "stall" and "lost" (fails before and after the effect), "silent",
+/// "silent-after", "short" (half an answer), "vanish", "vanish-after".
+[[nodiscard]] std::optional<FaultKind> faultNamed(std::string_view name);
 
 /// Stands before the firmware and makes one coming vendor request fail.
 class ControlFaults {
@@ -43,7 +26,7 @@ public:
     /// The `count`-th vendor request from now on (1: the next one) fails; with `code`, the
     /// `count`-th towards the drive with that bRequest. One fault at a time: this replaces one that
     /// is still to come. 0 takes it back.
-    void failRequest(std::uint32_t count, ControlFault fault,
+    void failRequest(std::uint32_t count, FaultKind fault,
                      std::optional<std::uint8_t> code = std::nullopt);
     /// True once after the drive vanished.
     [[nodiscard]] bool takeVanished();
@@ -58,7 +41,7 @@ private:
 
     Firmware m_firmware;
     std::uint32_t m_countdown = 0;
-    ControlFault m_fault = ControlFault::Refused;
+    FaultKind m_fault = FaultKind::FailsBefore;
     std::optional<std::uint8_t> m_code;
     bool m_hasVanished = false;
 };

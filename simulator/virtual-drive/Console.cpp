@@ -38,7 +38,7 @@ std::string notReady(DriveHost& host, Words words) {
 
 std::string fail(DriveHost& host, Words words) {
     const auto count = numberIn<std::uint32_t>(words[0]);
-    const auto fault = words.size() == 1 ? ControlFault::Refused : controlFaultNamed(words[1]);
+    const auto fault = words.size() == 1 ? FaultKind::FailsBefore : faultNamed(words[1]);
     const auto code = words.size() == 3 ? numberIn<std::uint8_t>(words[2], 16) : std::nullopt;
     if (!count || !fault || code.has_value() != (words.size() == 3)) {
         return "error fail needs a number, stall, lost, silent, silent-after, short, vanish or "

@@ -55,7 +55,7 @@ public:
     void advance(std::chrono::seconds time);
     void loseClock();
     void setNotReadyReads(unsigned reads) { m_drive->setNotReadyReads(reads); }
-    void failRequest(std::uint32_t count, ControlFault fault, std::optional<std::uint8_t> code) {
+    void failRequest(std::uint32_t count, FaultKind fault, std::optional<std::uint8_t> code) {
         m_faults.failRequest(count, fault, code);
     }
 

@@ -1,4 +1,4 @@
-#include "simulator/computer/FaultyDevice.h"
+#include "tests/support/FaultyDevice.h"
 
 #include <gtest/gtest.h>
 

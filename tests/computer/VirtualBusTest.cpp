@@ -1,6 +1,6 @@
 #include "device/VendorRequest.h"
 #include "device/ZELTOctrl.h"
-#include "simulator/computer/FaultyDevice.h"
+#include "tests/support/FaultyDevice.h"
 #include "simulator/computer/VirtualComputer.h"
 #include "tests/computer/OtherUsbDevices.h"
 
@@ -141,21 +141,6 @@ TEST_F(VirtualBusTest, KeepsADriveAwayThatIsPulledWhileItReconnects) {
     EXPECT_FALSE(m_computer.usb.isPlugged(m_drive));
 }
 
-TEST_F(VirtualBusTest, ServesASerialDescriptorOfAnyLength) {
-    m_drive->describe().serialDescriptor = std::vector<std::uint8_t>{255, 3, 'A', 0};
-    m_computer.plug(m_drive);
-    listen();
-    std::array<std::uint8_t, 4> buffer{};
-    IOUSBDevRequest request;
-    request.bmRequestType = 0x80;
-    request.bRequest = 6;
-    request.wValue = 0x0303;
-    request.wLength = buffer.size();
-    request.pData = buffer.data();
-    EXPECT_EQ(m_handles[0]->DeviceRequest(request), kIOReturnSuccess);
-    EXPECT_THAT(buffer, ElementsAre(255, 3, 'A', 0));
-}
-
 TEST_F(VirtualBusTest, RefusesToOpenADriveThatNobodyMayOpen) {
     m_drive->describe().openResult = kIOReturnNotPrivileged;
     m_computer.plug(m_drive);
@@ -257,18 +242,6 @@ TEST_F(VirtualBusTest, PutsEveryLayerAroundAHandleTheLatestOutermost) {
     EXPECT_EQ(m_handles[0]->GetDeviceProduct(), UsbIdentity::Product);
     EXPECT_EQ(m_handles[0]->GetDeviceReleaseNumber(), 0x0100);
     EXPECT_EQ(m_handles[0]->USBGetSerialNumberStringIndex(), 3);
-}
-
-TEST_F(VirtualBusTest, PullsThePlugInTheMiddleOfAFlowWhenAskedTo) {
-    m_computer.plug(m_drive);
-    listen();
-    m_computer.usb.setBeforeRequest([this](const IOUSBDevRequest& request) {
-        if (request.bRequest == VendorRequest::Logout) {
-            m_computer.unplug(m_drive);
-        }
-    });
-    EXPECT_EQ(readStatus(*m_handles[0]), kIOReturnSuccess);
-    EXPECT_EQ(TKVR21_Logout(*m_handles[0], 0), kIOReturnNoDevice);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "simulator/computer/ScriptedAlerts.h"
+#include "tests/support/ScriptedAlerts.h"
 #include "simulator/computer/VirtualComputer.h"
 
 #include <gtest/gtest.h>

@@ -83,7 +83,7 @@ TEST_F(ControllerBenchTest, PutsAFaultIntoTheDrivesCable) {
     plugPreparedDrive();
     start();
     plan->failWhen([](const IOUSBDevRequest& request) { return request.bRequest == 0xB3; },
-                   {.kind = simulator::Fault::Kind::VanishesBefore});
+                   {.kind = Fault::Kind::VanishesBefore});
     type("AuthenticateTextField", "first");
     press("AuthenticateSubmit");
     EXPECT_TRUE(hasQuit());

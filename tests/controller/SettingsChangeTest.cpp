@@ -4,7 +4,6 @@ namespace zelto::test {
 namespace {
 
 using namespace std::chrono_literals;
-using simulator::Fault;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -4,7 +4,6 @@ namespace zelto::test {
 namespace {
 
 using simulator::DiskVerb;
-using simulator::Fault;
 using simulator::ToolBehaviour;
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -254,7 +254,7 @@ TEST_F(FirstTimeSetup, ARetryAppendsAnotherToolArea) {
 TEST_F(FirstTimeSetup, AfterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom) {
     begin();
     layOut({.secureDisk = 0});
-    failCommand("TKVR21_SetAreaInfos", {.kind = simulator::Fault::Kind::FailsAfter});
+    failCommand("TKVR21_SetAreaInfos", {.kind = Fault::Kind::FailsAfter});
     for (int retry = 0; retry < 11; ++retry) {
         commit();
     }

@@ -7,7 +7,6 @@ namespace zelto::test {
 namespace {
 
 using namespace std::chrono_literals;
-using simulator::Fault;
 
 /// Every settings flow with every one of its transfers going wrong, one at a time.
 class SettingsFaults : public SettingsBench, public testing::WithParamInterface<WayToFail> {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/computer/FaultyDevice.h"
+#include "tests/support/FaultyDevice.h"
 
 #include <gtest/gtest.h>
 
@@ -12,17 +12,19 @@ namespace zelto::test {
 
 struct WayToFail {
     const char* name;
-    simulator::Fault fault;
+    Fault fault;
 
     friend void PrintTo(const WayToFail& way, std::ostream* out) { *out << way.name; }
 
     /// In a letter: (R)efused, (L)ost answer, (Z)ero bytes, (S)hort, (G)one.
     [[nodiscard]] char letter() const {
-        using Kind = simulator::Fault::Kind;
+        using Kind = Fault::Kind;
         switch (fault.kind) {
         case Kind::FailsBefore:
+        case Kind::SilentBefore:
             return 'R';
         case Kind::FailsAfter:
+        case Kind::SilentAfter:
             return 'L';
         case Kind::AnswersShort:
             return fault.length == 0 ? 'Z' : 'S';
@@ -44,11 +46,11 @@ enum class Ways {
 };
 
 inline auto waysToFail(Ways ways) {
-    using Kind = simulator::Fault::Kind;
+    using Kind = Fault::Kind;
     std::vector<WayToFail> chosen{
         {"refused", {.kind = Kind::FailsBefore, .result = kIOUSBPipeStalled}},
-        {"timedOutBefore", {.kind = Kind::FailsBefore, .result = kIOReturnTimeout}},
-        {"obeyedButTimedOut", {.kind = Kind::FailsAfter, .result = kIOReturnTimeout}},
+        {"timedOutBefore", {.kind = Kind::SilentBefore}},
+        {"obeyedButTimedOut", {.kind = Kind::SilentAfter}},
         {"answersNothing", {.kind = Kind::AnswersShort, .length = 0}},
         {"answersShort", {.kind = Kind::AnswersShort, .length = 13}},
         {"goneBefore", {.kind = Kind::VanishesBefore}},

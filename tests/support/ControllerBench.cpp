@@ -14,7 +14,7 @@ ControllerBench::ControllerBench()
             return std::make_unique<ForgedReplies>(std::move(handle), forgeries);
         });
     computer.usb.addHandleLayer([cable = plan](std::unique_ptr<UsbDeviceInterface> handle) {
-        return std::make_unique<simulator::FaultyDevice>(std::move(handle), cable);
+        return std::make_unique<FaultyDevice>(std::move(handle), cable);
     });
 }
 

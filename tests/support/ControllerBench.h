@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/computer/FaultyDevice.h"
-#include "simulator/computer/ScriptedAlerts.h"
+#include "tests/support/FaultyDevice.h"
+#include "tests/support/ScriptedAlerts.h"
 #include "simulator/play/Person.h"
 #include "simulator/play/PreparedDrive.h"
 #include "simulator/play/UtilityProcess.h"
@@ -84,10 +84,10 @@ public:
     void stopForging() { m_forgeries->clear(); }
 
     simulator::VirtualComputer computer;
-    simulator::ScriptedAlerts alerts{computer.log};
+    ScriptedAlerts alerts{computer.log};
     simulator::Person person;
     /// What goes wrong in the cables, of all drives together.
-    std::shared_ptr<simulator::FaultPlan> plan = std::make_shared<simulator::FaultPlan>();
+    std::shared_ptr<FaultPlan> plan = std::make_shared<FaultPlan>();
 
 private:
     std::shared_ptr<ForgedReplies::Forgeries> m_forgeries =

@@ -214,7 +214,7 @@ protected:
     }
 
     /// The next transfer of this command goes wrong, and all later ones of it.
-    void failCommand(const std::string& command, simulator::Fault fault) {
+    void failCommand(const std::string& command, Fault fault) {
         plan->failWhen(
             [command](const IOUSBDevRequest& request) {
                 return simulator::commandName(request) == command;

@@ -169,7 +169,7 @@ protected:
 };
 
 TEST_F(Faults, HitTheRequestCountedAndNoOther) {
-    faults.failRequest(3, ControlFault::Refused);
+    faults.failRequest(3, FaultKind::FailsBefore);
     EXPECT_FALSE(ask()->stalled);
     EXPECT_FALSE(ask()->stalled);
     EXPECT_TRUE(ask()->stalled);
@@ -179,7 +179,7 @@ TEST_F(Faults, HitTheRequestCountedAndNoOther) {
 
 TEST_F(Faults, CountOnlyRequestsOfTheirCodeTowardsTheDrive) {
     const auto logIn = [this] { return faults.request({0x40, 0xB3, 0, 0, 0}, {}); };
-    faults.failRequest(2, ControlFault::Refused, 0xB3);
+    faults.failRequest(2, FaultKind::FailsBefore, 0xB3);
     EXPECT_FALSE(ask()->stalled);
     EXPECT_FALSE(logIn()->stalled);
     EXPECT_FALSE(faults.request({0xC0, 0xB3, 0, 0, 8}, {})->stalled);
@@ -189,52 +189,52 @@ TEST_F(Faults, CountOnlyRequestsOfTheirCodeTowardsTheDrive) {
 }
 
 TEST_F(Faults, CanBeTakenBack) {
-    faults.failRequest(1, ControlFault::Refused);
-    faults.failRequest(0, ControlFault::Refused);
+    faults.failRequest(1, FaultKind::FailsBefore);
+    faults.failRequest(0, FaultKind::FailsBefore);
     EXPECT_FALSE(ask()->stalled);
 }
 
 TEST_F(Faults, LoseTheAnswerOfARequestThatWasObeyed) {
-    faults.failRequest(1, ControlFault::AnswerLost);
+    faults.failRequest(1, FaultKind::FailsAfter);
     EXPECT_TRUE(ask()->stalled);
     EXPECT_EQ(firmware.seen.size(), 1U);
 }
 
 TEST_F(Faults, KeepSilentBeforeAndAfterTheEffect) {
-    faults.failRequest(1, ControlFault::Silent);
+    faults.failRequest(1, FaultKind::SilentBefore);
     EXPECT_FALSE(ask());
     EXPECT_EQ(firmware.seen.size(), 0U);
-    faults.failRequest(1, ControlFault::SilentAfterwards);
+    faults.failRequest(1, FaultKind::SilentAfter);
     EXPECT_FALSE(ask());
     EXPECT_EQ(firmware.seen.size(), 1U);
     EXPECT_FALSE(faults.takeVanished());
 }
 
 TEST_F(Faults, AnswerShort) {
-    faults.failRequest(1, ControlFault::Short);
+    faults.failRequest(1, FaultKind::AnswersShort);
     EXPECT_EQ(ask()->data.size(), 4U);
 }
 
 TEST_F(Faults, MakeTheDriveVanishOnce) {
-    faults.failRequest(1, ControlFault::Vanished);
+    faults.failRequest(1, FaultKind::VanishesBefore);
     EXPECT_FALSE(ask());
     EXPECT_TRUE(faults.takeVanished());
     EXPECT_FALSE(faults.takeVanished());
     EXPECT_EQ(firmware.seen.size(), 0U);
-    faults.failRequest(1, ControlFault::VanishedAfterwards);
+    faults.failRequest(1, FaultKind::VanishesAfter);
     EXPECT_FALSE(ask());
     EXPECT_EQ(firmware.seen.size(), 1U);
 }
 
 TEST(FaultNames, AreKnown) {
-    EXPECT_EQ(controlFaultNamed("stall"), ControlFault::Refused);
-    EXPECT_EQ(controlFaultNamed("lost"), ControlFault::AnswerLost);
-    EXPECT_EQ(controlFaultNamed("silent"), ControlFault::Silent);
-    EXPECT_EQ(controlFaultNamed("silent-after"), ControlFault::SilentAfterwards);
-    EXPECT_EQ(controlFaultNamed("short"), ControlFault::Short);
-    EXPECT_EQ(controlFaultNamed("vanish"), ControlFault::Vanished);
-    EXPECT_EQ(controlFaultNamed("vanish-after"), ControlFault::VanishedAfterwards);
-    EXPECT_EQ(controlFaultNamed("otherwise"), std::nullopt);
+    EXPECT_EQ(faultNamed("stall"), FaultKind::FailsBefore);
+    EXPECT_EQ(faultNamed("lost"), FaultKind::FailsAfter);
+    EXPECT_EQ(faultNamed("silent"), FaultKind::SilentBefore);
+    EXPECT_EQ(faultNamed("silent-after"), FaultKind::SilentAfter);
+    EXPECT_EQ(faultNamed("short"), FaultKind::AnswersShort);
+    EXPECT_EQ(faultNamed("vanish"), FaultKind::VanishesBefore);
+    EXPECT_EQ(faultNamed("vanish-after"), FaultKind::VanishesAfter);
+    EXPECT_EQ(faultNamed("otherwise"), std::nullopt);
 }
 
 } // namespace

@@ -1,9 +1,9 @@
-#include "simulator/computer/FaultyDevice.h"
+#include "tests/support/FaultyDevice.h"
 
 #include <algorithm>
 #include <vector>
 
-namespace zelto::simulator {
+namespace zelto::test {
 
 void FaultPlan::failTransfer(std::size_t number, Fault fault) {
     m_fault = fault;
@@ -76,6 +76,11 @@ IOReturn FaultyDevice::DeviceRequest(IOUSBDevRequest& request) {
     case Fault::Kind::FailsAfter:
         performUnanswered(request);
         return fault->result;
+    case Fault::Kind::SilentBefore:
+        return kIOReturnTimeout;
+    case Fault::Kind::SilentAfter:
+        performUnanswered(request);
+        return kIOReturnTimeout;
     case Fault::Kind::AnswersShort:
         return performShort(request, fault->length);
     case Fault::Kind::VanishesBefore:
@@ -89,4 +94,4 @@ IOReturn FaultyDevice::DeviceRequest(IOUSBDevRequest& request) {
     return kIOReturnIOError;
 }
 
-} // namespace zelto::simulator
+} // namespace zelto::test

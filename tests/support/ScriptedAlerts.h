@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-namespace zelto::simulator {
+namespace zelto::test {
 
 /// A user who answers alerts as written down beforehand. Every panel is recorded; one that nobody
 /// wrote an answer for is closed with its default button.
@@ -15,7 +15,7 @@ class ScriptedAlerts : public Alerts {
 public:
     using WhileOpen = std::function<void(const AlertPanel&)>;
 
-    explicit ScriptedAlerts(EventLog& log) : m_log(log) {}
+    explicit ScriptedAlerts(simulator::EventLog& log) : m_log(log) {}
 
     AlertButton NSRunAlertPanel(const AlertPanel& panel) override;
 
@@ -27,7 +27,6 @@ public:
 
     [[nodiscard]] const std::vector<AlertPanel>& panels() const { return m_panels; }
     [[nodiscard]] std::vector<QString> messages() const;
-    [[nodiscard]] std::size_t unusedAnswers() const { return m_answers.size(); }
     /// Panels open at this moment; more than one is a nested alert.
     [[nodiscard]] int open() const { return m_open; }
     void clear();
@@ -38,11 +37,11 @@ private:
         WhileOpen whileOpen;
     };
 
-    EventLog& m_log;
+    simulator::EventLog& m_log;
     std::vector<AlertPanel> m_panels;
     std::deque<Answer> m_answers;
     WhileOpen m_whileOpen;
     int m_open = 0;
 };
 
-} // namespace zelto::simulator
+} // namespace zelto::test

@@ -1,29 +1,19 @@
 #pragma once
 
 #include "simulator/computer/ForwardingDevice.h"
+#include "simulator/usb/FaultKind.h"
 
 #include <functional>
 #include <memory>
 
-namespace zelto::simulator {
+namespace zelto::test {
 
 /// What goes wrong with one transfer.
 struct Fault {
-    enum class Kind {
-        /// The transfer fails; the device never saw it.
-        FailsBefore,
-        /// The device obeyed, the answer was lost.
-        FailsAfter,
-        /// The device answers fewer bytes than it has. Towards the device: nothing goes wrong.
-        AnswersShort,
-        /// The device is gone from here on, before this transfer reaches it.
-        VanishesBefore,
-        /// The device is gone from here on, after it has obeyed.
-        VanishesAfter,
-    };
+    using Kind = simulator::FaultKind;
 
     Kind kind = Kind::FailsBefore;
-    /// The result of a failing transfer: kIOUSBPipeStalled, kIOReturnTimeout, ...
+    /// The result of a transfer that fails: kIOUSBPipeStalled, kIOReturnIOError, ...
     IOReturn result = kIOUSBPipeStalled;
     /// The bytes of a short answer.
     std::uint32_t length = 0;
@@ -55,10 +45,10 @@ private:
 };
 
 /// A bad cable: passes everything on, apart from the transfer that the plan has chosen.
-class FaultyDevice : public ForwardingDevice {
+class FaultyDevice : public simulator::ForwardingDevice {
 public:
     FaultyDevice(std::unique_ptr<UsbDeviceInterface> device, std::shared_ptr<FaultPlan> plan)
-        : ForwardingDevice(std::move(device)), m_plan(std::move(plan)) {}
+        : simulator::ForwardingDevice(std::move(device)), m_plan(std::move(plan)) {}
 
     [[nodiscard]] IOReturn USBDeviceOpen() override;
     [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override;
@@ -72,4 +62,4 @@ private:
     bool m_isGone = false;
 };
 
-} // namespace zelto::simulator
+} // namespace zelto::test

@@ -1,9 +1,9 @@
-#include "simulator/computer/ScriptedAlerts.h"
+#include "tests/support/ScriptedAlerts.h"
 
-namespace zelto::simulator {
+namespace zelto::test {
 
 AlertButton ScriptedAlerts::NSRunAlertPanel(const AlertPanel& panel) {
-    m_log.note(LogLine::Kind::Alert, "alert: " + panel.message.toStdString());
+    m_log.note(simulator::LogLine::Kind::Alert, "alert: " + panel.message.toStdString());
     m_panels.push_back(panel);
     Answer answer;
     if (!m_answers.empty()) {
@@ -37,4 +37,4 @@ void ScriptedAlerts::clear() {
     m_answers.clear();
 }
 
-} // namespace zelto::simulator
+} // namespace zelto::test
