@@ -54,14 +54,6 @@ bool FileTree::allowsChange(const Path& path) const {
     return around.isFolder && around.isWritable && (existing == nullptr || existing->isWritable);
 }
 
-bool FileTree::keep(const Branch& files) {
-    std::uint64_t used = 0;
-    for (const auto& [name, file] : files) {
-        used += file.bytes.size();
-    }
-    return used <= m_capacity;
-}
-
 bool FileTree::change(Branch files) {
     const bool isKept = keep(files);
     if (isKept) {

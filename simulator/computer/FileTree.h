@@ -3,7 +3,6 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
-#include <limits>
 #include <map>
 #include <string>
 #include <vector>
@@ -47,13 +46,10 @@ public:
     /// False when there is no such item.
     bool setWritable(const Path& path, bool writable);
 
-    /// All files together hold at most this many bytes.
-    void setCapacity(std::uint64_t bytes) { m_capacity = bytes; }
-
 protected:
     explicit FileTree(Branch files);
     /// Whether the tree could be kept as it is to be.
-    [[nodiscard]] virtual bool keep(const Branch& files);
+    [[nodiscard]] virtual bool keep(const Branch& /*files*/) { return true; }
 
 private:
     /// Whether something may be made, replaced or removed there.
@@ -61,7 +57,6 @@ private:
     [[nodiscard]] bool change(Branch files);
 
     Branch m_files;
-    std::uint64_t m_capacity = std::numeric_limits<std::uint64_t>::max();
 };
 
 } // namespace zelto::simulator

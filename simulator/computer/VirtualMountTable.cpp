@@ -4,12 +4,6 @@
 
 namespace zelto::simulator {
 
-namespace {
-
-const std::string MountFolder = "/media/user/";
-
-} // namespace
-
 std::vector<MountedFileSystem> VirtualMountTable::getmntinfo() {
     std::vector<MountedFileSystem> lines = m_foreign;
     for (const MountedVolume& mounted : m_mounted) {
@@ -28,7 +22,7 @@ std::set<std::string> VirtualMountTable::holders(const std::string& bsdName) con
 }
 
 std::string VirtualMountTable::freeMountPoint(const std::string& label) const {
-    const std::string name = MountFolder + (label.empty() ? "NO NAME" : label);
+    const std::string name = "/media/user/" + (label.empty() ? "NO NAME" : label);
     std::string candidate = name;
     for (unsigned number = 1;; ++number) {
         if (std::ranges::none_of(m_mounted, [&](const MountedVolume& mounted) {
@@ -61,11 +55,6 @@ bool VirtualMountTable::unmount(const std::string& bsdName) {
     return holders(bsdName).empty() && std::erase_if(m_mounted, [&](const MountedVolume& mounted) {
                                            return mounted.bsdName == bsdName;
                                        }) > 0;
-}
-
-bool VirtualMountTable::isMounted(const std::string& bsdName) const {
-    return std::ranges::any_of(
-        m_mounted, [&](const MountedVolume& mounted) { return mounted.bsdName == bsdName; });
 }
 
 std::string VirtualMountTable::mountPoint(const std::string& bsdName) const {

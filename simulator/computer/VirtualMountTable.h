@@ -42,7 +42,9 @@ public:
     bool mount(const std::string& bsdName);
     /// False when the volume is not mounted, or busy.
     [[nodiscard]] bool unmount(const std::string& bsdName);
-    [[nodiscard]] bool isMounted(const std::string& bsdName) const;
+    [[nodiscard]] bool isMounted(const std::string& bsdName) const {
+        return !mountPoint(bsdName).empty();
+    }
     /// The volume's mount point; empty when it is not mounted.
     [[nodiscard]] std::string mountPoint(const std::string& bsdName) const;
     /// The volume that a path leads into and the rest of the path; null when it is none of these.

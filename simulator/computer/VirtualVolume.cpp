@@ -2,103 +2,43 @@
 
 #include "device/Record.h"
 
+#include <QByteArray>
+#include <QDataStream>
+#include <QIODevice>
+
 #include <algorithm>
-#include <array>
-#include <optional>
-#include <span>
 #include <string_view>
 
 namespace zelto::simulator {
 
 namespace {
 
-using Bytes = FileTree::Bytes;
-
 constexpr std::string_view Signature{"ZELTO VOLUME 1\0\0", 16};
 constexpr record::Field Length{16, 8};
 constexpr std::size_t HeaderSize = 24;
-constexpr std::uint64_t FolderBit = 1;
-constexpr std::uint64_t WritableBit = 2;
+constexpr auto StreamVersion = QDataStream::Qt_6_0;
 
-void addNumber(Bytes& bytes, std::uint64_t number) {
-    bytes.resize(bytes.size() + sizeof number);
-    record::put(bytes, {bytes.size() - sizeof number, sizeof number}, number);
+void fillLastSector(FileTree::Bytes& bytes) {
+    bytes.resize((bytes.size() + SectorSize - 1) / SectorSize * SectorSize);
 }
 
-template <typename Text>
-void addText(Bytes& bytes, const Text& text) {
-    addNumber(bytes, text.size());
-    bytes.insert(bytes.end(), text.begin(), text.end());
-}
-
-/// Takes a container apart. What goes beyond its end reads as nothing and leaves it damaged.
-class Reader {
-public:
-    explicit Reader(std::span<const std::uint8_t> bytes) : m_rest(bytes) {}
-
-    [[nodiscard]] bool isDamaged() const { return m_isDamaged; }
-    [[nodiscard]] bool hasMore() const { return !m_isDamaged && !m_rest.empty(); }
-
-    std::uint64_t number() {
-        const auto bytes = take(sizeof(std::uint64_t));
-        return bytes.empty() ? 0 : record::get(bytes, {0, sizeof(std::uint64_t)});
-    }
-
-    template <typename Text>
-    Text text() {
-        const auto bytes = take(number());
-        return {bytes.begin(), bytes.end()};
-    }
-
-private:
-    std::span<const std::uint8_t> take(std::uint64_t size) {
-        m_isDamaged = m_isDamaged || size > m_rest.size();
-        if (m_isDamaged) {
-            return {};
-        }
-        const auto taken = m_rest.first(static_cast<std::size_t>(size));
-        m_rest = m_rest.subspan(taken.size());
-        return taken;
-    }
-
-    std::span<const std::uint8_t> m_rest;
-    bool m_isDamaged = false;
-};
-
-/// What follows the header; nothing when there is none.
-std::optional<Bytes> readContainer(SectorStore& medium) {
-    Bytes bytes(SectorSize);
+/// What follows the header; null when there is no header.
+QByteArray readContainer(SectorStore& medium) {
+    FileTree::Bytes bytes(SectorSize);
     const std::uint64_t capacity = medium.sectorCount() * SectorSize;
     if (capacity < SectorSize || !medium.read(0, bytes) ||
         !std::equal(Signature.begin(), Signature.end(), bytes.begin())) {
-        return std::nullopt;
+        return {};
     }
     const std::uint64_t length = record::get(bytes, Length);
     if (length > capacity - HeaderSize) {
-        return std::nullopt;
+        return {};
     }
-    const auto end = static_cast<std::size_t>(HeaderSize + length);
-    bytes.resize((end + SectorSize - 1) / SectorSize * SectorSize);
-    if (!medium.read(0, bytes)) {
-        return std::nullopt;
-    }
-    bytes.resize(end);
-    bytes.erase(bytes.begin(), bytes.begin() + HeaderSize);
-    return bytes;
-}
-
-Bytes encode(const std::string& label, const FileTree::Branch& files) {
-    Bytes bytes(Signature.begin(), Signature.end());
-    bytes.resize(HeaderSize);
-    addText(bytes, label);
-    for (const auto& [path, file] : files) {
-        addText(bytes, path);
-        addNumber(bytes, (file.isFolder ? FolderBit : 0) | (file.isWritable ? WritableBit : 0));
-        addNumber(bytes, static_cast<std::uint64_t>(file.modified.time_since_epoch().count()));
-        addText(bytes, file.bytes);
-    }
-    record::put(bytes, Length, bytes.size() - HeaderSize);
-    return bytes;
+    bytes.resize(static_cast<std::size_t>(HeaderSize + length));
+    fillLastSector(bytes);
+    return medium.read(0, bytes) ? QByteArray(reinterpret_cast<const char*>(&bytes[HeaderSize]),
+                                              static_cast<qsizetype>(length))
+                                 : QByteArray();
 }
 
 } // namespace
@@ -109,30 +49,43 @@ bool VirtualVolume::format(SectorStore& medium, const std::string& label) {
 }
 
 std::unique_ptr<VirtualVolume> VirtualVolume::mount(SectorStore& medium) {
-    const auto container = readContainer(medium);
-    if (!container) {
-        return nullptr;
-    }
-    Reader reader(*container);
-    auto label = reader.text<std::string>();
+    const QByteArray container = readContainer(medium);
+    QDataStream stream(container);
+    stream.setVersion(StreamVersion);
+    QByteArray label;
+    stream >> label;
     Branch files;
-    while (reader.hasMore()) {
-        File& file = files[reader.text<std::string>()];
-        const std::uint64_t bits = reader.number();
-        file.isFolder = (bits & FolderBit) != 0;
-        file.isWritable = (bits & WritableBit) != 0;
-        file.modified = std::chrono::sys_seconds(
-            std::chrono::seconds(static_cast<std::int64_t>(reader.number())));
-        file.bytes = reader.text<Bytes>();
+    while (!stream.atEnd() && stream.status() == QDataStream::Ok) {
+        QByteArray path;
+        QByteArray bytes;
+        qint64 modified = 0;
+        File file;
+        stream >> path >> file.isFolder >> file.isWritable >> modified >> bytes;
+        file.modified = std::chrono::sys_seconds(std::chrono::seconds(modified));
+        file.bytes.assign(bytes.begin(), bytes.end());
+        files[path.toStdString()] = std::move(file);
     }
-    return reader.isDamaged() ? nullptr
-                              : std::unique_ptr<VirtualVolume>(
-                                    new VirtualVolume(medium, std::move(label), std::move(files)));
+    return stream.status() == QDataStream::Ok ? std::unique_ptr<VirtualVolume>(new VirtualVolume(
+                                                    medium, label.toStdString(), std::move(files)))
+                                              : nullptr;
 }
 
 bool VirtualVolume::keep(const Branch& files) {
-    Bytes bytes = encode(m_label, files);
-    bytes.resize((bytes.size() + SectorSize - 1) / SectorSize * SectorSize);
+    QByteArray container;
+    QDataStream stream(&container, QIODevice::WriteOnly);
+    stream.setVersion(StreamVersion);
+    stream << QByteArray::fromStdString(m_label);
+    for (const auto& [path, file] : files) {
+        stream << QByteArray::fromStdString(path) << file.isFolder << file.isWritable
+               << qint64{file.modified.time_since_epoch().count()}
+               << QByteArray(reinterpret_cast<const char*>(file.bytes.data()),
+                             static_cast<qsizetype>(file.bytes.size()));
+    }
+    Bytes bytes(Signature.begin(), Signature.end());
+    bytes.resize(HeaderSize);
+    record::put(bytes, Length, static_cast<std::uint64_t>(container.size()));
+    bytes.insert(bytes.end(), container.begin(), container.end());
+    fillLastSector(bytes);
     return m_medium.write(0, bytes);
 }
 

@@ -10,21 +10,13 @@ namespace zelto::simulator {
 
 /// A volume of the virtual computer. This is no file system that anybody else knows: the files are
 /// one container of this program's own, written anew after each change, from the medium's first
-/// sector on.
+/// sector on. 16 bytes "ZELTO VOLUME 1" and zeros, 8 bytes of length, then a QDataStream: the
+/// label, and for each file and folder its path, whether it is a folder, whether it is writable,
+/// when it was modified, and its bytes.
 ///
-///     16 bytes   "ZELTO VOLUME 1" and zeros
-///     8          length of all that follows
-///     text       the label
-///     then for every file and folder:
-///     text       its path
-///     8          bit 0: a folder; bit 1: writable
-///     8          when it was modified, in seconds since 1970
-///     text       its bytes
-///
-/// A text is its length in 8 bytes, and its bytes. Numbers have the high byte first. So files are
-/// on the medium and nowhere else: they come and go with the drive, are lost with its key, and need
-/// room. Nothing that is read is believed. What a real computer does with real file systems is seen
-/// on a real kernel.
+/// So files are on the medium and nowhere else: they come and go with the drive, are lost with its
+/// key, and need room. Nothing that is read is believed. What a real computer does with real file
+/// systems is seen on a real kernel.
 class VirtualVolume final : public FileTree {
 public:
     static constexpr std::size_t LongestLabel = 11;

@@ -21,9 +21,7 @@ DemoPanel::DemoPanel(DemoWorld& world) : m_world(world) {
                                           QLatin1String(DemoWorld::SecondPassword))));
     auto* const grid = new QGridLayout;
     layout->addLayout(grid);
-    addDriveButtons(*grid);
-    addTimeButtons(*grid);
-    addPasswordButtons(*grid);
+    addButtons(*grid);
     auto* const busy = new QCheckBox(QStringLiteral("A program keeps the &volumes busy"));
     QObject::connect(busy, &QCheckBox::toggled, this,
                      [this](bool on) { m_world.setVolumesBusy(on); });
@@ -35,9 +33,9 @@ DemoPanel::DemoPanel(DemoWorld& world) : m_world(world) {
     refresh();
 }
 
-QPushButton* DemoPanel::addButton(QGridLayout& grid, int row, int column, const QString& text,
+QPushButton* DemoPanel::addButton(QGridLayout& grid, int row, int column, const char* text,
                                   std::function<void()> action) {
-    auto* const button = new QPushButton(text);
+    auto* const button = new QPushButton(QLatin1String(text));
     QObject::connect(button, &QPushButton::clicked, this, [this, run = std::move(action)] {
         run();
         refresh();
@@ -46,30 +44,21 @@ QPushButton* DemoPanel::addButton(QGridLayout& grid, int row, int column, const 
     return button;
 }
 
-void DemoPanel::addDriveButtons(QGridLayout& grid) {
-    m_plug = addButton(grid, 0, 0, QStringLiteral("&Plug"), [this] { m_world.plug(); });
-    m_unplug = addButton(grid, 0, 1, QStringLiteral("&Unplug"), [this] { m_world.unplug(); });
-    addButton(grid, 0, 2, QStringLiteral("&Replug"), [this] { m_world.replug(); });
-    addButton(grid, 1, 0, QStringLiteral("&New drive"), [this] { m_world.takeNewDrive(); });
-    addButton(grid, 1, 1, QStringLiteral("Drive with passwor&ds"),
-              [this] { m_world.takePreparedDrive(); });
-    addButton(grid, 1, 2, QStringLiteral("&Lose its clock"), [this] { m_world.loseClock(); });
-}
-
-void DemoPanel::addTimeButtons(QGridLayout& grid) {
-    addButton(grid, 2, 0, QStringLiteral("One &hour later"),
-              [this] { m_world.skip(std::chrono::hours(1)); });
-    addButton(grid, 2, 1, QStringLiteral("One da&y later"),
-              [this] { m_world.skip(std::chrono::days(1)); });
-}
-
-void DemoPanel::addPasswordButtons(QGridLayout& grid) {
-    addButton(grid, 3, 0, QStringLiteral("Type the &first password"),
-              [this] { m_world.typePassword(DemoWorld::FirstPassword); });
-    addButton(grid, 3, 1, QStringLiteral("Type the s&econd password"),
-              [this] { m_world.typePassword(DemoWorld::SecondPassword); });
-    addButton(grid, 3, 2, QStringLiteral("Type a &wrong password"),
-              [this] { m_world.typePassword("wrong"); });
+void DemoPanel::addButtons(QGridLayout& grid) {
+    m_plug = addButton(grid, 0, 0, "&Plug", [this] { m_world.plug(); });
+    m_unplug = addButton(grid, 0, 1, "&Unplug", [this] { m_world.unplug(); });
+    addButton(grid, 0, 2, "&Replug", [this] { m_world.replug(); });
+    addButton(grid, 1, 0, "&New drive", [this] { m_world.takeNewDrive(); });
+    addButton(grid, 1, 1, "Drive with passwor&ds", [this] { m_world.takePreparedDrive(); });
+    addButton(grid, 1, 2, "&Lose its clock", [this] { m_world.loseClock(); });
+    addButton(grid, 2, 0, "One &hour later", [this] { m_world.skip(std::chrono::hours(1)); });
+    addButton(grid, 2, 1, "One da&y later", [this] { m_world.skip(std::chrono::days(1)); });
+    const auto addTyping = [&](int column, const char* text, const char* password) {
+        addButton(grid, 3, column, text, [this, password] { m_world.typePassword(password); });
+    };
+    addTyping(0, "Type the &first password", DemoWorld::FirstPassword);
+    addTyping(1, "Type the s&econd password", DemoWorld::SecondPassword);
+    addTyping(2, "Type a &wrong password", "wrong");
 }
 
 void DemoPanel::closeEvent(QCloseEvent* event) {

@@ -21,11 +21,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QPushButton* addButton(QGridLayout& grid, int row, int column, const QString& text,
+    QPushButton* addButton(QGridLayout& grid, int row, int column, const char* text,
                            std::function<void()> action);
-    void addDriveButtons(QGridLayout& grid);
-    void addTimeButtons(QGridLayout& grid);
-    void addPasswordButtons(QGridLayout& grid);
+    void addButtons(QGridLayout& grid);
     void refresh();
 
     DemoWorld& m_world;

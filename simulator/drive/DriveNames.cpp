@@ -38,21 +38,10 @@ std::string_view commandOf(std::uint8_t bmRequestType, std::uint8_t bRequest) {
 }
 
 std::string_view nameOf(SecurityState state) {
-    switch (state) {
-    case SecurityState::StateNoPassword:
-        return "StateNoPassword";
-    case SecurityState::StateIdle:
-        return "StateIdle";
-    case SecurityState::StateLocked:
-        return "StateLocked";
-    case SecurityState::StatePasswordPending:
-        return "StatePasswordPending";
-    case SecurityState::StateUnlocking:
-        return "StateUnlocking";
-    case SecurityState::StateFullLock:
-        return "StateFullLock";
-    }
-    return "unknown";
+    static constexpr std::array<std::string_view, 6> Names{
+        "StateNoPassword",      "StateIdle",      "StateLocked",
+        "StatePasswordPending", "StateUnlocking", "StateFullLock"};
+    return Names.at(static_cast<std::size_t>(state));
 }
 
 } // namespace zelto::simulator

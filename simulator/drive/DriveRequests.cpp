@@ -98,22 +98,14 @@ bool isZero(std::span<const std::uint8_t> record, record::Field field) {
 std::optional<AuthInfo> decodeAuthInfo(std::span<const std::uint8_t> record) {
     using namespace AuthInfoField;
     AuthInfo info;
-    switch (record::get(record, AuthInfoField::Kind)) {
-    case AuthInfo::Set:
-        info.kind = AuthInfo::Set;
-        break;
-    case AuthInfo::SetBoth:
-        info.kind = AuthInfo::SetBoth;
-        break;
-    case AuthInfo::Change:
-        info.kind = AuthInfo::Change;
-        break;
-    case AuthInfo::ChangeBoth:
-        info.kind = AuthInfo::ChangeBoth;
-        break;
-    default:
+    constexpr std::array Kinds{AuthInfo::Set, AuthInfo::SetBoth, AuthInfo::Change,
+                               AuthInfo::ChangeBoth};
+    const auto named = record::get<std::uint8_t>(record, AuthInfoField::Kind);
+    const auto* const kind = std::ranges::find(Kinds, static_cast<AuthInfo::Kind>(named));
+    if (kind == Kinds.end()) {
         return std::nullopt;
     }
+    info.kind = *kind;
     if (record.size() != info.size() || record::get(record, AlwaysOne) != 1 ||
         !isZero(record, AfterKind) || !isZero(record, AfterAlwaysOne) ||
         !isZero(record, BeforeSlots)) {

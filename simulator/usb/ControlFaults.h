@@ -1,12 +1,8 @@
 #pragma once
 
-#include "simulator/drive/DriveModel.h"
 #include "simulator/usb/FaultKind.h"
+#include "simulator/usb/UsbTransfer.h"
 
-#include <cstdint>
-#include <functional>
-#include <optional>
-#include <span>
 #include <string_view>
 
 namespace zelto::simulator {
@@ -18,10 +14,7 @@ namespace zelto::simulator {
 /// Stands before the firmware and makes one coming vendor request fail.
 class ControlFaults {
 public:
-    using Firmware = std::function<std::optional<ControlReply>(const SetupPacket&,
-                                                               std::span<const std::uint8_t>)>;
-
-    explicit ControlFaults(Firmware firmware) : m_firmware(std::move(firmware)) {}
+    explicit ControlFaults(VendorControl firmware) : m_firmware(std::move(firmware)) {}
 
     /// The `count`-th vendor request from now on (1: the next one) fails; with `code`, the
     /// `count`-th towards the drive with that bRequest. One fault at a time: this replaces one that
@@ -39,7 +32,7 @@ private:
     [[nodiscard]] std::optional<ControlReply> fail(const SetupPacket& setup,
                                                    std::span<const std::uint8_t> sent);
 
-    Firmware m_firmware;
+    VendorControl m_firmware;
     std::uint32_t m_countdown = 0;
     FaultKind m_fault = FaultKind::FailsBefore;
     std::optional<std::uint8_t> m_code;

@@ -74,9 +74,9 @@ std::vector<ScsiUnit> makeUnits(const std::string& serial, UnitStorage& storage)
 
 } // namespace
 
-StorageDevice::StorageDevice(std::string serial, VendorControl& control, UnitStorage& storage)
+StorageDevice::StorageDevice(std::string serial, VendorControl control, UnitStorage& storage)
     : m_serial(std::move(serial)),
-      m_control(control),
+      m_control(std::move(control)),
       m_units(makeUnits(m_serial, storage)),
       m_transport(m_units) {}
 
@@ -121,7 +121,7 @@ TransferResult StorageDevice::control(const SetupPacket& setup, std::span<const 
 TransferResult StorageDevice::vendorRequest(const SetupPacket& setup,
                                             std::span<const std::uint8_t> sent,
                                             std::span<std::uint8_t> buffer) {
-    const std::optional<ControlReply> reply = m_control.request(setup, sent);
+    const std::optional<ControlReply> reply = m_control(setup, sent);
     // A request may have locked or opened the drive; an exchange of media has to be noticed even
     // when the next request undoes it.
     noticeMedia();

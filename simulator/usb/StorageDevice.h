@@ -3,7 +3,6 @@
 #include "simulator/scsi/ScsiUnit.h"
 #include "simulator/usb/BulkOnlyTransport.h"
 #include "simulator/usb/UsbTransfer.h"
-#include "simulator/usb/VendorControl.h"
 
 #include <cstdint>
 #include <span>
@@ -17,8 +16,8 @@ namespace zelto::simulator {
 /// a transfer that has to wait is offered again. Not for use by two threads.
 class StorageDevice {
 public:
-    /// Refers to `control` and `storage` for as long as it lives. `serial` is ASCII.
-    StorageDevice(std::string serial, VendorControl& control, UnitStorage& storage);
+    /// Refers to `storage` for as long as it lives. `serial` is ASCII.
+    StorageDevice(std::string serial, VendorControl control, UnitStorage& storage);
 
     /// Plugging in: not configured, endpoints not halted, units as they come out of power-up.
     void powerUp();
@@ -55,7 +54,7 @@ private:
     [[nodiscard]] bool isConfigured() const { return m_configuration != 0; }
 
     std::string m_serial;
-    VendorControl& m_control;
+    VendorControl m_control;
     std::vector<ScsiUnit> m_units;
     BulkOnlyTransport m_transport;
     std::uint8_t m_configuration = 0;

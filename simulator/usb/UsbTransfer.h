@@ -1,7 +1,12 @@
 #pragma once
 
+#include "simulator/drive/DriveModel.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
 
 namespace zelto::simulator {
 
@@ -26,5 +31,12 @@ struct TransferResult {
 
     friend bool operator==(const TransferResult&, const TransferResult&) = default;
 };
+
+/// Where the device's vendor requests go: the firmware, or something that stands before it. The
+/// second argument is the whole data stage towards the device (wLength bytes; empty for the other
+/// direction); nothing in either was looked at. Nothing means that no answer comes: the transfer
+/// hangs until the host gives up.
+using VendorControl =
+    std::function<std::optional<ControlReply>(const SetupPacket&, std::span<const std::uint8_t>)>;
 
 } // namespace zelto::simulator

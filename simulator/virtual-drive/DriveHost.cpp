@@ -14,7 +14,9 @@ DriveHost::DriveHost(EventLoop& loop, std::unique_ptr<VirtualDrive> drive, WallC
       m_log(std::move(log)),
       m_faults([this](const auto& setup, auto sent) { return askFirmware(setup, sent); }),
       m_units(*m_drive, [this] { return now(); }),
-      m_device(m_drive->serial(), *this, m_units),
+      m_device(
+          m_drive->serial(), [this](const auto& setup, auto sent) { return request(setup, sent); },
+          m_units),
       m_server(
           loop, *this, [this] { followFirmware(); },
           [this](const std::string& line) { m_log(line); }) {}

@@ -20,7 +20,7 @@ namespace zelto::simulator {
 /// firmware wants of the bus (leaving and coming back) is done here.
 ///
 /// All on the event loop's thread; the drive, the units and the sessions know no other.
-class DriveHost final : private UsbipExport, private VendorControl {
+class DriveHost final : private UsbipExport {
 public:
     using WallClock = std::function<Moment()>;
     using Log = std::function<void(const std::string& line)>;
@@ -91,7 +91,7 @@ private:
 
     // The firmware's side of the device
     [[nodiscard]] std::optional<ControlReply> request(const SetupPacket& setup,
-                                                      std::span<const std::uint8_t> sent) override;
+                                                      std::span<const std::uint8_t> sent);
     [[nodiscard]] ControlReply askFirmware(const SetupPacket& setup,
                                            std::span<const std::uint8_t> sent);
 

@@ -55,17 +55,15 @@ TEST_F(VirtualFilesTest, LeaveNothingOfACopyThatDoesNotFitOnTheVolume) {
     EXPECT_FALSE(m_files.fileExistsAtPath(OnTool));
 }
 
-TEST_F(VirtualFilesTest, BringBackWhatAFailedCopyWasToReplace) {
-    const std::filesystem::path source = "/home/user/large";
-    const std::filesystem::path target = "/home/user/small";
-    ASSERT_TRUE(m_files.ownDisk().writeFile(VirtualFiles::onOwnDisk(source),
-                                            FileTree::Bytes(200000, 1), {}));
-    ASSERT_TRUE(m_files.ownDisk().writeFile(VirtualFiles::onOwnDisk(target),
-                                            FileTree::Bytes(1000, 2), {}));
-    m_files.ownDisk().setCapacity(600000);
-    EXPECT_FALSE(m_files.copyItemAtPath(source, target));
-    EXPECT_EQ(m_files.ownDisk().find(VirtualFiles::onOwnDisk(target))->bytes,
-              FileTree::Bytes(1000, 2));
+TEST_F(VirtualFilesTest, KeepWhatAFailedCopyWasToReplace) {
+    plugWithToolVolume(512);
+    const std::filesystem::path source = "/home/user/small";
+    const std::filesystem::path target = "/media/user/ZELTO TOOL/file";
+    ASSERT_TRUE(
+        m_files.ownDisk().writeFile(VirtualFiles::onOwnDisk(source), FileTree::Bytes(1000, 2), {}));
+    ASSERT_TRUE(m_files.copyItemAtPath(source, target));
+    EXPECT_FALSE(m_files.copyItemAtPath(Bundle, target));
+    EXPECT_TRUE(m_files.areEqual(source, target));
 }
 
 TEST_F(VirtualFilesTest, CopyNothingIntoAFolderThatIsReadOnly) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "simulator/drive/UnitStorage.h"
-#include "simulator/usb/VendorControl.h"
+#include "simulator/usb/UsbTransfer.h"
 
 #include <algorithm>
 #include <array>
@@ -80,7 +80,7 @@ private:
 };
 
 /// Firmware that keeps what it is sent and answers what a test says.
-class FakeControl final : public VendorControl {
+class FakeControl final {
 public:
     struct Seen {
         SetupPacket setup;
@@ -91,7 +91,7 @@ public:
     std::function<void()> effect = [] {};
 
     [[nodiscard]] std::optional<ControlReply> request(const SetupPacket& setup,
-                                                      std::span<const std::uint8_t> sent) override {
+                                                      std::span<const std::uint8_t> sent) {
         seen.push_back({setup, {sent.begin(), sent.end()}});
         effect();
         return answer;

@@ -79,7 +79,9 @@ protected:
 
     FakeStorage storage;
     FakeControl firmware;
-    StorageDevice device{"ZD0123456789ABCD", firmware, storage};
+    StorageDevice device{
+        "ZD0123456789ABCD",
+        [this](const auto& setup, auto sent) { return firmware.request(setup, sent); }, storage};
     Bytes reply;
     Bytes received;
 };
