@@ -42,7 +42,9 @@ bool VirtualMountTable::mount(const std::string& bsdName) {
     if (disk == nullptr || disk->volumeName() != bsdName) {
         return false;
     }
-    MountedVolume mounted{.bsdName = bsdName, .volume = VirtualVolume::mount(*disk->medium)};
+    MountedVolume mounted;
+    mounted.bsdName = bsdName;
+    mounted.volume = VirtualVolume::mount(*disk->medium);
     if (!mounted.volume) {
         return false;
     }

@@ -1,7 +1,7 @@
 #include "simulator/demo/DemoWorld.h"
 
 #include "simulator/drive/DriveNames.h"
-#include "simulator/play/Person.h"
+#include "simulator/demo/Person.h"
 
 #include <QApplication>
 #include <QDateTime>

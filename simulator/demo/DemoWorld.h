@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/play/PreparedDrive.h"
-#include "simulator/play/UtilityProcess.h"
+#include "simulator/computer/PreparedDrive.h"
+#include "simulator/demo/UtilityProcess.h"
 #include "ui/AlertPresenter.h"
 
 #include <QObject>

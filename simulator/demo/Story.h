@@ -1,9 +1,9 @@
 #pragma once
 
 #include "simulator/demo/StoryAlerts.h"
-#include "simulator/play/Person.h"
-#include "simulator/play/PreparedDrive.h"
-#include "simulator/play/UtilityProcess.h"
+#include "simulator/demo/Person.h"
+#include "simulator/computer/PreparedDrive.h"
+#include "simulator/demo/UtilityProcess.h"
 
 #include <filesystem>
 #include <memory>

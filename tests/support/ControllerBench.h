@@ -2,9 +2,9 @@
 
 #include "tests/support/FaultyDevice.h"
 #include "tests/support/ScriptedAlerts.h"
-#include "simulator/play/Person.h"
-#include "simulator/play/PreparedDrive.h"
-#include "simulator/play/UtilityProcess.h"
+#include "simulator/demo/Person.h"
+#include "simulator/computer/PreparedDrive.h"
+#include "simulator/demo/UtilityProcess.h"
 #include "tests/support/ForgedReplies.h"
 #include "tests/support/QtPrinting.h"
 

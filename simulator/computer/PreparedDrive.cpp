@@ -1,4 +1,4 @@
-#include "simulator/play/PreparedDrive.h"
+#include "simulator/computer/PreparedDrive.h"
 
 #include "device/DeviceWrites.h"
 #include "device/ZELTOctrl.h"

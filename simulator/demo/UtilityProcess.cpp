@@ -1,4 +1,4 @@
-#include "simulator/play/UtilityProcess.h"
+#include "simulator/demo/UtilityProcess.h"
 
 namespace zelto::simulator {
 

@@ -1,4 +1,4 @@
-#include "simulator/play/Person.h"
+#include "simulator/demo/Person.h"
 
 #include "ui/Window.h"
 
