@@ -47,7 +47,8 @@ public:
     /// VENDOR, blank, MODEL.
     [[nodiscard]] virtual std::string unitName(std::size_t /*unit*/) const { return {}; }
     /// Its storage units as a computer with that clock sees them; null when it has none.
-    [[nodiscard]] virtual std::unique_ptr<UnitStorage> makeUnits(std::function<Moment()> /*clock*/) {
+    [[nodiscard]] virtual std::unique_ptr<UnitStorage>
+    makeUnits(std::function<Moment()> /*clock*/) {
         return nullptr;
     }
 };

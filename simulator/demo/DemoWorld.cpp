@@ -1,7 +1,7 @@
 #include "simulator/demo/DemoWorld.h"
 
-#include "simulator/drive/DriveNames.h"
 #include "simulator/demo/Person.h"
+#include "simulator/drive/DriveNames.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -14,11 +14,6 @@ namespace {
 
 constexpr std::uint64_t NewDriveSectors = 262144;
 constexpr std::chrono::milliseconds WhenIdle{20};
-
-QString stateText(SecurityState state) {
-    const std::string_view name = nameOf(state);
-    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
-}
 
 } // namespace
 
@@ -127,11 +122,11 @@ void DemoWorld::typePassword(const char* password) {
 QString DemoWorld::describe() {
     setVolumesBusy(m_volumesBusy);
     const auto now = m_computer.clock.now();
-    QString text =
-        QStringLiteral("Drive %1: %2")
-            .arg(QString::fromStdString(m_drive->description().serial),
-                 isPlugged() ? stateText(m_drive->drive().state(m_computer.clock.worldTime()))
-                             : QStringLiteral("not plugged in"));
+    const auto state = m_drive->drive().state(m_computer.clock.worldTime());
+    QString text = QStringLiteral("Drive %1: %2")
+                       .arg(QString::fromStdString(m_drive->description().serial),
+                            QString::fromStdString(
+                                std::string(isPlugged() ? nameOf(state) : "not plugged in")));
     QStringList volumes;
     for (const auto& mounted : m_computer.mounts.getmntinfo()) {
         if (mounted.f_mntonname != "/") {

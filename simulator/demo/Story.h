@@ -1,8 +1,8 @@
 #pragma once
 
-#include "simulator/demo/StoryAlerts.h"
-#include "simulator/demo/Person.h"
 #include "simulator/computer/PreparedDrive.h"
+#include "simulator/demo/Person.h"
+#include "simulator/demo/StoryAlerts.h"
 #include "simulator/demo/UtilityProcess.h"
 
 #include <filesystem>

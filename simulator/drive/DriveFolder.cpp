@@ -82,8 +82,7 @@ DriveFolder::DriveFolder(std::filesystem::path folder) : m_folder(std::move(fold
 
 bool DriveFolder::lock(std::string& error) {
     if (!m_directory.isOpen()) {
-        m_directory =
-            FileDescriptor(::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        m_directory = FileDescriptor(::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     }
     if (!m_directory.isOpen()) {
         return failWithErrno(error, m_folder);
@@ -164,7 +163,8 @@ bool DriveFolder::save(const Manufactured& manufactured, const Remembered& remem
         return failWithErrno(error, path);
     }
     // The new name survives a power failure only once the folder is written, too.
-    return !m_directory.isOpen() || ::fsync(m_directory.get()) == 0 || failWithErrno(error, m_folder);
+    return !m_directory.isOpen() || ::fsync(m_directory.get()) == 0 ||
+           failWithErrno(error, m_folder);
 }
 
 } // namespace zelto::simulator

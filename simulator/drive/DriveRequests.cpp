@@ -445,12 +445,11 @@ MediumKey DriveModel::drawKey() {
     ++m_remembered.keysDrawn;
 
     MediumKey key{};
-    SHA256 digest;
     for (std::size_t half = 0; half < key.size() / HalfSize; ++half) {
         record::put(source, Half, half);
-        digest.Init();
-        digest.Input(source.data(), static_cast<std::uint32_t>(source.size()));
-        digest.Get(&key[half * HalfSize]);
+        auto digest = digestOf(source);
+        std::ranges::copy(digest, &key[half * HalfSize]);
+        wipe(digest);
     }
     wipe(source);
     return key;

@@ -171,13 +171,7 @@ std::size_t findBadLine(std::string_view text, SavedDrive& drive) {
 // --- The whole ---------------------------------------------------------------------------------
 
 std::string sumOf(std::string_view text) {
-    std::array<std::uint8_t, 32> sum{};
-    SHA256 digest;
-    digest.Init();
-    digest.Input(reinterpret_cast<const std::uint8_t*>(text.data()),
-                 static_cast<std::uint32_t>(text.size()));
-    digest.Get(sum.data());
-    return hexOf(sum);
+    return hexOf(digestOf({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()}));
 }
 
 /// What a drive can't remember, however it was used; empty when there is no such thing.

@@ -120,8 +120,8 @@ std::unique_ptr<FileSectorStore> FileSectorStore::open(const std::filesystem::pa
                                                        std::uint64_t sectorCount,
                                                        std::string& error) {
     constexpr mode_t OwnerOnly = 0600;
-    linux_platform::FileDescriptor file(::open(
-        path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, OwnerOnly));
+    linux_platform::FileDescriptor file(
+        ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, OwnerOnly));
     std::string reason = file.isOpen() ? std::string() : reasonOf(errno);
     if (file.isOpen() && hasOrGetsSize(file.get(), sectorCount * SectorSize, reason)) {
         return std::unique_ptr<FileSectorStore>(new FileSectorStore(std::move(file), sectorCount));

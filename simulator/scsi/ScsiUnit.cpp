@@ -240,17 +240,10 @@ void ScsiUnit::failTransfer(const Sense& sense) {
 }
 
 std::size_t ScsiUnit::read(std::span<std::uint8_t> buffer) {
-    switch (m_transfer) {
-    case Transfer::Reply:
+    if (m_transfer == Transfer::Reply) {
         return readReply(buffer);
-    case Transfer::ReadMedium:
-        return readMedium(buffer);
-    case Transfer::None:
-    case Transfer::WriteMedium:
-    case Transfer::CompareMedium:
-        break;
     }
-    return 0;
+    return m_transfer == Transfer::ReadMedium ? readMedium(buffer) : 0;
 }
 
 std::size_t ScsiUnit::readReply(std::span<std::uint8_t> buffer) {
@@ -261,8 +254,7 @@ std::size_t ScsiUnit::readReply(std::span<std::uint8_t> buffer) {
 }
 
 std::size_t ScsiUnit::readMedium(std::span<std::uint8_t> buffer) {
-    const std::uint64_t count =
-        std::min<std::uint64_t>(buffer.size() / SectorSize, m_sectorsLeft);
+    const std::uint64_t count = std::min<std::uint64_t>(buffer.size() / SectorSize, m_sectorsLeft);
     const auto size = static_cast<std::size_t>(count * SectorSize);
     if (size == 0) {
         return 0;

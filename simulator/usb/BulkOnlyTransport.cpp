@@ -102,32 +102,21 @@ TransferResult BulkOnlyTransport::out(std::span<const std::uint8_t> data) {
     if (m_outHalted) {
         return {TransferStatus::Stalled, 0};
     }
-    switch (m_phase) {
-    case Phase::Command:
+    if (m_phase == Phase::Command) {
         return takeCommand(data);
-    case Phase::DataOut:
-        return takeData(data);
-    case Phase::DataIn:
-    case Phase::Status:
-        break;
     }
-    return {TransferStatus::Waiting, 0};
+    return m_phase == Phase::DataOut ? takeData(data) : TransferResult{TransferStatus::Waiting, 0};
 }
 
 TransferResult BulkOnlyTransport::in(std::span<std::uint8_t> buffer) {
     if (m_inHalted) {
         return {TransferStatus::Stalled, 0};
     }
-    switch (m_phase) {
-    case Phase::DataIn:
+    if (m_phase == Phase::DataIn) {
         return sendData(buffer);
-    case Phase::Status:
-        return sendStatus(buffer);
-    case Phase::Command:
-    case Phase::DataOut:
-        break;
     }
-    return {TransferStatus::Waiting, 0};
+    return m_phase == Phase::Status ? sendStatus(buffer)
+                                    : TransferResult{TransferStatus::Waiting, 0};
 }
 
 TransferResult BulkOnlyTransport::takeCommand(std::span<const std::uint8_t> data) {

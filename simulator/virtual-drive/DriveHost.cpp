@@ -27,10 +27,6 @@ DriveHost::~DriveHost() {
     }
 }
 
-bool DriveHost::listen(const std::string& address, std::string& error) {
-    return m_server.listen(address, error);
-}
-
 bool DriveHost::attachToKernel(const std::filesystem::path& controller, std::string& error) {
     m_kernel = std::make_unique<VhciPort>(controller);
     if (!m_kernel->isThere(error)) {

@@ -39,7 +39,9 @@ public:
     ~DriveHost() override;
 
     /// Offers the drive to other computers; see UsbipServer::listen.
-    [[nodiscard]] bool listen(const std::string& address, std::string& error);
+    [[nodiscard]] bool listen(const std::string& address, std::string& error) {
+        return m_server.listen(address, error);
+    }
     [[nodiscard]] std::uint16_t port() const { return m_server.port(); }
     /// Whenever the drive is plugged in, it is plugged into this computer's kernel. False, and why
     /// in `error`, when there is no controller to attach to.

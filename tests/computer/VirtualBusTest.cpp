@@ -1,8 +1,8 @@
 #include "device/VendorRequest.h"
 #include "device/ZELTOctrl.h"
-#include "tests/support/FaultyDevice.h"
 #include "simulator/computer/VirtualComputer.h"
 #include "tests/computer/OtherUsbDevices.h"
+#include "tests/support/FaultyDevice.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "tests/support/ScriptedAlerts.h"
 #include "simulator/computer/VirtualComputer.h"
+#include "tests/support/ScriptedAlerts.h"
 
 #include <gtest/gtest.h>
 

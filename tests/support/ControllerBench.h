@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tests/support/FaultyDevice.h"
-#include "tests/support/ScriptedAlerts.h"
-#include "simulator/demo/Person.h"
 #include "simulator/computer/PreparedDrive.h"
+#include "simulator/demo/Person.h"
 #include "simulator/demo/UtilityProcess.h"
+#include "tests/support/FaultyDevice.h"
 #include "tests/support/ForgedReplies.h"
 #include "tests/support/QtPrinting.h"
+#include "tests/support/ScriptedAlerts.h"
 
 #include <QApplication>
 

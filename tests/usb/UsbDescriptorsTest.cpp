@@ -51,9 +51,8 @@ TEST_F(UsbDescriptors, TheLanguages) {
 TEST_F(UsbDescriptors, TheStrings) {
     EXPECT_THAT(descriptor(0x0301, 0x0409),
                 ElementsAre(16, 3, 'K', 0, 'E', 0, 'S', 0, 'T', 0, 'R', 0, 'I', 0, 'N', 0));
-    EXPECT_THAT(descriptor(0x0302, 0x0409),
-                ElementsAre(22, 3, 'Z', 0, 'E', 0, 'L', 0, 'T', 0, 'O', 0, ' ', 0, 'D', 0, 'I', 0,
-                            'S', 0, 'K', 0));
+    EXPECT_THAT(descriptor(0x0302, 0x0409), ElementsAre(22, 3, 'Z', 0, 'E', 0, 'L', 0, 'T', 0, 'O',
+                                                        0, ' ', 0, 'D', 0, 'I', 0, 'S', 0, 'K', 0));
     EXPECT_THAT(descriptor(0x0303, 0x0409),
                 ElementsAre(34, 3, 'Z', 0, 'D', 0, '0', 0, '1', 0, '2', 0, '3', 0, '4', 0, '5', 0,
                             '6', 0, '7', 0, '8', 0, '9', 0, 'A', 0, 'B', 0, 'C', 0, 'D', 0));
