@@ -9,7 +9,7 @@
 namespace zelto {
 
 /// The computer around the program: where its bundle lies, what runs, and its files. File
-/// operations report failure by their result and leave the reason to nobody, as no caller asks.
+/// operations say by their result whether they have failed, but not why.
 class Computer {
 public:
     using FileTime = std::chrono::sys_seconds;

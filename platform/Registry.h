@@ -10,7 +10,7 @@
 
 namespace zelto {
 
-/// A property's value: a text, a number, or something that nobody here reads.
+/// A property's value: a text, a number, or a value of another kind, which is not read.
 using RegistryValue = std::variant<std::monostate, std::string, std::int64_t>;
 /// Properties in the order in which the system lists them. Names in use: "idVendor", "idProduct"
 /// (numbers), "USB Serial Number", "BSD Name" (texts).

@@ -4,8 +4,8 @@
 
 namespace zelto {
 
-/// A line for a number, as wide as its digits need. It refuses nothing: what is not a number is
-/// for the window's own rule to tell.
+/// A line for a number, as wide as its digits need. It takes any text; whether that is a number is
+/// judged by the window's own rule.
 class NumberField : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(int digits READ digits WRITE setDigits)

@@ -34,7 +34,7 @@ PasswordField::PasswordField(QWidget* parent)
 }
 
 PasswordField::~PasswordField() {
-    // Nobody is told any more: the form's other widgets may be gone already.
+    // No signals any more: the form's other widgets may be gone already.
     blockSignals(true);
     wipe();
 }
@@ -46,8 +46,8 @@ void PasswordField::wipe() {
 }
 
 // The characters are overwritten in place: writing through a QString would make a second copy
-// first. But they may be shared with whoever asked for the text, and would change in his hands;
-// then they are his to wipe. Nor can a text of the program's own constants be written.
+// first. They are left alone while another QString shares them, whose text would change with them
+// and whose owner has to wipe it; and where they are a constant of the program, which is read-only.
 void PasswordField::overwriteOwnCharacters() {
     constexpr int FieldAndThisFunction = 2;
     QString characters = text();

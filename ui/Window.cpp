@@ -1,6 +1,6 @@
 #include "ui/Window.h"
 
-// Every form is compiled here once, with the project's warnings, before anybody includes it.
+// Included for its own sake: a form that does not compile fails here and not in the controller.
 #include "ui/Forms.h"
 #include "ui/ProductIcon.h"
 

@@ -17,7 +17,7 @@ public:
 
     /// Centres the window on its screen, shows it, brings it to the front and gives it the focus.
     void centreAndMakeKeyAndOrderFront();
-    /// Takes the window off the screen without asking anybody.
+    /// Takes the window off the screen; closeRequested is not emitted.
     void orderOut();
 
     /// Runs the window as an application-modal dialog over `parent` and returns its code, a

@@ -7,7 +7,7 @@
 namespace zelto {
 namespace {
 
-// Most work is over before anybody would notice the pointer change.
+// Most work takes less; a pointer that changes for a moment would only flicker.
 constexpr int PointerDelayMilliseconds = 300;
 
 bool isInput(QEvent::Type type) {

@@ -29,7 +29,7 @@ void LinuxClock::sleep(std::chrono::seconds duration) {
     QEventLoop loop;
     QTimer::singleShot(duration, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     m_waiting.run(loop);
-    // An application that is ending runs no event loop any more; the pause is owed all the same.
+    // An application that is ending runs no event loop any more; the pause still has to last.
     if (!end.hasExpired()) {
         std::this_thread::sleep_for(std::chrono::nanoseconds(end.remainingTimeNSecs()));
     }

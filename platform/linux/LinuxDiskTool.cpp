@@ -15,7 +15,7 @@ namespace {
 
 /// How often a volume that the desktop has mounted again is unmounted again.
 constexpr int Attempts = 5;
-/// A volume can be mounted in several places; more than this is a service gone mad.
+/// A volume can be mounted in several places; a service that tells of more is broken.
 constexpr int MostMountPoints = 32;
 /// FAT's, in bytes.
 constexpr std::size_t LongestLabel = 11;
@@ -169,7 +169,8 @@ bool LinuxDiskTool::unmountEverywhere(const QString& block) {
         if (failedWith(reply, udisks::error::NotMounted)) {
             return true;
         }
-        // It said that it had done it: once more, and it will say NotMounted if it has.
+        // The service said that it has unmounted, and still shows the volume as mounted. If it
+        // has, a second call is answered with NotMounted.
         if (!succeeded(reply) || std::exchange(triedInVain, true)) {
             return false;
         }

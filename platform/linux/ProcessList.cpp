@@ -59,8 +59,8 @@ std::optional<FileMapping> parseMapping(std::string_view line) {
     if (end.ec != std::errc{} || end.ptr != last) {
         return std::nullopt;
     }
-    // Only line ends are escaped here; a path with a backslash and digits of its own is beyond
-    // what the kernel lets anybody tell.
+    // The kernel escapes line ends only, so a path that has a backslash and such digits itself
+    // looks like an escaped one, and is read wrongly.
     mapping.path = decodeOctalEscapes(rest);
     return mapping;
 }

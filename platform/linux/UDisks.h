@@ -30,8 +30,8 @@ public:
     [[nodiscard]] std::optional<UDisksState> state();
 
     using Predicate = std::function<bool(const UDisksState&)>;
-    /// Waits until the service's own picture shows what is wanted: a method returns before the
-    /// properties follow, up to seconds before. False when it has not come after `limit`, or the
+    /// Waits until the service's own picture shows what is wanted: its properties may follow a
+    /// method's return by seconds. False when it has not come after `limit`, or the
     /// service is gone; asks at least once.
     [[nodiscard]] bool waitFor(const Predicate& wanted, std::chrono::milliseconds limit);
 

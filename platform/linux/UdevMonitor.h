@@ -64,8 +64,8 @@ public:
 private:
     udev* m_udev = nullptr;
     udev_monitor* m_monitor = nullptr;
-    /// What takes the place of the socket once silenced: closing the socket's number itself would
-    /// let libudev close it a second time, whoever has it by then.
+    /// What takes the place of the socket once silenced. If the socket were closed, libudev would
+    /// close its number again later, when that may belong to another file.
     int m_nothing = -1;
     std::atomic<int> m_descriptor{-1};
     std::atomic<bool> m_silenced{false};
