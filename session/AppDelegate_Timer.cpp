@@ -30,7 +30,7 @@ QString setupText(SetupView::Text text) {
 void AppDelegate::TimerHandler() {
     tickSetup();
     if (m_gate.isClosedForGood()) {
-        return; // A set-up that has given up sends nothing more on its way out.
+        return; // After a failed set-up nothing more is sent to the drive.
     }
 
     const auto now = m_platform.clock.now();
@@ -129,7 +129,7 @@ void AppDelegate::MainSettingsSetTimeAction() {
     if (reportIfFailed(SetCurrentTime())) {
         return;
     }
-    // A clock that was valid before is set without a word.
+    // No message for a clock that was valid before.
     if (TimeStatusInvalid) {
         ShowMessage(localized("IDS_TIME_SYNC_COMPLETE"));
         TerminateApplication();
@@ -141,7 +141,7 @@ void AppDelegate::UpdateCheckBoxShowRemainingTime() {
 }
 
 void AppDelegate::UpdateUserDefaultsShowRemainingTime() {
-    // Everything else has been accepted by now; a choice that was not is no reason to stay.
+    // Ignored: everything else has been accepted by now, and the program can end.
     (void)writeShowRemainingTime(Device(),
                                  MainSettingsWindow.ShowRemainingTimeCheckBox->isChecked());
 }

@@ -110,7 +110,7 @@ void AppDelegate::showAreaSettingsBar() {
     const auto secure = chosenSecureDisks();
     std::vector<AreaBar::Segment> segments;
     for (std::size_t disk = 0; disk < secure.size(); ++disk) {
-        // A picture of more than four times the drive tells nobody anything.
+        // Any size can be typed; a share of more than four drives would look no different.
         const std::uint64_t drawn =
             std::min(Settings.AreaSettingsDiskCapacity[disk], 4 * (total + 1));
         segments.push_back({QStringLiteral("Disk") + QString::number(disk + 1), drawn,

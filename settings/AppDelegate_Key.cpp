@@ -10,7 +10,7 @@
 namespace zelto {
 namespace {
 
-/// A drive with a secure area is cleared unlocked, or when nothing is left in it to protect.
+/// A drive with a secure area is cleared while unlocked, or when no password opens it any more.
 bool mayBeCleared(SecurityState state) {
     return state == SecurityState::StateNoPassword || state == SecurityState::StateUnlocking ||
            state == SecurityState::StateFullLock;
@@ -63,7 +63,7 @@ void AppDelegate::MainSettingsAutoClearEraseAction() {
         ShowMessage(localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
         return;
     }
-    // The drive erases its key by itself when the period has run out: now, as good as.
+    // The drive erases its key when the period has run out, so the shortest one does it at once.
     constexpr std::uint32_t OneSecond = 1;
     if (reportIfFailed(TKVR21_ZELTO_SetErasePeriod(Device(), OneSecond))) {
         return;
@@ -110,7 +110,7 @@ bool AppDelegate::clearPeriodsAndHint(SecurityState state) {
     return !reportIfFailed(writeShowRemainingTime(Device(), ShowRemainingTime));
 }
 
-/// A drive that refuses only because of its security state forgets its key first.
+/// When the drive refuses only because of its security state, its key is cleared first.
 bool AppDelegate::resetAreaInfos() {
     if (TKVR21_ResetAreaInfos(Device(), true, true) == kIOReturnSuccess) {
         return true;

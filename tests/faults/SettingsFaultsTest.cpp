@@ -16,7 +16,7 @@ protected:
         std::function<void()> act;
         /// What is to hold after a transfer went wrong whose failure counts.
         std::function<void()> afterFailure;
-        /// Commands whose failure is nobody's business.
+        /// Commands whose failure the program ignores.
         std::vector<std::string> unchecked;
         /// Messages that the flow shows anyway.
         std::size_t ownMessages = 0;
