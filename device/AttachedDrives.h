@@ -24,6 +24,8 @@ struct AttachedDrives {
         RuleMissing,
         /// Another seat or session holds the access.
         OtherSession,
+        /// Another copy of the program has opened the drive.
+        InUse,
     };
 
     std::uint8_t DevCnt = 0;

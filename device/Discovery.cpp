@@ -48,6 +48,8 @@ void noteRefusal(AttachedDrives& drives, IOReturn result) {
         drives.RefusedAccess = AttachedDrives::Access::RuleMissing;
     } else if (result == kIOReturnNotPermitted) {
         drives.RefusedAccess = AttachedDrives::Access::OtherSession;
+    } else if (result == kIOReturnExclusiveAccess) {
+        drives.RefusedAccess = AttachedDrives::Access::InUse;
     }
 }
 

@@ -17,6 +17,8 @@ inline constexpr IOReturn kIOReturnNoDevice = 0xE00002C0;
 inline constexpr IOReturn kIOReturnNotPrivileged = 0xE00002C1;
 /// Opening was refused to this user: the device belongs to another seat or session.
 inline constexpr IOReturn kIOReturnNotPermitted = 0xE00002E2;
+/// Opening was refused: another program has the device open.
+inline constexpr IOReturn kIOReturnExclusiveAccess = 0xE00002C5;
 /// Protocol or CRC error, or any failure that has no code of its own.
 inline constexpr IOReturn kIOReturnIOError = 0xE00002CA;
 /// The request itself is malformed (a length that no transfer can carry).

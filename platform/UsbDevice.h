@@ -35,9 +35,10 @@ public:
     [[nodiscard]] virtual std::uint16_t GetDeviceProduct() const = 0;
     [[nodiscard]] virtual std::uint16_t GetDeviceReleaseNumber() const = 0;
 
-    /// Opens the device for control transfers. No interface is claimed and no kernel driver is
-    /// detached: the storage driver keeps the drive's units. May block for a fraction of a second
-    /// while the system is still setting the device's permissions.
+    /// Opens the device for control transfers and for nobody else: kIOReturnExclusiveAccess tells
+    /// that another program of this kind has it, and then it is not open here. No interface is
+    /// claimed and no kernel driver is detached: the storage driver keeps the drive's units. May
+    /// block for a fraction of a second while the system is still setting the device's permissions.
     /// kIOReturnNotPrivileged and kIOReturnNotPermitted tell why access was refused.
     [[nodiscard]] virtual IOReturn USBDeviceOpen() = 0;
 

@@ -16,6 +16,8 @@ QString accessHint(AttachedDrives::Access access) {
         return localized("IDS_HINT_RULE_MISSING");
     case AttachedDrives::Access::OtherSession:
         return localized("IDS_HINT_OTHER_SESSION");
+    case AttachedDrives::Access::InUse:
+        return localized("IDS_HINT_DRIVE_IN_USE");
     }
     return {};
 }

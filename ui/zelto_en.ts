@@ -170,6 +170,10 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source></source>
         <translation>A ZELTO DISK is plugged in, but it belongs to another user’s session on this computer. Use it from that session, or log in at this computer’s own screen and plug it in again.</translation>
     </message>
+    <message id="IDS_HINT_DRIVE_IN_USE">
+        <source></source>
+        <translation>A ZELTO DISK is plugged in, but another copy of this program uses it. Close that copy, then start this program again.</translation>
+    </message>
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source></source>
         <translation>Still using the drive: %1</translation>

@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <libusb.h>
 #include <linux/usbdevice_fs.h>
+#include <sys/file.h>
 #include <sys/ioctl.h>
 
 #include <cerrno>
@@ -49,8 +50,13 @@ IOReturn LinuxUsbDevice::USBDeviceOpen() {
     if (m_context->get() == nullptr) {
         return kIOReturnIOError;
     }
-    const auto result = openNode();
-    return result == kIOReturnSuccess ? wrapNode() : result;
+    for (const auto step : {&LinuxUsbDevice::openNode, &LinuxUsbDevice::lockNode}) {
+        if (const auto result = (this->*step)(); result != kIOReturnSuccess) {
+            m_node = FileDescriptor();
+            return result;
+        }
+    }
+    return wrapNode();
 }
 
 IOReturn LinuxUsbDevice::openNode() {
@@ -68,6 +74,15 @@ IOReturn LinuxUsbDevice::openNode() {
         QTimer::singleShot(m_patience.pause, &loop, &QEventLoop::quit);
         m_waiting.run(loop);
     }
+}
+
+/// Two programs on one drive would answer for each other: the status that one reads wipes what the
+/// drive had to say to the other. The kernel gives the lock back however the program ends.
+IOReturn LinuxUsbDevice::lockNode() {
+    if (::flock(m_node.get(), LOCK_EX | LOCK_NB) == 0) {
+        return kIOReturnSuccess;
+    }
+    return errno == EWOULDBLOCK ? kIOReturnExclusiveAccess : kIOReturnIOError;
 }
 
 IOReturn LinuxUsbDevice::wrapNode() {

@@ -66,6 +66,7 @@ public:
 private:
     [[nodiscard]] const UsbIdentity& identity() const { return m_announcement.identity; }
     [[nodiscard]] IOReturn openNode();
+    [[nodiscard]] IOReturn lockNode();
     [[nodiscard]] IOReturn wrapNode();
     [[nodiscard]] bool hasLeft() const;
 

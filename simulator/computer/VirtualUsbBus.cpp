@@ -19,6 +19,13 @@ public:
         : m_bus(bus),
           m_attachment(std::move(attachment)),
           m_description(m_attachment->device->description()) {}
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    ~Handle() override {
+        if (isOpen()) {
+            m_attachment->owner = nullptr;
+        }
+    }
 
     [[nodiscard]] std::uint16_t GetDeviceVendor() const override { return m_description.idVendor; }
     [[nodiscard]] std::uint16_t GetDeviceProduct() const override {
@@ -31,21 +38,27 @@ public:
         if (!m_attachment->isAttached) {
             return kIOReturnNoDevice;
         }
-        m_isOpen = m_description.openResult == kIOReturnSuccess;
+        if (m_attachment->owner != nullptr && m_attachment->owner != this) {
+            return kIOReturnExclusiveAccess;
+        }
+        if (m_description.openResult == kIOReturnSuccess) {
+            m_attachment->owner = this;
+        }
         return m_description.openResult;
     }
     [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override {
         return m_description.iSerialNumber;
     }
     [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override {
-        return m_isOpen ? m_bus.request(*m_attachment, request) : kIOReturnNotOpen;
+        return isOpen() ? m_bus.request(*m_attachment, request) : kIOReturnNotOpen;
     }
 
 private:
+    [[nodiscard]] bool isOpen() const { return m_attachment->owner == this; }
+
     VirtualUsbBus& m_bus;
     std::shared_ptr<Attachment> m_attachment;
     UsbDescription m_description;
-    bool m_isOpen = false;
 };
 
 class Service : public UsbService {

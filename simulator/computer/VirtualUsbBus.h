@@ -22,6 +22,8 @@ struct Attachment {
     bool isAttached = true;
     /// The media that the system has ejected, by unit; they stay away until they are exchanged.
     std::map<std::size_t, std::uint64_t> ejectedMedia = {};
+    /// The handle that has opened it, for itself alone; null when none has.
+    const UsbDeviceInterface* owner = nullptr;
 };
 
 /// The computer's USB ports. The physical verbs are plug, unplug and replug; the program sees

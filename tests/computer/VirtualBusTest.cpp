@@ -152,6 +152,17 @@ TEST_F(VirtualBusTest, RefusesToOpenADriveThatNobodyMayOpen) {
     EXPECT_EQ(readStatus(*handle), kIOReturnNotOpen);
 }
 
+TEST_F(VirtualBusTest, OpensADriveForOneHandleAlone) {
+    m_computer.plug(m_drive);
+    listen();
+    const auto second = m_computer.usb.makeHandle(m_computer.usb.attachments().front());
+    EXPECT_EQ(second->USBDeviceOpen(), kIOReturnExclusiveAccess);
+    EXPECT_EQ(readStatus(*second), kIOReturnNotOpen);
+    EXPECT_EQ(readStatus(*m_handles[0]), kIOReturnSuccess);
+    m_handles.clear();
+    EXPECT_EQ(second->USBDeviceOpen(), kIOReturnSuccess);
+}
+
 TEST_F(VirtualBusTest, DeliversNothingOnceThePortIsDestroyed) {
     listen();
     m_computer.usb.IONotificationPortDestroy(m_port);

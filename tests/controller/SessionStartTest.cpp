@@ -186,6 +186,20 @@ TEST_F(StartTest, ADriveThatMayNotBeOpenedIsToldApartFromNoDrive) {
     EXPECT_EQ(text("SelectZeltoAccessHint"), localized("IDS_HINT_OTHER_SESSION"));
 }
 
+TEST_F(StartTest, ASecondCopyLeavesTheDriveToTheFirstAndSaysSo) {
+    m_bench.plugPreparedDrive();
+    auto first = m_bench.computer.usb.makeHandle(m_bench.computer.usb.attachments().front());
+    ASSERT_EQ(first->USBDeviceOpen(), kIOReturnSuccess);
+    m_bench.start();
+    m_bench.tick(3);
+    EXPECT_THAT(m_bench.commands(), IsEmpty());
+    EXPECT_EQ(m_bench.text("SelectZeltoComboBox"), localized("IDS_ERR_NOT_FOUND_ZELTO"));
+    EXPECT_EQ(m_bench.text("SelectZeltoAccessHint"), localized("IDS_HINT_DRIVE_IN_USE"));
+    first.reset();
+    m_bench.start();
+    EXPECT_EQ(m_bench.app().Drives.DevCnt, 1);
+}
+
 TEST_F(StartTest, NoHintIsShownWithoutADriveThatWasRefused) {
     start();
     EXPECT_FALSE(control("SelectZeltoAccessHint")->isVisible());

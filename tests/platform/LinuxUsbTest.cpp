@@ -9,8 +9,11 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
+#include <fcntl.h>
 #include <libusb.h>
 #include <memory>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -163,6 +166,46 @@ TEST_F(UsbTest, SaysNoDeviceForADriveThatHasLeft) {
     EXPECT_EQ(readStatus(*device, data), kIOReturnNoDevice);
     auto late = services.at(0)->IOCreatePlugInInterfaceForService();
     EXPECT_EQ(late->USBDeviceOpen(), kIOReturnNoDevice);
+}
+
+TEST_F(UsbTest, OpensADriveForItselfAlone) {
+    bed.plug(2);
+    listenForArrivals();
+    std::array<std::uint8_t, 36> data{};
+    auto second = services.at(0)->IOCreatePlugInInterfaceForService();
+    {
+        const auto first = openFirst();
+        EXPECT_EQ(second->USBDeviceOpen(), kIOReturnExclusiveAccess);
+        EXPECT_EQ(readStatus(*second, data), kIOReturnNotOpen);
+        EXPECT_EQ(readStatus(*first, data), kIOReturnSuccess);
+        EXPECT_EQ(first->USBDeviceOpen(), kIOReturnSuccess) << "it is open already";
+    }
+    EXPECT_EQ(second->USBDeviceOpen(), kIOReturnSuccess);
+    EXPECT_EQ(readStatus(*second, data), kIOReturnSuccess);
+}
+
+TEST_F(UsbTest, LetsADriveGoHoweverTheOtherProcessEnds) {
+    bed.plug(2);
+    listenForArrivals();
+    const auto device = services.at(0)->IOCreatePlugInInterfaceForService();
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    const auto other = ::fork();
+    if (other == 0) {
+        const int node = ::open(bed.nodeFile(2).c_str(), O_RDWR);
+        const char locked = ::flock(node, LOCK_EX | LOCK_NB) == 0 ? 'y' : 'n';
+        (void)!::write(ready[1], &locked, 1);
+        ::pause();
+    }
+    char locked = 0;
+    ASSERT_EQ(::read(ready[0], &locked, 1), 1);
+    EXPECT_EQ(locked, 'y');
+    EXPECT_EQ(device->USBDeviceOpen(), kIOReturnExclusiveAccess);
+    ::kill(other, SIGKILL);
+    ::waitpid(other, nullptr, 0);
+    EXPECT_EQ(device->USBDeviceOpen(), kIOReturnSuccess);
+    ::close(ready[0]);
+    ::close(ready[1]);
 }
 
 TEST_F(UsbTest, RefusesRequestsThatNoTransferCanCarry) {

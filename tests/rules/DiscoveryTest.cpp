@@ -262,9 +262,12 @@ TEST_F(Discovery, KeepsTheReasonWhyPermissionWasRefused) {
     plug("REFUSED")->openResult = kIOReturnNotPermitted;
     usb.deliverArrivals();
     EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::OtherSession);
+    plug("REFUSED")->openResult = kIOReturnExclusiveAccess;
+    usb.deliverArrivals();
+    EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::InUse);
     plug("REFUSED")->openResult = kIOReturnNoDevice;
     usb.deliverArrivals();
-    EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::OtherSession);
+    EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::InUse);
     EXPECT_EQ(drives.DevCnt, 0);
 }
 

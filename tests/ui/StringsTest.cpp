@@ -56,6 +56,7 @@ constexpr KeyRow Catalogue[] = {
     {"IDS_ALL_SECTORS"},
     {"IDS_HINT_RULE_MISSING"},
     {"IDS_HINT_OTHER_SESSION"},
+    {"IDS_HINT_DRIVE_IN_USE"},
     {"IDS_HINT_BUSY_PROGRAMS", 1},
 };
 
