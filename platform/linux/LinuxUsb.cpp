@@ -3,7 +3,6 @@
 #include <QSocketNotifier>
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace zelto::linux_platform {
@@ -41,8 +40,10 @@ private:
     OpenPatience m_patience;
 };
 
-UsbAnnouncement announce(const UdevDevice& device, std::shared_ptr<const UdevMonitor> monitor) {
+UsbAnnouncement announce(const UdevDevice& device, std::shared_ptr<bool> isTaken,
+                         std::shared_ptr<const UdevMonitor> monitor) {
     UsbAnnouncement announcement;
+    announcement.isTaken = std::move(isTaken);
     announcement.syspath = device.syspath;
     announcement.node = device.node;
     announcement.identity = {device.idVendor.value_or(0), device.idProduct.value_or(0),
@@ -100,9 +101,9 @@ IOObject LinuxUsb::IOServiceAddMatchingNotification(IOObject, UsbEvent event,
     // what comes in both is recognised by its place and node.
     resynchronise();
     free->waiting.clear();
-    for (const auto& [syspath, device] : m_present) {
-        if (event == UsbEvent::FirstMatch && matches(device, matching)) {
-            free->waiting.push_back(device);
+    for (const auto& [syspath, stay] : m_present) {
+        if (event == UsbEvent::FirstMatch && matches(stay.device, matching)) {
+            free->waiting.push_back(stay);
         }
     }
     // The listing may have brought news for the iterators that were there before.
@@ -119,10 +120,10 @@ std::unique_ptr<UsbService> LinuxUsb::IOIteratorNext(IOObject iterator) {
         found->armed = true;
         return nullptr;
     }
-    const auto device = std::move(found->waiting.front());
+    const auto stay = std::move(found->waiting.front());
     found->waiting.pop_front();
-    return std::make_unique<LinuxUsbService>(announce(device, m_monitor), m_context, m_waiting,
-                                             m_patience);
+    return std::make_unique<LinuxUsbService>(announce(stay.device, stay.isTaken, m_monitor),
+                                             m_context, m_waiting, m_patience);
 }
 
 void LinuxUsb::IOObjectRelease(IOObject iterator) noexcept {
@@ -156,49 +157,58 @@ void LinuxUsb::readMonitor() {
 }
 
 void LinuxUsb::apply(const UdevDevice& device) {
-    if (device.action == "add") {
+    if (device.action == "remove") {
+        leave(device);
+    } else if (device.action == "add" || device.action == "bind" || device.action == "change") {
         arrive(device);
-    } else if (device.action == "remove") {
-        leave(device.syspath);
     }
 }
 
 void LinuxUsb::resynchronise() {
-    std::set<std::string> gone;
-    for (const auto& [syspath, device] : m_present) {
-        gone.insert(syspath);
-    }
+    Present gone = m_present;
     for (const auto& device : m_monitor->list()) {
         gone.erase(device.syspath);
         arrive(device);
     }
-    for (const auto& syspath : gone) {
-        leave(syspath);
+    for (const auto& [syspath, stay] : gone) {
+        leave(stay.device);
     }
 }
 
+/// A device can be listed or announced before its attributes can be read or before it may be
+/// opened, so until somebody has opened it, every event of it is its arrival once more.
 void LinuxUsb::arrive(const UdevDevice& device) {
+    auto known = m_present.find(device.syspath);
+    if (known != m_present.end() && known->second.device.node != device.node) {
+        leave(UdevDevice(known->second.device)); // its removal was lost
+        known = m_present.end();
+    }
+    const bool isListedAgain = known != m_present.end() && device.action.empty();
+    auto& stay = m_present[device.syspath];
+    // An event that is read late finds the attributes gone; the removal still has to match.
+    if (known == m_present.end() || device.idVendor) {
+        stay.device = device;
+    }
+    if (!isListedAgain && !*stay.isTaken) {
+        deliver(UsbEvent::FirstMatch, stay);
+    }
+}
+
+/// A removal that is read late may be that of the stay before, in the same place.
+void LinuxUsb::leave(const UdevDevice& device) {
     const auto known = m_present.find(device.syspath);
-    if (known != m_present.end()) {
-        if (known->second.node == device.node) {
-            return; // listed at the start, and announced as well
-        }
-        leave(device.syspath); // its removal was lost
-    }
-    m_present[device.syspath] = device;
-    deliver(UsbEvent::FirstMatch, device);
-}
-
-void LinuxUsb::leave(const std::string& syspath) {
-    if (const auto known = m_present.extract(syspath)) {
-        deliver(UsbEvent::Terminate, known.mapped());
+    if (known != m_present.end() && known->second.device.node == device.node) {
+        deliver(UsbEvent::Terminate, m_present.extract(known).mapped());
     }
 }
 
-void LinuxUsb::deliver(UsbEvent event, const UdevDevice& device) {
+void LinuxUsb::deliver(UsbEvent event, const Stay& stay) {
     for (auto& iterator : m_iterators) {
-        if (iterator.inUse && iterator.event == event && matches(device, iterator.matching)) {
-            iterator.waiting.push_back(device);
+        const bool waitsAlready = std::ranges::find(iterator.waiting, stay.isTaken,
+                                                    &Stay::isTaken) != iterator.waiting.end();
+        if (iterator.inUse && iterator.event == event && !waitsAlready &&
+            matches(stay.device, iterator.matching)) {
+            iterator.waiting.push_back(stay);
         }
     }
 }

@@ -38,8 +38,15 @@ public:
     void IOObjectRelease(IOObject iterator) noexcept override;
 
 private:
-    /// What udev said of a device when it arrived; all there is to know of it when it leaves.
-    using Present = std::map<std::string, UdevDevice>;
+    /// One stay of a device, from its arrival to its removal.
+    struct Stay {
+        /// What udev said of it when it was there; all there is to know of it when it leaves.
+        UdevDevice device;
+        /// Somebody has opened it or is about to.
+        std::shared_ptr<bool> isTaken = std::make_shared<bool>(false);
+    };
+    /// By place in sysfs.
+    using Present = std::map<std::string, Stay>;
 
     struct Iterator {
         /// Cleared from signal context; the rest is then left for the main thread.
@@ -47,7 +54,7 @@ private:
         UsbEvent event = UsbEvent::FirstMatch;
         UsbMatching matching;
         Callback callback;
-        std::deque<UdevDevice> waiting;
+        std::deque<Stay> waiting;
         /// Drained since it last called back: the next device calls back again.
         bool armed = false;
     };
@@ -57,8 +64,8 @@ private:
     void apply(const UdevDevice& device);
     void resynchronise();
     void arrive(const UdevDevice& device);
-    void leave(const std::string& syspath);
-    void deliver(UsbEvent event, const UdevDevice& device);
+    void leave(const UdevDevice& device);
+    void deliver(UsbEvent event, const Stay& stay);
     void callBack();
 
     const Waiting& m_waiting;

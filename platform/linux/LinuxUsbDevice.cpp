@@ -40,6 +40,7 @@ LinuxUsbDevice::~LinuxUsbDevice() {
     // libusb does not close a descriptor that it has been given; m_node does, after this.
     if (m_handle != nullptr) {
         libusb_close(m_handle);
+        *m_announcement.isTaken = false;
     }
 }
 
@@ -50,13 +51,16 @@ IOReturn LinuxUsbDevice::USBDeviceOpen() {
     if (m_context->get() == nullptr) {
         return kIOReturnIOError;
     }
-    for (const auto step : {&LinuxUsbDevice::openNode, &LinuxUsbDevice::lockNode}) {
+    const bool wasTaken = std::exchange(*m_announcement.isTaken, true);
+    for (const auto step :
+         {&LinuxUsbDevice::openNode, &LinuxUsbDevice::lockNode, &LinuxUsbDevice::wrapNode}) {
         if (const auto result = (this->*step)(); result != kIOReturnSuccess) {
             m_node = FileDescriptor();
+            *m_announcement.isTaken = wasTaken;
             return result;
         }
     }
-    return wrapNode();
+    return kIOReturnSuccess;
 }
 
 IOReturn LinuxUsbDevice::openNode() {
@@ -82,7 +86,8 @@ IOReturn LinuxUsbDevice::lockNode() {
     if (::flock(m_node.get(), LOCK_EX | LOCK_NB) == 0) {
         return kIOReturnSuccess;
     }
-    return errno == EWOULDBLOCK ? kIOReturnExclusiveAccess : kIOReturnIOError;
+    const bool isHeld = errno == EWOULDBLOCK;
+    return hasLeft() ? kIOReturnNoDevice : isHeld ? kIOReturnExclusiveAccess : kIOReturnIOError;
 }
 
 IOReturn LinuxUsbDevice::wrapNode() {
@@ -90,9 +95,7 @@ IOReturn LinuxUsbDevice::wrapNode() {
         libusb_wrap_sys_device(m_context->get(), std::intptr_t{m_node.get()}, &m_handle);
     if (status != LIBUSB_SUCCESS) {
         m_handle = nullptr;
-        const auto result = hasLeft() ? kIOReturnNoDevice : resultOfTransfer(status);
-        m_node = FileDescriptor();
-        return result;
+        return hasLeft() ? kIOReturnNoDevice : resultOfTransfer(status);
     }
     libusb_device_descriptor descriptor{};
     libusb_get_device_descriptor(libusb_get_device(m_handle), &descriptor);
@@ -100,7 +103,6 @@ IOReturn LinuxUsbDevice::wrapNode() {
         descriptor.idProduct != identity().idProduct) {
         // The device has left and another one has been given its number meanwhile.
         libusb_close(std::exchange(m_handle, nullptr));
-        m_node = FileDescriptor();
         return kIOReturnNoDevice;
     }
     m_announcement.identity.bcdDevice = descriptor.bcdDevice;

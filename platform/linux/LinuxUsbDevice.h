@@ -31,6 +31,8 @@ struct UsbAnnouncement {
     UsbIdentity identity;
     /// Asked when an open is refused; the system may have learned more since the arrival.
     std::function<AccessRule()> accessRule;
+    /// Says so while somebody has the device open or is opening it.
+    std::shared_ptr<bool> isTaken = std::make_shared<bool>(false);
 };
 
 /// How long an open waits for permissions that follow the node by a moment.

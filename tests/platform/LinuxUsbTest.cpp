@@ -50,6 +50,10 @@ protected:
     }
     void drain() {
         while (auto service = usb.IOIteratorNext(added)) {
+            if (opensArrivals) {
+                opened.push_back(service->IOCreatePlugInInterfaceForService());
+                EXPECT_EQ(opened.back()->USBDeviceOpen(), kIOReturnSuccess);
+            }
             services.push_back(std::move(service));
         }
     }
@@ -75,6 +79,9 @@ protected:
     IOObject added = 0;
     IOObject removed = 0;
     std::vector<std::unique_ptr<UsbService>> services;
+    std::vector<std::unique_ptr<UsbDeviceInterface>> opened;
+    /// Drives are opened as they arrive, as discovery does.
+    bool opensArrivals = false;
     int callbacks = 0;
     int removals = 0;
 };
@@ -111,6 +118,64 @@ TEST_F(UsbTest, ReportsADriveThatLeavesAndOneThatComesBack) {
     bed.plug(2);
     processEvents();
     EXPECT_EQ(services.size(), 2U);
+}
+
+TEST_F(UsbTest, OffersADriveAgainThatCouldNotBeOpenedYetUntilItIsOpen) {
+    const auto syspath = bed.plug(2);
+    listenForArrivals();
+    ASSERT_EQ(::rename(bed.nodeFile(2).c_str(), (bed.nodeFile(2) + "-late").c_str()), 0);
+    EXPECT_NE(services.at(0)->IOCreatePlugInInterfaceForService()->USBDeviceOpen(),
+              kIOReturnSuccess);
+    ASSERT_EQ(::rename((bed.nodeFile(2) + "-late").c_str(), bed.nodeFile(2).c_str()), 0);
+    for (const auto* action : {"bind", "change", "add"}) {
+        services.clear();
+        bed.announce(syspath, action);
+        processEvents();
+        ASSERT_EQ(services.size(), 1U) << action;
+    }
+    const auto device = openFirst();
+    for (const auto* action : {"bind", "change", "add", "unbind"}) {
+        bed.announce(syspath, action);
+    }
+    processEvents();
+    EXPECT_EQ(services.size(), 1U) << "it is open now";
+}
+
+TEST_F(UsbTest, OffersADriveWhoseAttributesCouldNotBeReadAtFirst) {
+    const auto syspath = bed.plug(2);
+    bed.set(syspath, "idVendor", "");
+    EXPECT_EQ(listenForArrivals(), 0U);
+    bed.set(syspath, "idVendor", "07f7\n");
+    bed.announce(syspath, "bind");
+    processEvents();
+    EXPECT_EQ(services.size(), 1U);
+}
+
+TEST_F(UsbTest, TakesAReplugForOneArrivalHoweverLateItIsToldOfIt) {
+    opensArrivals = true;
+    const auto syspath = bed.plug(2);
+    EXPECT_EQ(listenForArrivals(), 1U);
+    // Out and in again: another node in the same place, listed before the events are read.
+    bed.unplug(syspath);
+    bed.plug(3, "0135", "250-2");
+    (void)usb.IOServiceAddMatchingNotification(port, UsbEvent::Terminate, Zelto, [](IOObject) {});
+    processEvents();
+    EXPECT_EQ(services.size(), 2U);
+    EXPECT_EQ(removals, 1);
+}
+
+TEST_F(UsbTest, IgnoresTheRemovalOfAStayThatIsOver) {
+    const auto syspath = bed.plug(2);
+    listenForArrivals();
+    bed.unplug(syspath);
+    bed.plug(3, "0135", "250-2");
+    processEvents();
+    const auto arrivals = services.size();
+    bed.announceRemovalOf(2, syspath);
+    bed.announce(syspath, "add");
+    processEvents();
+    EXPECT_EQ(removals, 1);
+    EXPECT_EQ(services.size(), arrivals + 1) << "offered again, as nobody has opened it";
 }
 
 TEST_F(UsbTest, FallsSilentOnceThePortIsDestroyed) {

@@ -34,18 +34,24 @@ std::string descriptors(const char* product) {
            "090400000008065000";
 }
 
-std::string describe(unsigned number, const char* product) {
+std::string nodeOf(unsigned number) {
+    char node[64];
+    std::snprintf(node, sizeof node, "/dev/bus/usb/250/%03u", number);
+    return node;
+}
+
+std::string describe(unsigned number, const char* product, const std::string& place) {
     char text[1024];
     std::snprintf(text, sizeof text,
-                  "P: /devices/zelto/usb250/250-%u\n"
+                  "P: /devices/zelto/usb250/%s\n"
                   "N: bus/usb/250/%03u=%s\n"
                   "E: DEVTYPE=usb_device\nE: SUBSYSTEM=usb\n"
                   "E: BUSNUM=250\nE: DEVNUM=%03u\nE: DEVNAME=/dev/bus/usb/250/%03u\n"
                   "E: MAJOR=189\nE: MINOR=%u\n"
                   "A: busnum=250\\n\nA: devnum=%u\\n\n"
                   "A: idVendor=07f7\\n\nA: idProduct=%s\\n\nA: bcdDevice=0100\\n\n",
-                  number, number, descriptors(product).c_str(), number, number, 32000 + number,
-                  number, product);
+                  place.c_str(), number, descriptors(product).c_str(), number, number,
+                  32000 + number, number, product);
     return text;
 }
 
@@ -73,20 +79,21 @@ UsbBed::~UsbBed() {
     }
 }
 
-std::string UsbBed::plug(unsigned number, const char* product) {
-    char node[64];
-    std::snprintf(node, sizeof node, "/dev/bus/usb/250/%03u", number);
+std::string UsbBed::plug(unsigned number, const char* product, std::string place) {
+    if (place.empty()) {
+        place = "250-" + std::to_string(number);
+    }
     // The bed remembers the handler of a node when its device leaves.
-    if (m_nodes.insert(node).second) {
-        umockdev_testbed_attach_ioctl(m_bed, node, m_handler, nullptr);
+    if (const auto node = nodeOf(number); m_nodes.insert(node).second) {
+        umockdev_testbed_attach_ioctl(m_bed, node.c_str(), m_handler, nullptr);
     }
     GError* error = nullptr;
-    umockdev_testbed_add_from_string(m_bed, describe(number, product).c_str(), &error);
+    umockdev_testbed_add_from_string(m_bed, describe(number, product, place).c_str(), &error);
     if (error != nullptr) {
         throw std::runtime_error(error->message);
     }
     failure = 0;
-    auto syspath = "/sys/devices/zelto/usb250/250-" + std::to_string(number);
+    auto syspath = "/sys/devices/zelto/usb250/" + place;
     announce(syspath, "add");
     return syspath;
 }
@@ -96,6 +103,18 @@ void UsbBed::unplug(const std::string& syspath) {
     // Its attributes are gone by the time that the event is read.
     announce(syspath, "remove");
     umockdev_testbed_remove_device(m_bed, syspath.c_str());
+}
+
+void UsbBed::set(const std::string& syspath, const char* attribute, const char* value) {
+    umockdev_testbed_set_attribute(m_bed, syspath.c_str(), attribute, value);
+}
+
+void UsbBed::announceRemovalOf(unsigned number, const std::string& syspath) {
+    char* now = umockdev_testbed_get_property(m_bed, syspath.c_str(), "DEVNAME");
+    umockdev_testbed_set_property(m_bed, syspath.c_str(), "DEVNAME", nodeOf(number).c_str());
+    announce(syspath, "remove");
+    umockdev_testbed_set_property(m_bed, syspath.c_str(), "DEVNAME", now);
+    g_free(now);
 }
 
 void UsbBed::announce(const std::string& syspath, const char* action) {

@@ -23,9 +23,13 @@ public:
     UsbBed& operator=(const UsbBed&) = delete;
     ~UsbBed();
 
-    /// Attaches a drive and announces it. Returns its folder in sysfs.
-    std::string plug(unsigned number, const char* product = "0135");
+    /// Attaches a drive and announces it, in a place of its own if none is named ("250-2" say).
+    /// Returns its folder in sysfs.
+    std::string plug(unsigned number, const char* product = "0135", std::string place = {});
     void unplug(const std::string& syspath);
+    void set(const std::string& syspath, const char* attribute, const char* value);
+    /// Tells of the removal of an earlier device in that place.
+    void announceRemovalOf(unsigned number, const std::string& syspath);
     void announce(const std::string& syspath, const char* action);
     /// The real file that stands for a drive's node.
     [[nodiscard]] std::string nodeFile(unsigned number) const;
