@@ -10,7 +10,10 @@ AppDelegate::AppDelegate(const Platform& platform)
       m_discovery{platform.usb, Drives, [this](UsbEvent event, const std::function<void()>& run) {
                       m_gate.deliver(event == UsbEvent::FirstMatch ? EventGate::Event::Arrival
                                                                    : EventGate::Event::Removal,
-                                     run);
+                                     [this, run] {
+                                         run();
+                                         UpdateAccessHint();
+                                     });
                   }} {
     connectSessionWindows();
     connectSettingsWindows();

@@ -99,6 +99,7 @@ public:
     void ProcessBySecurityState();
     /// Fills the selection window from the list of drives; does not bring it forward.
     void DisplaySelectZeltoWindow();
+    void UpdateAccessHint();
     void SelectZeltoUpdateAction();
     void SelectZeltoOKAction();
     void SelectZeltoCancelAction();

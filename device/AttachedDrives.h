@@ -18,7 +18,7 @@ struct AttachedDrives {
 
     /// Why a drive that is there could not be opened.
     enum class Access {
-        /// Every drive seen could be opened.
+        /// Every drive that is attached could be opened.
         Granted,
         /// The system grants nobody access: the device rule is not installed.
         RuleMissing,
@@ -41,8 +41,17 @@ struct AttachedDrives {
     /// The chosen drive was told to reconnect and has not come back yet.
     bool WaitReconnectZelto = false;
 
-    /// The latest drive that could not be opened, for want of permission.
-    Access RefusedAccess = Access::Granted;
+    /// A drive that is attached but could not be opened, for want of permission.
+    struct Refusal {
+        std::unique_ptr<UsbDeviceInterface> device;
+        Access reason = Access::Granted;
+    };
+    std::vector<Refusal> Refused;
+    /// The reason that the latest of them gave; Granted when there is none.
+    [[nodiscard]] Access refusedAccess() const {
+        return Refused.empty() ? Access::Granted : Refused.back().reason;
+    }
+
     /// Every interface ever opened, listed or not.
     std::vector<std::unique_ptr<UsbDeviceInterface>> Opened;
 };

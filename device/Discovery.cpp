@@ -43,13 +43,31 @@ std::string readSerialNumber(UsbDeviceInterface& device) {
     return decodeSerialNumber(descriptor);
 }
 
-void noteRefusal(AttachedDrives& drives, IOReturn result) {
-    if (result == kIOReturnNotPrivileged) {
-        drives.RefusedAccess = AttachedDrives::Access::RuleMissing;
-    } else if (result == kIOReturnNotPermitted) {
-        drives.RefusedAccess = AttachedDrives::Access::OtherSession;
-    } else if (result == kIOReturnExclusiveAccess) {
-        drives.RefusedAccess = AttachedDrives::Access::InUse;
+AttachedDrives::Access accessAfter(IOReturn opened) {
+    switch (opened) {
+    case kIOReturnNotPrivileged:
+        return AttachedDrives::Access::RuleMissing;
+    case kIOReturnNotPermitted:
+        return AttachedDrives::Access::OtherSession;
+    case kIOReturnExclusiveAccess:
+        return AttachedDrives::Access::InUse;
+    default:
+        return AttachedDrives::Access::Granted;
+    }
+}
+
+void forgetRefusal(AttachedDrives& drives, std::uint32_t location) {
+    std::erase_if(drives.Refused, [&](const AttachedDrives::Refusal& refusal) {
+        return refusal.device->GetLocationID() == location;
+    });
+}
+
+/// A drive that is gone, or broken, is no matter of permission and is not kept.
+void noteRefusal(AttachedDrives& drives, std::unique_ptr<UsbDeviceInterface> device,
+                 IOReturn opened) {
+    const auto reason = accessAfter(opened);
+    if (reason != AttachedDrives::Access::Granted) {
+        drives.Refused.push_back({std::move(device), reason});
     }
 }
 
@@ -73,8 +91,9 @@ void recogniseReturn(AttachedDrives& drives, UsbDeviceInterface& device,
 
 void takeDrive(AttachedDrives& drives, std::unique_ptr<UsbDeviceInterface> device) {
     const IOReturn opened = device->USBDeviceOpen();
+    forgetRefusal(drives, device->GetLocationID());
     if (opened != kIOReturnSuccess) {
-        noteRefusal(drives, opened);
+        noteRefusal(drives, std::move(device), opened);
         return;
     }
     UsbDeviceInterface& drive = *drives.Opened.emplace_back(std::move(device));
@@ -121,7 +140,14 @@ void UsbDeviceAdded(DiscoveryContext& context, IOObject iterator) {
 }
 
 void UsbDeviceRemoved(DiscoveryContext& context, IOObject iterator) {
-    while (context.usb.IOIteratorNext(iterator)) {
+    while (const auto service = context.usb.IOIteratorNext(iterator)) {
+        forgetRefusal(context.drives, service->GetLocationID());
+    }
+}
+
+void TryRefusedDrivesAgain(AttachedDrives& drives) {
+    for (auto& refusal : std::exchange(drives.Refused, {})) {
+        takeDrive(drives, std::move(refusal.device));
     }
 }
 

@@ -39,13 +39,17 @@ extern std::atomic<IOObject> gRawRemovedIter;
                                             DiscoveryContext& context);
 
 /// Opens every drive that the iterator yields and lists it; the ninth and later ones stay open
-/// without being listed. A drive that cannot be opened is passed over, and the reason kept when it
-/// is a matter of permission. The drive that was told to reconnect becomes the current one.
+/// without being listed. A drive that cannot be opened is passed over, and kept with the reason
+/// when it is a matter of permission. The drive that was told to reconnect becomes the current one.
 void UsbDeviceAdded(DiscoveryContext& context, IOObject iterator);
 
-/// Drains the iterator, which arms the notification again. The lists stay as they are: a drive
-/// that is gone is noticed by its commands.
+/// Drains the iterator, which arms the notification again. The list of drives stays as it is: one
+/// that is gone is noticed by its commands. One that was never open is refused no more.
 void UsbDeviceRemoved(DiscoveryContext& context, IOObject iterator);
+
+/// Opens what could not be opened before and can be now: no event tells that another program has
+/// let a drive go.
+void TryRefusedDrivesAgain(AttachedDrives& drives);
 
 /// Reads a string descriptor in English, United States (USB 2.0, 9.4.3 and 9.6.7). `buffer` holds
 /// at least `length` bytes; a shorter answer leaves the rest as it was.

@@ -35,6 +35,10 @@ public:
     [[nodiscard]] virtual std::uint16_t GetDeviceProduct() const = 0;
     [[nodiscard]] virtual std::uint16_t GetDeviceReleaseNumber() const = 0;
 
+    /// The device's stay on the bus: no two devices that are attached have the same number, and a
+    /// device gets another one each time it is plugged in. Never blocks, never fails.
+    [[nodiscard]] virtual std::uint32_t GetLocationID() const = 0;
+
     /// Opens the device for control transfers and for nobody else: kIOReturnExclusiveAccess tells
     /// that another program of this kind has it, and then it is not open here. No interface is
     /// claimed and no kernel driver is detached: the storage driver keeps the drive's units. May

@@ -33,6 +33,9 @@ public:
     UsbService& operator=(const UsbService&) = delete;
     virtual ~UsbService() = default;
 
+    /// As the interface's; known also of a device that has left.
+    [[nodiscard]] virtual std::uint32_t GetLocationID() const = 0;
+
     /// The interface to the device, not yet open; null when the system has none for it (it has
     /// left again, say).
     [[nodiscard]] virtual std::unique_ptr<UsbDeviceInterface>

@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "device/DeviceReads.h"
+#include "device/Discovery.h"
 #include "platform/Clock.h"
 #include "session/ClockText.h"
 #include "ui/Strings.h"
@@ -100,11 +101,18 @@ void AppDelegate::DisplaySelectZeltoWindow() {
     form.SelectZeltoOK->setEnabled(anyDrive);
     form.SelectZeltoComboBox->setCurrentIndex(0);
 
-    form.SelectZeltoAccessHint->setText(accessHint(Drives.RefusedAccess));
-    form.SelectZeltoAccessHint->setVisible(Drives.RefusedAccess != AttachedDrives::Access::Granted);
+    UpdateAccessHint();
+}
+
+/// Beside the list, of the drives that are attached at this moment.
+void AppDelegate::UpdateAccessHint() {
+    auto& hint = *SelectZeltoWindow.SelectZeltoAccessHint;
+    hint.setText(accessHint(Drives.refusedAccess()));
+    hint.setVisible(Drives.refusedAccess() != AttachedDrives::Access::Granted);
 }
 
 void AppDelegate::SelectZeltoUpdateAction() {
+    TryRefusedDrivesAgain(Drives);
     DisplaySelectZeltoWindow();
 }
 

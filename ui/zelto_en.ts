@@ -164,15 +164,15 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_RULE_MISSING">
         <source></source>
-        <translation>A ZELTO DISK is plugged in, but this computer does not let you use it yet. Install the program’s package, or ask your administrator to add its device rule, then plug the drive in again.</translation>
+        <translation>One ZELTO DISK that is plugged in is not in this list, because this computer does not let you use it yet. Install the program’s package, or ask your administrator to add its device rule, then plug the drive in again.</translation>
     </message>
     <message id="IDS_HINT_OTHER_SESSION">
         <source></source>
-        <translation>A ZELTO DISK is plugged in, but it belongs to another user’s session on this computer. Use it from that session, or log in at this computer’s own screen and plug it in again.</translation>
+        <translation>One ZELTO DISK that is plugged in is not in this list, because it belongs to another user’s session on this computer. Use it from that session, or log in at this computer’s own screen and plug it in again.</translation>
     </message>
     <message id="IDS_HINT_DRIVE_IN_USE">
         <source></source>
-        <translation>A ZELTO DISK is plugged in, but another copy of this program uses it. Close that copy, then start this program again.</translation>
+        <translation>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</translation>
     </message>
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source></source>

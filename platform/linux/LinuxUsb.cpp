@@ -26,6 +26,8 @@ public:
           m_waiting(waiting),
           m_patience(patience) {}
 
+    std::uint32_t GetLocationID() const override { return m_announcement.location; }
+
     std::unique_ptr<UsbDeviceInterface> IOCreatePlugInInterfaceForService() override {
         if (m_announcement.node.empty()) {
             return nullptr;
@@ -46,6 +48,7 @@ UsbAnnouncement announce(const UdevDevice& device, std::shared_ptr<bool> isTaken
     announcement.isTaken = std::move(isTaken);
     announcement.syspath = device.syspath;
     announcement.node = device.node;
+    announcement.location = device.location;
     announcement.identity = {device.idVendor.value_or(0), device.idProduct.value_or(0),
                              device.bcdDevice.value_or(0), 0};
     announcement.accessRule = [known = device.accessRule, syspath = device.syspath,

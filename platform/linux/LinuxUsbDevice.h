@@ -28,6 +28,7 @@ struct UsbAnnouncement {
     std::string syspath;
     /// Path of the usbfs node, "/dev/bus/usb/001/002" say.
     std::string node;
+    std::uint32_t location = 0;
     UsbIdentity identity;
     /// Asked when an open is refused; the system may have learned more since the arrival.
     std::function<AccessRule()> accessRule;
@@ -58,6 +59,8 @@ public:
     [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override {
         return identity().iSerialNumber;
     }
+
+    [[nodiscard]] std::uint32_t GetLocationID() const override { return m_announcement.location; }
 
     /// Opening an open device changes nothing and succeeds.
     [[nodiscard]] IOReturn USBDeviceOpen() override;

@@ -125,6 +125,15 @@ std::optional<std::uint64_t> SysfsEntry::decimal(const std::string& name) const 
     return text ? parseNumber<std::uint64_t>(*text, 10) : std::nullopt;
 }
 
+std::optional<std::uint32_t> SysfsEntry::usbLocation() const {
+    const auto bus = decimal("busnum");
+    const auto number = decimal("devnum");
+    if (!bus || !number) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint32_t>(*bus << 16U | *number);
+}
+
 std::vector<SysfsEntry> SysfsEntry::children() const {
     std::vector<SysfsEntry> found;
     addChildren(m_folder, m_depth, found);

@@ -28,6 +28,10 @@ public:
     /// An attribute of decimal digits.
     [[nodiscard]] std::optional<std::uint64_t> decimal(const std::string& name) const;
 
+    /// A USB device's bus and its number there, in one number: the stay on the bus, as no two
+    /// devices have it at one time.
+    [[nodiscard]] std::optional<std::uint32_t> usbLocation() const;
+
     /// The devices below this one in kernel order (names compared with their numbers as numbers),
     /// without other USB devices and without disks that have no medium.
     [[nodiscard]] std::vector<SysfsEntry> children() const;

@@ -40,6 +40,7 @@ UdevDevice describe(udev_device* device) {
     // Read from sysfs by ourselves: libudev remembers attributes, also those of a device that sat
     // in the same place before.
     const SysfsEntry sysfs(described.syspath);
+    described.location = sysfs.usbLocation().value_or(0);
     described.idVendor = sysfs.hexadecimal("idVendor");
     described.idProduct = sysfs.hexadecimal("idProduct");
     described.bcdDevice = sysfs.hexadecimal("bcdDevice");

@@ -21,6 +21,8 @@ struct UdevDevice {
     std::string syspath;
     /// Path of its usbfs node; changes when the device leaves and comes back.
     std::string node;
+    /// Its bus and its number there, as SysfsEntry gives them.
+    std::uint32_t location = 0;
     /// Empty for a listed device; "add", "remove", ... for an event.
     std::string action;
     std::optional<std::uint16_t> idVendor;

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] std::uint16_t GetDeviceProduct() const override {
         return m_device->GetDeviceProduct();
     }
+    [[nodiscard]] std::uint32_t GetLocationID() const override { return m_device->GetLocationID(); }
     [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override {
         return m_device->GetDeviceReleaseNumber();
     }

@@ -34,6 +34,7 @@ public:
     [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override {
         return m_description.bcdDevice;
     }
+    [[nodiscard]] std::uint32_t GetLocationID() const override { return m_attachment->location; }
     [[nodiscard]] IOReturn USBDeviceOpen() override {
         if (!m_attachment->isAttached) {
             return kIOReturnNoDevice;
@@ -66,6 +67,7 @@ public:
     Service(VirtualUsbBus& bus, std::shared_ptr<Attachment> attachment)
         : m_bus(bus), m_attachment(std::move(attachment)) {}
 
+    [[nodiscard]] std::uint32_t GetLocationID() const override { return m_attachment->location; }
     [[nodiscard]] std::unique_ptr<UsbDeviceInterface> IOCreatePlugInInterfaceForService() override {
         return m_attachment->isAttached ? m_bus.makeHandle(m_attachment) : nullptr;
     }
@@ -92,8 +94,10 @@ void VirtualUsbBus::plug(const Device& device) {
         return;
     }
     device->powerUp(m_clock.worldTime());
-    const auto attachment = std::make_shared<Attachment>(Attachment{
-        .device = device, .units = device->makeUnits([this] { return m_clock.worldTime(); })});
+    const auto attachment = std::make_shared<Attachment>(
+        Attachment{.device = device,
+                   .location = ++m_lastLocation,
+                   .units = device->makeUnits([this] { return m_clock.worldTime(); })});
     m_attachments.push_back(attachment);
     notifyChanged();
     announce(UsbEvent::FirstMatch, attachment);

@@ -17,6 +17,7 @@ namespace zelto::simulator {
 /// it and then answer, for ever, that the device is gone.
 struct Attachment {
     std::shared_ptr<PluggableDevice> device;
+    std::uint32_t location = 0;
     /// Null for a device without storage.
     std::unique_ptr<UnitStorage> units;
     bool isAttached = true;
@@ -102,6 +103,7 @@ private:
     /// The port that events go through; 0 while there is none.
     IOObject m_port = 0;
     IOObject m_lastObject = 0;
+    std::uint32_t m_lastLocation = 0;
     std::optional<std::chrono::seconds> m_reconnectDelay = std::chrono::seconds(2);
     bool m_hasService = true;
     std::vector<HandleLayer> m_handleLayers;

@@ -200,6 +200,43 @@ TEST_F(StartTest, ASecondCopyLeavesTheDriveToTheFirstAndSaysSo) {
     EXPECT_EQ(m_bench.app().Drives.DevCnt, 1);
 }
 
+TEST_F(StartTest, TheHintGoesWhenTheRefusedDriveIsPulled) {
+    const auto drive = m_bench.plugPreparedDrive();
+    const auto first = m_bench.computer.usb.makeHandle(m_bench.computer.usb.attachments().front());
+    ASSERT_EQ(first->USBDeviceOpen(), kIOReturnSuccess);
+    m_bench.start();
+    EXPECT_TRUE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    m_bench.unplug(drive);
+    m_bench.tick();
+    EXPECT_FALSE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    m_bench.plug(drive);
+    m_bench.tick();
+    EXPECT_FALSE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+}
+
+TEST_F(StartTest, TheHintAppearsWithADriveThatIsRefusedOnArrival) {
+    m_bench.start();
+    const auto drive = simulator::makeDrive("ZD0000000000A1", ControllerBench::NewDriveSectors);
+    drive->describe().openResult = kIOReturnNotPrivileged;
+    m_bench.plug(drive);
+    m_bench.tick();
+    EXPECT_TRUE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_EQ(m_bench.text("SelectZeltoAccessHint"), localized("IDS_HINT_RULE_MISSING"));
+}
+
+TEST_F(StartTest, UpdateTakesADriveThatTheOtherCopyHasLetGo) {
+    m_bench.plugPreparedDrive();
+    auto first = m_bench.computer.usb.makeHandle(m_bench.computer.usb.attachments().front());
+    ASSERT_EQ(first->USBDeviceOpen(), kIOReturnSuccess);
+    m_bench.start();
+    m_bench.press("SelectZeltoUpdate");
+    EXPECT_TRUE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    first.reset();
+    m_bench.press("SelectZeltoUpdate");
+    EXPECT_EQ(m_bench.text("SelectZeltoComboBox"), QStringLiteral("Device 0"));
+    EXPECT_FALSE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+}
+
 TEST_F(StartTest, NoHintIsShownWithoutADriveThatWasRefused) {
     start();
     EXPECT_FALSE(control("SelectZeltoAccessHint")->isVisible());

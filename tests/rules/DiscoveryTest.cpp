@@ -251,24 +251,84 @@ TEST_F(Discovery, ADriveThatCannotBeOpenedIsReleasedAndPassedOver) {
     EXPECT_TRUE(presence.expired());
     EXPECT_EQ(drives.DevCnt, 1);
     EXPECT_EQ(drives.UsbSerial[0], "SERIAL");
-    EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::Granted);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::Granted);
 }
 
 TEST_F(Discovery, KeepsTheReasonWhyPermissionWasRefused) {
     EXPECT_EQ(setUpNotifications(), 0);
     plug("REFUSED")->openResult = kIOReturnNotPrivileged;
     usb.deliverArrivals();
-    EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::RuleMissing);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::RuleMissing);
     plug("REFUSED")->openResult = kIOReturnNotPermitted;
     usb.deliverArrivals();
-    EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::OtherSession);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::OtherSession);
     plug("REFUSED")->openResult = kIOReturnExclusiveAccess;
     usb.deliverArrivals();
-    EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::InUse);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::InUse);
     plug("REFUSED")->openResult = kIOReturnNoDevice;
     usb.deliverArrivals();
-    EXPECT_EQ(drives.RefusedAccess, AttachedDrives::Access::InUse);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::InUse);
     EXPECT_EQ(drives.DevCnt, 0);
+}
+
+TEST_F(Discovery, ARefusalIsForgottenOnceTheDriveHasLeft) {
+    EXPECT_EQ(setUpNotifications(), 0);
+    auto* const first = plug("FIRST");
+    auto* const second = plug("SECOND");
+    first->openResult = kIOReturnNotPrivileged;
+    second->openResult = kIOReturnNotPermitted;
+    usb.deliverArrivals();
+    usb.deliverRemovals(1);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::OtherSession) << "another has left";
+    usb.deliverRemovalOf(second->location);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::RuleMissing) << "the first is there";
+    usb.deliverRemovalOf(first->location);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::Granted);
+}
+
+TEST_F(Discovery, ARefusalIsForgottenOnceTheDriveOpensAtItsSecondChance) {
+    EXPECT_EQ(setUpNotifications(), 0);
+    auto* const refused = plug("SERIAL");
+    refused->openResult = kIOReturnNotPrivileged;
+    usb.deliverArrivals();
+    auto again = driveOf("SERIAL");
+    again->location = refused->location;
+    usb.plug(std::move(again));
+    usb.deliverArrivals();
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::Granted);
+    EXPECT_EQ(drives.DevCnt, 1);
+}
+
+TEST_F(Discovery, ADriveThatIsRefusedAgainIsKeptOnceForItsLatestReason) {
+    EXPECT_EQ(setUpNotifications(), 0);
+    auto* const refused = plug("SERIAL");
+    refused->openResult = kIOReturnNotPrivileged;
+    usb.deliverArrivals();
+    auto again = driveOf("SERIAL");
+    again->location = refused->location;
+    again->openResult = kIOReturnExclusiveAccess;
+    usb.plug(std::move(again));
+    usb.deliverArrivals();
+    ASSERT_EQ(drives.Refused.size(), 1U);
+    EXPECT_EQ(drives.refusedAccess(), AttachedDrives::Access::InUse);
+}
+
+TEST_F(Discovery, RefusedDrivesAreTriedAgainOnRequest) {
+    EXPECT_EQ(setUpNotifications(), 0);
+    auto* const freed = plug("FREED");
+    auto* const gone = plug("GONE");
+    auto* const kept = plug("KEPT");
+    for (auto* const drive : {freed, gone, kept}) {
+        drive->openResult = kIOReturnExclusiveAccess;
+    }
+    usb.deliverArrivals();
+    freed->openResult = kIOReturnSuccess;
+    gone->openResult = kIOReturnNoDevice;
+    TryRefusedDrivesAgain(drives);
+    EXPECT_EQ(drives.DevCnt, 1);
+    EXPECT_EQ(drives.UsbSerial[0], "FREED");
+    ASSERT_EQ(drives.Refused.size(), 1U);
+    EXPECT_EQ(drives.Refused[0].device.get(), kept);
 }
 
 TEST_F(Discovery, RemovalsAreDrainedAndLeaveTheListsAlone) {

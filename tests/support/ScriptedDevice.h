@@ -47,6 +47,7 @@ public:
     std::uint16_t product = 0x0135;
     std::uint16_t release = 0x0100;
     std::uint8_t serialNumberIndex = 3;
+    std::uint32_t location = nextLocation();
     IOReturn openResult = kIOReturnSuccess;
     /// Answers to the next transfers, in order.
     std::deque<Answer> script;
@@ -60,6 +61,7 @@ public:
     [[nodiscard]] std::uint16_t GetDeviceVendor() const override { return vendor; }
     [[nodiscard]] std::uint16_t GetDeviceProduct() const override { return product; }
     [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override { return release; }
+    [[nodiscard]] std::uint32_t GetLocationID() const override { return location; }
     [[nodiscard]] IOReturn USBDeviceOpen() override {
         ++timesOpened;
         return openResult;
@@ -91,6 +93,11 @@ public:
     }
 
 private:
+    static std::uint32_t nextLocation() {
+        static std::uint32_t latest = 0;
+        return ++latest;
+    }
+
     Answer takeAnswer() {
         if (script.empty()) {
             return {};

@@ -3,6 +3,7 @@
 #include "platform/UsbNotifications.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <deque>
 #include <map>
@@ -37,11 +38,14 @@ public:
     /// Everything plugged since the last event arrives now.
     void deliverArrivals() { deliver(UsbEvent::FirstMatch); }
 
-    /// So many devices leave now.
+    /// So many devices leave now that nobody has seen.
     void deliverRemovals(std::size_t count) {
-        for (std::size_t index = 0; index < count; ++index) {
-            m_left.push_back(nullptr);
-        }
+        m_left.insert(m_left.end(), count, 0);
+        deliver(UsbEvent::Terminate);
+    }
+    /// The device of that stay leaves now.
+    void deliverRemovalOf(std::uint32_t location) {
+        m_left.push_back(location);
         deliver(UsbEvent::Terminate);
     }
 
@@ -77,14 +81,20 @@ public:
         if (registration == m_registrations.end()) {
             return nullptr;
         }
-        auto& waiting = registration->second.event == UsbEvent::FirstMatch ? m_attached : m_left;
-        if (waiting.empty()) {
+        const bool arrivals = registration->second.event == UsbEvent::FirstMatch;
+        if (arrivals ? m_attached.empty() : m_left.empty()) {
             calls.push_back("drained " + std::to_string(iterator));
             return nullptr;
         }
-        auto service = std::make_unique<Service>(std::move(waiting.front()));
-        waiting.pop_front();
-        return service;
+        if (!arrivals) {
+            const auto location = m_left.front();
+            m_left.pop_front();
+            return std::make_unique<Service>(nullptr, location);
+        }
+        auto device = std::move(m_attached.front());
+        m_attached.pop_front();
+        const auto location = device ? device->GetLocationID() : 0;
+        return std::make_unique<Service>(std::move(device), location);
     }
 
     void IOObjectRelease(IOObject iterator) noexcept override { note("release", iterator); }
@@ -92,13 +102,16 @@ public:
 private:
     class Service : public UsbService {
     public:
-        explicit Service(Device device) : m_device(std::move(device)) {}
+        Service(Device device, std::uint32_t location)
+            : m_device(std::move(device)), m_location(location) {}
+        [[nodiscard]] std::uint32_t GetLocationID() const override { return m_location; }
         [[nodiscard]] Device IOCreatePlugInInterfaceForService() override {
             return std::move(m_device);
         }
 
     private:
         Device m_device;
+        std::uint32_t m_location;
     };
 
     struct Registration {
@@ -124,7 +137,7 @@ private:
     IOObject m_latest = 0;
     std::map<IOObject, Registration> m_registrations;
     std::deque<Device> m_attached;
-    std::deque<Device> m_left;
+    std::deque<std::uint32_t> m_left;
 };
 
 } // namespace zelto::test
