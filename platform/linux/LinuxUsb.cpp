@@ -20,11 +20,13 @@ bool matches(const UdevDevice& device, const UsbMatching& matching) {
 class LinuxUsbService final : public UsbService {
 public:
     LinuxUsbService(UsbAnnouncement announcement, std::shared_ptr<const UsbContext> context,
-                    const Waiting& waiting, OpenPatience patience)
+                    const Waiting& waiting, OpenPatience patience,
+                    DeparturePatience departurePatience)
         : m_announcement(std::move(announcement)),
           m_context(std::move(context)),
           m_waiting(waiting),
-          m_patience(patience) {}
+          m_patience(patience),
+          m_departurePatience(std::move(departurePatience)) {}
 
     std::uint32_t GetLocationID() const override { return m_announcement.location; }
 
@@ -32,7 +34,8 @@ public:
         if (m_announcement.node.empty()) {
             return nullptr;
         }
-        return std::make_unique<LinuxUsbDevice>(m_announcement, m_context, m_waiting, m_patience);
+        return std::make_unique<LinuxUsbDevice>(m_announcement, m_context, m_waiting, m_patience,
+                                                m_departurePatience);
     }
 
 private:
@@ -40,6 +43,7 @@ private:
     std::shared_ptr<const UsbContext> m_context;
     const Waiting& m_waiting;
     OpenPatience m_patience;
+    DeparturePatience m_departurePatience;
 };
 
 UsbAnnouncement announce(const UdevDevice& device, std::shared_ptr<bool> isTaken,
@@ -60,9 +64,11 @@ UsbAnnouncement announce(const UdevDevice& device, std::shared_ptr<bool> isTaken
 
 } // namespace
 
-LinuxUsb::LinuxUsb(const Waiting& waiting, OpenPatience patience)
+LinuxUsb::LinuxUsb(const Waiting& waiting, OpenPatience patience,
+                   DeparturePatience departurePatience)
     : m_waiting(waiting),
       m_patience(patience),
+      m_departurePatience(std::move(departurePatience)),
       m_monitor(std::make_shared<UdevMonitor>()),
       m_context(std::make_shared<UsbContext>()) {}
 
@@ -126,7 +132,7 @@ std::unique_ptr<UsbService> LinuxUsb::IOIteratorNext(IOObject iterator) {
     const auto stay = std::move(found->waiting.front());
     found->waiting.pop_front();
     return std::make_unique<LinuxUsbService>(announce(stay.device, stay.isTaken, m_monitor),
-                                             m_context, m_waiting, m_patience);
+                                             m_context, m_waiting, m_patience, m_departurePatience);
 }
 
 void LinuxUsb::IOObjectRelease(IOObject iterator) noexcept {

@@ -25,7 +25,8 @@ class LinuxUsb final : public QObject, public UsbNotifications {
     Q_OBJECT
 
 public:
-    explicit LinuxUsb(const Waiting& waiting, OpenPatience patience = {});
+    explicit LinuxUsb(const Waiting& waiting, OpenPatience patience = {},
+                      DeparturePatience departurePatience = {});
     ~LinuxUsb() override;
 
     [[nodiscard]] bool IOMasterPort() override { return m_monitor->isAvailable(); }
@@ -70,6 +71,7 @@ private:
 
     const Waiting& m_waiting;
     OpenPatience m_patience;
+    DeparturePatience m_departurePatience;
     /// Shared with the devices, which ask it once more when an open is refused.
     std::shared_ptr<UdevMonitor> m_monitor;
     std::shared_ptr<const UsbContext> m_context;

@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxUsbDevice.h"
 
+#include "platform/linux/SysfsEntry.h"
+
 #include <QEventLoop>
 #include <QTimer>
 
@@ -14,6 +16,8 @@
 #include <utility>
 
 namespace zelto::linux_platform {
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -30,11 +34,12 @@ bool isRefusal(int error) {
 
 LinuxUsbDevice::LinuxUsbDevice(UsbAnnouncement announcement,
                                std::shared_ptr<const UsbContext> context, const Waiting& waiting,
-                               OpenPatience patience)
+                               OpenPatience patience, DeparturePatience departurePatience)
     : m_announcement(std::move(announcement)),
       m_context(std::move(context)),
       m_waiting(waiting),
-      m_patience(patience) {}
+      m_patience(patience),
+      m_departurePatience(std::move(departurePatience)) {}
 
 LinuxUsbDevice::~LinuxUsbDevice() {
     // libusb does not close a descriptor that it has been given; m_node does, after this.
@@ -126,12 +131,25 @@ IOReturn LinuxUsbDevice::DeviceRequest(IOUSBDevRequest& request) {
     }
     const auto result = resultOfTransfer(status);
     // A transfer that an unplug has broken can end as a protocol error just as well.
-    return result == kIOReturnIOError && hasLeft() ? kIOReturnNoDevice : result;
+    return result == kIOReturnIOError && leavesSoon() ? kIOReturnNoDevice : result;
 }
 
 bool LinuxUsbDevice::hasLeft() const {
     usbdevfs_connectinfo info{};
-    return ::ioctl(m_node.get(), USBDEVFS_CONNECTINFO, &info) < 0 && errno == ENODEV;
+    const bool isCutOff = ::ioctl(m_node.get(), USBDEVFS_CONNECTINFO, &info) < 0 && errno == ENODEV;
+    return isCutOff ||
+           SysfsEntry(m_announcement.syspath).usbLocation().value_or(0) != m_announcement.location;
+}
+
+bool LinuxUsbDevice::leavesSoon() const {
+    const auto& patience = m_departurePatience;
+    for (auto waited = 0ms; !hasLeft(); waited += patience.pause) {
+        if (waited >= patience.limit) {
+            return false;
+        }
+        patience.sleep(patience.pause);
+    }
+    return true;
 }
 
 } // namespace zelto::linux_platform

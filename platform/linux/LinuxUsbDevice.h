@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <thread>
 
 struct libusb_device_handle;
 
@@ -42,13 +43,25 @@ struct OpenPatience {
     std::chrono::milliseconds pause{50};
 };
 
+/// How long a drive that broke a transfer is given to turn out to be gone: the hub tells of a
+/// pulled plug up to a quarter of a second after the first transfer has failed.
+struct DeparturePatience {
+    std::chrono::milliseconds limit{500};
+    std::chrono::milliseconds pause{20};
+    /// Blocks the thread, as the transfer itself does.
+    std::function<void(std::chrono::milliseconds)> sleep = [](std::chrono::milliseconds duration) {
+        std::this_thread::sleep_for(duration);
+    };
+};
+
 /// One USB device through usbfs. The node is opened here and only then given to libusb, so that
 /// the reason of a refused open is known and no discovery runs. Only endpoint 0 is used: no
 /// interface is claimed and no driver detached, so the storage driver keeps the drive's units.
 class LinuxUsbDevice final : public UsbDeviceInterface {
 public:
     LinuxUsbDevice(UsbAnnouncement announcement, std::shared_ptr<const UsbContext> context,
-                   const Waiting& waiting, OpenPatience patience);
+                   const Waiting& waiting, OpenPatience patience,
+                   DeparturePatience departurePatience);
     ~LinuxUsbDevice() override;
 
     [[nodiscard]] std::uint16_t GetDeviceVendor() const override { return identity().idVendor; }
@@ -74,11 +87,13 @@ private:
     [[nodiscard]] IOReturn lockNode();
     [[nodiscard]] IOReturn wrapNode();
     [[nodiscard]] bool hasLeft() const;
+    [[nodiscard]] bool leavesSoon() const;
 
     UsbAnnouncement m_announcement;
     std::shared_ptr<const UsbContext> m_context;
     const Waiting& m_waiting;
     OpenPatience m_patience;
+    DeparturePatience m_departurePatience;
     FileDescriptor m_node;
     libusb_device_handle* m_handle = nullptr;
 };

@@ -74,7 +74,17 @@ protected:
 
     UsbBed bed;
     Waiting waiting;
-    LinuxUsb usb{waiting, {1, std::chrono::milliseconds(0)}};
+    LinuxUsb usb{waiting,
+                 {1, std::chrono::milliseconds(0)},
+                 {.sleep = [this](std::chrono::milliseconds duration) {
+                     slept += duration;
+                     if (slept >= departure) {
+                         bed.failure = ENODEV;
+                     }
+                 }}};
+    /// How long broken transfers have been pondered, and when in that time the drive leaves.
+    std::chrono::milliseconds slept{0};
+    std::chrono::milliseconds departure = std::chrono::milliseconds::max();
     IOObject port = 0;
     IOObject added = 0;
     IOObject removed = 0;
@@ -220,6 +230,49 @@ TEST_F(UsbTest, TellsAStallATimeOutAnOverrunAndABrokenTransferApart) {
         bed.transferStatus = status;
         EXPECT_EQ(readStatus(*device, data), result) << status;
     }
+}
+
+TEST_F(UsbTest, TakesABrokenTransferForAPulledPlugWhenTheDriveLeavesWithinHalfASecond) {
+    bed.plug(2);
+    listenForArrivals();
+    const auto device = openFirst();
+    bed.transferStatus = -EPROTO;
+    departure = std::chrono::milliseconds(250);
+    std::array<std::uint8_t, 36> data{};
+    EXPECT_EQ(readStatus(*device, data), kIOReturnNoDevice);
+    EXPECT_LT(slept, std::chrono::milliseconds(300)) << "not a moment longer than needed";
+}
+
+TEST_F(UsbTest, TakesABrokenTransferForAPulledPlugWhenItsPlaceIsEmptyOrAnothers) {
+    const auto syspath = bed.plug(2);
+    listenForArrivals();
+    const auto device = openFirst();
+    bed.transferStatus = -EPROTO;
+    std::array<std::uint8_t, 36> data{};
+    bed.set(syspath, "devnum", "3\n");
+    EXPECT_EQ(readStatus(*device, data), kIOReturnNoDevice);
+    EXPECT_EQ(slept, std::chrono::milliseconds(0));
+}
+
+TEST_F(UsbTest, WaitsHalfASecondAndNoLongerForADriveThatStays) {
+    bed.plug(2);
+    listenForArrivals();
+    const auto device = openFirst();
+    bed.transferStatus = -EPROTO;
+    std::array<std::uint8_t, 36> data{};
+    EXPECT_EQ(readStatus(*device, data), kIOReturnIOError);
+    EXPECT_EQ(slept, std::chrono::milliseconds(500));
+}
+
+TEST_F(UsbTest, WaitsForNothingAfterAnAnswerOrAStall) {
+    bed.plug(2);
+    listenForArrivals();
+    const auto device = openFirst();
+    std::array<std::uint8_t, 36> data{};
+    EXPECT_EQ(readStatus(*device, data), kIOReturnSuccess);
+    bed.transferStatus = -EPIPE;
+    EXPECT_EQ(readStatus(*device, data), kIOUSBPipeStalled);
+    EXPECT_EQ(slept, std::chrono::milliseconds(0));
 }
 
 TEST_F(UsbTest, SaysNoDeviceForADriveThatHasLeft) {
