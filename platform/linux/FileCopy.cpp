@@ -5,8 +5,10 @@
 
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <sys/file.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
@@ -155,15 +157,75 @@ bool copyFolder(const fs::path& source, const fs::path& destination, int depth) 
            keepDates(to.get(), status) && flush(to.get());
 }
 
+constexpr auto WrittenName = "new";
+constexpr auto ReplacedName = "old";
+constexpr std::string_view RandomPart = "XXXXXX";
+
+std::string workplacePrefix(const fs::path& destination) {
+    return "." + destination.filename().string() + "-";
+}
+
+/// A copy keeps its workplace locked, and the kernel gives the lock back however its program ends.
+/// A file system that cannot lock says so to everybody, and then nothing is cleaned.
+bool lock(const FileDescriptor& folder) {
+    return ::flock(folder.get(), LOCK_EX | LOCK_NB) == 0;
+}
+
+FileDescriptor openFolder(const fs::path& folder) {
+    return FileDescriptor(
+        ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK));
+}
+
+bool holdsNothingButCopies(const fs::path& folder) {
+    std::error_code error;
+    fs::directory_iterator at(folder, error);
+    for (const fs::directory_iterator end; !error && at != end; at.increment(error)) {
+        const auto name = at->path().filename();
+        if (name != WrittenName && name != ReplacedName) {
+            return false;
+        }
+    }
+    return !error;
+}
+
+bool isLeftover(const fs::path& folder, const std::string& prefix) {
+    const auto name = folder.filename().string();
+    if (!name.starts_with(prefix) || name.size() != prefix.size() + RandomPart.size()) {
+        return false;
+    }
+    const auto opened = openFolder(folder);
+    const auto status = opened.isOpen() ? statusOf(opened.get()) : std::nullopt;
+    return status && status->st_uid == ::geteuid() && holdsNothingButCopies(folder) && lock(opened);
+}
+
+/// What a copy has left that was broken off with its program or its computer.
+void removeLeftovers(const fs::path& destination) {
+    const auto prefix = workplacePrefix(destination);
+    std::vector<fs::path> leftovers;
+    std::error_code error;
+    fs::directory_iterator at(destination.parent_path(), error);
+    for (const fs::directory_iterator end; !error && at != end; at.increment(error)) {
+        if (isLeftover(at->path(), prefix)) {
+            leftovers.push_back(at->path());
+        }
+    }
+    for (const auto& leftover : leftovers) {
+        std::error_code ignored;
+        fs::remove_all(leftover, ignored);
+    }
+}
+
 /// A folder beside the destination that is gone, with all that is still in it, when this is.
 class Workplace {
 public:
     explicit Workplace(const fs::path& destination) {
-        auto pattern =
-            (destination.parent_path() / ("." + destination.filename().string() + "-XXXXXX"))
-                .string();
+        removeLeftovers(destination);
+        auto pattern = (destination.parent_path() / workplacePrefix(destination)).string();
+        pattern += RandomPart;
         if (::mkdtemp(pattern.data()) != nullptr) {
             m_folder = pattern;
+            m_lock = openFolder(m_folder);
+            (void)lock(m_lock);
         }
     }
     Workplace(const Workplace&) = delete;
@@ -176,11 +238,12 @@ public:
     }
 
     [[nodiscard]] bool isThere() const { return !m_folder.empty(); }
-    [[nodiscard]] fs::path written() const { return m_folder / "new"; }
-    [[nodiscard]] fs::path replaced() const { return m_folder / "old"; }
+    [[nodiscard]] fs::path written() const { return m_folder / WrittenName; }
+    [[nodiscard]] fs::path replaced() const { return m_folder / ReplacedName; }
 
 private:
     fs::path m_folder;
+    FileDescriptor m_lock;
 };
 
 bool moveTo(const fs::path& from, const fs::path& to) {

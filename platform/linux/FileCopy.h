@@ -8,8 +8,10 @@ namespace zelto::linux_platform {
 
 /// Copies a file, or a folder with all that is in it. The copy is written beside the destination
 /// and takes its place by renaming, so it appears complete or not at all; on failure nothing of it
-/// is left and what was there before is untouched. Everything is on the medium when this returns,
-/// and has been read back from there: a medium that keeps something else makes the copy fail.
+/// is left and what was there before is untouched. What an earlier copy to the same place has left,
+/// broken off with its program or its computer, is removed first. Everything is on the medium when
+/// this returns, and has been read back from there: a medium that keeps something else makes the
+/// copy fail.
 ///
 /// Modification dates are kept. Permissions are not: FAT knows none, so a program that comes from
 /// there could not be started; in the copy, programs (files that the source lets anybody execute,

@@ -8,6 +8,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <functional>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -185,6 +186,66 @@ TEST_F(FileCopy, LeavesNothingBehindOnAFullDiskAndKeepsTheOldCopy) {
     EXPECT_FALSE(copied);
     EXPECT_THAT(namesIn(folder / "to"), ElementsAre("Zelto Ü.app"));
     EXPECT_THAT(namesIn(destination), ElementsAre("old file"));
+}
+
+TEST_F(FileCopy, CleansWhatAKilledCopyHasLeft) {
+    const auto child = ::fork();
+    if (child == 0) {
+        // The signal of a file that grows too large ends the program in the middle of the copy.
+        const rlimit small{300'000, 300'000};
+        const rlimit noCore{0, 0};
+        ::setrlimit(RLIMIT_CORE, &noCore);
+        ::setrlimit(RLIMIT_FSIZE, &small);
+        ::_exit(copyItem(source, destination) ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    ASSERT_EQ(namesIn(folder / "to").size(), 1U) << "it had no time to clean up";
+
+    ASSERT_TRUE(copyItem(source, destination));
+    EXPECT_THAT(namesIn(folder / "to"), ElementsAre("Zelto Ü.app"));
+}
+
+TEST_F(FileCopy, CleansWhatIsLeftAlsoWhenItFailsItself) {
+    folder.write("to/.Zelto Ü.app-aB3dE6/new/zelto", "half");
+    folder.write("to/.Zelto Ü.app-aB3dE6/old/zelto", "whole");
+    folder.makeFolder("to/.Zelto Ü.app-000000");
+    EXPECT_FALSE(copyItem(folder / "nothing", destination));
+    EXPECT_THAT(namesIn(folder / "to"), IsEmpty());
+}
+
+TEST_F(FileCopy, LeavesACopyAloneThatIsStillBeingWritten) {
+    folder.write("to/.Zelto Ü.app-aB3dE6/new/zelto", "half");
+    const int writer =
+        ::open((folder / "to/.Zelto Ü.app-aB3dE6").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(::flock(writer, LOCK_EX | LOCK_NB), 0);
+    ASSERT_TRUE(copyItem(source, destination));
+    EXPECT_THAT(namesIn(folder / "to"), ElementsAre(".Zelto Ü.app-aB3dE6", "Zelto Ü.app"));
+    EXPECT_EQ(folder.read("to/.Zelto Ü.app-aB3dE6/new/zelto"), "half");
+    ::close(writer);
+}
+
+TEST_F(FileCopy, LeavesAloneWhatOnlyLooksLikeALeftover) {
+    folder.write("elsewhere/new/precious", "mine");
+    folder.link("to/.Zelto Ü.app-aLink1", (folder / "elsewhere").string());
+    folder.write("to/.Zelto Ü.app-backup/notes", "mine");
+    folder.write("to/.Zelto Ü.app-toolong/new", "mine");
+    folder.write("to/.Zelto Ü.app-aFile1", "mine");
+    folder.write("to/.Other.app-aB3dE6/new", "another's");
+    const auto before = namesIn(folder / "to");
+    EXPECT_FALSE(copyItem(folder / "nothing", destination));
+    EXPECT_EQ(namesIn(folder / "to"), before);
+    EXPECT_EQ(folder.read("elsewhere/new/precious"), "mine");
+}
+
+TEST_F(FileCopy, DoesNotFollowLinksOutOfALeftover) {
+    folder.write("elsewhere/precious", "mine");
+    folder.makeFolder("to/.Zelto Ü.app-aB3dE6");
+    folder.link("to/.Zelto Ü.app-aB3dE6/new", (folder / "elsewhere").string());
+    EXPECT_FALSE(copyItem(folder / "nothing", destination));
+    EXPECT_THAT(namesIn(folder / "to"), IsEmpty());
+    EXPECT_EQ(folder.read("elsewhere/precious"), "mine");
 }
 
 TEST_F(FileCopy, HasTheDateOfItsSourceEvenWhereOddSecondsAreDropped) {
