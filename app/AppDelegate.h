@@ -239,7 +239,7 @@ private:
     void connectPasswordWindows();
 
     // app/AppDelegate_Startup.cpp
-    void relocate(const std::filesystem::path& bundle);
+    void relocate(const std::filesystem::path& bundle, const std::filesystem::path& destination);
     void startSession();
     /// One request to quit: granted or refused by applicationShouldTerminate.
     void terminate();

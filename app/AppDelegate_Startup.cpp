@@ -15,8 +15,11 @@ void AppDelegate::applicationWillFinishLaunching() {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     const std::filesystem::path bundle = m_platform.computer.bundlePath();
-    if (runsFromMountedVolume(bundle, m_platform.computer.mountRoots())) {
-        relocate(bundle);
+    const std::filesystem::path destination =
+        m_platform.computer.applicationsFolder() / bundle.filename();
+    const UsbMatching drives{.idVendor = UsbIdentity::Vendor, .idProduct = UsbIdentity::Product};
+    if (hasToRelocate(bundle, destination, m_platform.computer.mountRoots(drives))) {
+        relocate(bundle, destination);
         return;
     }
     startSession();
@@ -24,9 +27,8 @@ void AppDelegate::applicationDidFinishLaunching() {
 
 /// A program that runs from the drive keeps the drive's volume busy, so it hands over to a copy on
 /// the computer.
-void AppDelegate::relocate(const std::filesystem::path& bundle) {
-    const std::filesystem::path destination =
-        m_platform.computer.applicationsFolder() / bundle.filename();
+void AppDelegate::relocate(const std::filesystem::path& bundle,
+                           const std::filesystem::path& destination) {
     if (!isAlreadyBooted(destination)) {
         CopyApplicationFile(bundle, destination);
         ExecuteTempApp(destination);

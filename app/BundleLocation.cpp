@@ -28,4 +28,9 @@ bool runsFromMountedVolume(const std::filesystem::path& bundle,
     });
 }
 
+bool hasToRelocate(const std::filesystem::path& bundle, const std::filesystem::path& destination,
+                   const std::vector<std::filesystem::path>& mountRoots) {
+    return bundle != destination && runsFromMountedVolume(bundle, mountRoots);
+}
+
 } // namespace zelto

@@ -11,4 +11,10 @@ namespace zelto {
 [[nodiscard]] bool runsFromMountedVolume(const std::filesystem::path& bundle,
                                          const std::vector<std::filesystem::path>& mountRoots);
 
+/// Whether a program has to hand over to the copy of its bundle at `destination`: it runs from a
+/// mounted volume, and is not that copy itself, as in a home folder that lies on such a volume.
+[[nodiscard]] bool hasToRelocate(const std::filesystem::path& bundle,
+                                 const std::filesystem::path& destination,
+                                 const std::vector<std::filesystem::path>& mountRoots);
+
 } // namespace zelto

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/UsbNotifications.h"
+
 #include <chrono>
 #include <filesystem>
 #include <optional>
@@ -21,8 +23,10 @@ public:
 
     /// The folder of the running program's bundle, absolute, without a slash at its end.
     [[nodiscard]] virtual std::filesystem::path bundlePath() const = 0;
-    /// The folders below which the system mounts volumes, such as "/media".
-    [[nodiscard]] virtual std::vector<std::filesystem::path> mountRoots() const = 0;
+    /// The folders below which the system mounts volumes, such as "/media", and the folders that
+    /// volumes of these USB devices are mounted on, wherever they are.
+    [[nodiscard]] virtual std::vector<std::filesystem::path>
+    mountRoots(const UsbMatching& drives) const = 0;
     /// The folder that installed copies go to. It need not exist yet.
     [[nodiscard]] virtual std::filesystem::path applicationsFolder() const = 0;
     /// The bundle paths ("NSApplicationPath") of the running applications, this one among them.

@@ -1,11 +1,14 @@
 #include "platform/linux/DetachedStart.h"
 
+#include "platform/linux/TextFile.h"
+
 #include <fcntl.h>
 #include <spawn.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <string>
 #include <string_view>
@@ -68,17 +71,33 @@ private:
     posix_spawnattr_t m_attributes{};
 };
 
-} // namespace
-
-bool startDetached(const std::filesystem::path& program) {
+/// 0 or what the system said.
+int spawn(std::vector<std::string> command) {
     const ChildSetUp setUp;
-    auto name = program.string();
-    std::array<char*, 2> arguments{name.data(), nullptr};
+    std::vector<char*> arguments;
+    for (auto& argument : command) {
+        arguments.push_back(argument.data());
+    }
+    arguments.push_back(nullptr);
     const auto environment = environmentWithoutLibraryPaths();
     pid_t child = 0;
     // The child is not waited for: this process ends before it does, and the system takes over.
-    return ::posix_spawn(&child, name.c_str(), setUp.actions(), setUp.attributes(),
-                         arguments.data(), environment.data()) == 0;
+    return ::posix_spawn(&child, arguments[0], setUp.actions(), setUp.attributes(),
+                         arguments.data(), environment.data());
+}
+
+bool isScript(const std::filesystem::path& program) {
+    constexpr std::string_view Beginning = "#!";
+    return readTextFile(program, Beginning.size()) == Beginning;
+}
+
+} // namespace
+
+bool startDetached(const std::filesystem::path& program) {
+    const int result = spawn({program.string()});
+    // On a volume that is mounted without execute permission a script still starts by its shell.
+    return result == 0 ||
+           (result == EACCES && isScript(program) && spawn({"/bin/sh", program.string()}) == 0);
 }
 
 } // namespace zelto::linux_platform

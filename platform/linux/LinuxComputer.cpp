@@ -3,6 +3,7 @@
 #include "platform/linux/Bundle.h"
 #include "platform/linux/DetachedStart.h"
 #include "platform/linux/FileCopy.h"
+#include "platform/linux/MountInfo.h"
 #include "platform/linux/ProcessList.h"
 #include "platform/linux/TextFile.h"
 
@@ -53,15 +54,30 @@ fs::path homeFolder() {
 
 } // namespace
 
-LinuxComputer::LinuxComputer(const Waiting& waiting, fs::path proc)
-    : m_waiting(waiting), m_proc(std::move(proc)), m_program(findProgram(m_proc)) {}
+LinuxComputer::LinuxComputer(const Waiting& waiting, fs::path proc, fs::path sysfs)
+    : m_waiting(waiting),
+      m_proc(std::move(proc)),
+      m_devices(std::move(sysfs)),
+      m_program(findProgram(m_proc)) {}
 
 fs::path LinuxComputer::bundlePath() const {
     return bundleOf(m_program).value_or(m_program.parent_path());
 }
 
-std::vector<fs::path> LinuxComputer::mountRoots() const {
-    return {"/media", "/run/media"};
+std::vector<fs::path> LinuxComputer::mountRoots(const UsbMatching& drives) const {
+    std::vector<fs::path> roots{"/media", "/run/media"};
+    const auto mounts = readTextFile(m_proc / "self/mountinfo").value_or("");
+    for (const auto& line : parseMountInfo(mounts)) {
+        const auto name = m_devices.nameOfMounted(line.deviceNumber, line.f_mntfromname);
+        const auto device = name ? m_devices.usbDeviceOf(*name) : std::nullopt;
+        // A computer that was started from the drive has nowhere else to go.
+        if (device && line.f_mntonname != "/" &&
+            device->hexadecimal("idVendor") == drives.idVendor &&
+            device->hexadecimal("idProduct") == drives.idProduct) {
+            roots.emplace_back(line.f_mntonname);
+        }
+    }
+    return roots;
 }
 
 fs::path LinuxComputer::applicationsFolder() const {

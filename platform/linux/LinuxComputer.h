@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Computer.h"
+#include "platform/linux/BlockDevices.h"
 #include "platform/linux/Waiting.h"
 
 #include <functional>
@@ -12,11 +13,13 @@ namespace zelto::linux_platform {
 /// is said at modificationDate().
 class LinuxComputer final : public Computer {
 public:
-    explicit LinuxComputer(const Waiting& waiting, std::filesystem::path proc = "/proc");
+    explicit LinuxComputer(const Waiting& waiting, std::filesystem::path proc = "/proc",
+                           std::filesystem::path sysfs = "/sys");
 
     /// For a program that belongs to no bundle, the folder it lies in.
     [[nodiscard]] std::filesystem::path bundlePath() const override;
-    [[nodiscard]] std::vector<std::filesystem::path> mountRoots() const override;
+    [[nodiscard]] std::vector<std::filesystem::path>
+    mountRoots(const UsbMatching& drives) const override;
     /// "Applications" in the user's home folder, links resolved as far as it exists: running
     /// programs are known by such paths.
     [[nodiscard]] std::filesystem::path applicationsFolder() const override;
@@ -35,9 +38,10 @@ public:
     [[nodiscard]] bool copyItemAtPath(const std::filesystem::path& source,
                                       const std::filesystem::path& destination) override;
 
-    /// Starts the file in the bundle that has the name of this program. The new process
-    /// keeps nothing of this one: no working folder, descriptor, terminal or library path that
-    /// would keep a volume busy. 0 once it runs, 1 when it could not be started.
+    /// Starts the file in the bundle that has the name of this program, through the shell if it is
+    /// a script that the volume does not let anybody execute. The new process keeps nothing of this
+    /// one: no working folder, descriptor, terminal or library path that would keep a volume busy.
+    /// 0 once it runs, 1 when it could not be started.
     int open(const std::filesystem::path& bundle) override;
     /// 1 when something stays locked or the flag is not "nouchg".
     int chflags(const std::string& flag, const std::filesystem::path& path) override;
@@ -48,6 +52,7 @@ private:
 
     const Waiting& m_waiting;
     std::filesystem::path m_proc;
+    BlockDevices m_devices;
     /// This program's file, found once: a moment later the bundle may have been moved.
     std::filesystem::path m_program;
 };

@@ -25,7 +25,8 @@ bool isOctalDigit(char character) {
 }
 
 /// A line reads: ID PARENT MAJOR:MINOR ROOT MOUNTPOINT OPTIONS [TAG...] - TYPE SOURCE SUPEROPTIONS
-std::optional<MountedFileSystem> parseLine(std::string_view line) {
+std::optional<MountInfoLine> parseLine(std::string_view line) {
+    constexpr std::size_t DeviceNumberField = 2;
     constexpr std::size_t MountPointField = 4;
     constexpr std::ptrdiff_t FirstTagField = 6;
     constexpr std::ptrdiff_t SourceAfterSeparator = 2;
@@ -37,8 +38,9 @@ std::optional<MountedFileSystem> parseLine(std::string_view line) {
     if (fields.end() - separator <= SourceAfterSeparator) {
         return std::nullopt;
     }
-    return MountedFileSystem{decodeOctalEscapes(fields[MountPointField]),
-                             decodeOctalEscapes(separator[SourceAfterSeparator])};
+    return MountInfoLine{{decodeOctalEscapes(fields[MountPointField]),
+                          decodeOctalEscapes(separator[SourceAfterSeparator])},
+                         std::string(fields[DeviceNumberField])};
 }
 
 } // namespace
@@ -61,8 +63,8 @@ std::string decodeOctalEscapes(std::string_view text) {
     return decoded;
 }
 
-std::vector<MountedFileSystem> parseMountInfo(std::string_view text) {
-    std::vector<MountedFileSystem> mounted;
+std::vector<MountInfoLine> parseMountInfo(std::string_view text) {
+    std::vector<MountInfoLine> mounted;
     for (const auto line : splitAt(text, '\n')) {
         if (auto fileSystem = parseLine(line)) {
             mounted.push_back(std::move(*fileSystem));

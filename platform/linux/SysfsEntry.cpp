@@ -97,10 +97,7 @@ SysfsEntry::SysfsEntry(fs::path folder, unsigned depth)
     : m_folder(std::move(folder)), m_depth(depth), m_kind(kindOf(m_folder)) {}
 
 std::string SysfsEntry::kernelName() const {
-    auto name = m_folder.filename().string();
-    // Some block devices have a slash in their names, which a folder's name cannot have.
-    std::ranges::replace(name, '!', '/');
-    return name;
+    return blockName(m_folder);
 }
 
 std::optional<std::string> SysfsEntry::attribute(const std::string& name) const {
@@ -137,7 +134,28 @@ std::optional<std::uint32_t> SysfsEntry::usbLocation() const {
 std::vector<SysfsEntry> SysfsEntry::children() const {
     std::vector<SysfsEntry> found;
     addChildren(m_folder, m_depth, found);
+    if (m_kind == Kind::Disk || m_kind == Kind::Partition) {
+        addHolders(found);
+    }
     return found;
+}
+
+/// What is stacked on a disk lies elsewhere in the tree; "holders" has a link to each.
+void SysfsEntry::addHolders(std::vector<SysfsEntry>& found) const {
+    std::vector<fs::path> folders;
+    std::error_code error;
+    for (fs::directory_iterator at(m_folder / "holders", error), end; !error && at != end;
+         at.increment(error)) {
+        std::error_code gone;
+        if (auto folder = fs::canonical(at->path(), gone); !gone && m_depth < DepthLimit) {
+            folders.push_back(std::move(folder));
+        }
+    }
+    std::ranges::sort(folders, precedesInKernelOrder,
+                      [](const fs::path& folder) { return folder.filename().string(); });
+    for (auto& folder : folders) {
+        found.emplace_back(std::move(folder), m_depth + 1);
+    }
 }
 
 void SysfsEntry::addChildren(const fs::path& folder, unsigned depth,
@@ -181,6 +199,13 @@ std::vector<SysfsEntry> usbDevices(const fs::path& sysfs) {
     std::ranges::transform(numbered, std::back_inserter(devices),
                            [](auto& item) { return std::move(item.second); });
     return devices;
+}
+
+std::string blockName(const fs::path& folder) {
+    auto name = folder.filename().string();
+    // Some block devices have a slash in their names, which a folder's name cannot have.
+    std::ranges::replace(name, '!', '/');
+    return name;
 }
 
 std::string mediaName(const SysfsEntry& disk) {

@@ -33,12 +33,14 @@ public:
     [[nodiscard]] std::optional<std::uint32_t> usbLocation() const;
 
     /// The devices below this one in kernel order (names compared with their numbers as numbers),
-    /// without other USB devices and without disks that have no medium.
+    /// without other USB devices and without disks that have no medium; after them, what is stacked
+    /// on a disk or a partition.
     [[nodiscard]] std::vector<SysfsEntry> children() const;
 
 private:
     void addChildren(const std::filesystem::path& folder, unsigned depth,
                      std::vector<SysfsEntry>& found) const;
+    void addHolders(std::vector<SysfsEntry>& found) const;
 
     std::filesystem::path m_folder;
     unsigned m_depth = 0;
@@ -47,6 +49,9 @@ private:
 
 /// Every USB device, hubs too, by bus and device number.
 [[nodiscard]] std::vector<SysfsEntry> usbDevices(const std::filesystem::path& sysfs);
+
+/// The kernel's name of the device that a folder in sysfs, or a link to it, stands for.
+[[nodiscard]] std::string blockName(const std::filesystem::path& folder);
 
 /// VENDOR, blank, MODEL, blank, "Media", from a disk's SCSI strings without their padding.
 [[nodiscard]] std::string mediaName(const SysfsEntry& disk);

@@ -55,8 +55,10 @@ VirtualFiles::VirtualFiles(VirtualMountTable& mounts, EventLog& log)
     m_running = {"/usr/bin/desktop"};
 }
 
-std::vector<std::filesystem::path> VirtualFiles::mountRoots() const {
-    return {"/media", "/run/media"};
+std::vector<std::filesystem::path> VirtualFiles::mountRoots(const UsbMatching& /*drives*/) const {
+    std::vector<std::filesystem::path> roots{"/media", "/run/media"};
+    roots.insert(roots.end(), m_drivesElsewhere.begin(), m_drivesElsewhere.end());
+    return roots;
 }
 
 std::filesystem::path VirtualFiles::applicationsFolder() const {

@@ -13,7 +13,8 @@ public:
     VirtualFiles(VirtualMountTable& mounts, EventLog& log);
 
     [[nodiscard]] std::filesystem::path bundlePath() const override { return m_bundlePath; }
-    [[nodiscard]] std::vector<std::filesystem::path> mountRoots() const override;
+    [[nodiscard]] std::vector<std::filesystem::path>
+    mountRoots(const UsbMatching& drives) const override;
     [[nodiscard]] std::filesystem::path applicationsFolder() const override;
     [[nodiscard]] std::vector<std::filesystem::path> launchedApplications() const override;
     [[nodiscard]] std::vector<std::filesystem::path> filesBesideBundle() const override {
@@ -33,6 +34,10 @@ public:
     void setBundlePath(std::filesystem::path path) { m_bundlePath = std::move(path); }
     /// Puts a bundle of several files and folders there, its parents included.
     void installBundle(const std::filesystem::path& bundle, FileTime modified);
+    /// The drive's volume is mounted there, outside of the folders that volumes are mounted in.
+    void addDriveElsewhere(std::filesystem::path mountPoint) {
+        m_drivesElsewhere.push_back(std::move(mountPoint));
+    }
     /// Programs that run beside this one.
     void setRunning(std::vector<std::filesystem::path> bundles) { m_running = std::move(bundles); }
     [[nodiscard]] const std::vector<std::filesystem::path>& opened() const { return m_opened; }
@@ -63,6 +68,7 @@ private:
     /// Looking at a file and changing it both begin with its place.
     mutable FileTree m_ownDisk;
     std::filesystem::path m_bundlePath;
+    std::vector<std::filesystem::path> m_drivesElsewhere;
     std::vector<std::filesystem::path> m_running;
     std::vector<std::filesystem::path> m_opened;
     bool m_copyFails = false;

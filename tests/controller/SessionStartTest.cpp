@@ -49,6 +49,24 @@ TEST_F(RelocationTest, DisregardsTheLetterCaseOfTheMountRoot) {
     EXPECT_TRUE(hasQuit());
 }
 
+TEST_F(RelocationTest, ACopyInAHomeFolderOnAVolumeStartsNormally) {
+    files().addDriveElsewhere("/home");
+    files().setBundlePath(m_destination);
+    m_bench.start();
+    EXPECT_FALSE(m_bench.hasQuit());
+    EXPECT_EQ(m_bench.app().Drives.DevCnt, 1);
+    EXPECT_THAT(files().opened(), IsEmpty());
+}
+
+TEST_F(RelocationTest, ADriveThatIsMountedElsewhereIsAVolumeTheSame) {
+    files().addDriveElsewhere("/mnt/stick");
+    files().setBundlePath("/mnt/stick/ZeltoAppMac.app");
+    files().installBundle("/mnt/stick/ZeltoAppMac.app", Tuesday);
+    m_bench.start();
+    EXPECT_THAT(files().opened(), ElementsAre(m_destination));
+    EXPECT_TRUE(m_bench.hasQuit());
+}
+
 TEST_F(RelocationTest, ACopyThatRunsAlreadyIsLeftAlone) {
     files().installBundle(m_destination, Monday);
     files().setRunning({m_destination});

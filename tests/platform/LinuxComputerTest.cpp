@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxComputer.h"
 #include "platform/linux/DetachedStart.h"
+#include "tests/platform/SysfsTree.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <QEventLoop>
@@ -153,6 +154,42 @@ void waitForFile(const fs::path& file) {
     if (!fs::exists(file)) {
         loop.exec();
     }
+}
+
+TEST_F(ComputerTest, StartsAScriptByTheShellWhereNothingMayBeExecuted) {
+    const auto report = (folder / "report").string();
+    folder.write("home/Zelto Ü.app/platform_tests", "#!/bin/sh\necho \"$0\" > '" + report +
+                                                        ".part'\nmv '" + report + ".part' '" +
+                                                        report + "'\n");
+    // A file without the permission is refused as one on a volume mounted "noexec" is.
+    const auto program = folder / "home/Zelto Ü.app/platform_tests";
+    fs::permissions(program, fs::perms(0644));
+    EXPECT_EQ(computer.open(program.parent_path()), 0);
+    waitForFile(report);
+    EXPECT_EQ(folder.read("report"), program.string() + "\n");
+}
+
+/// A computer whose drive's partition and the mapping that it holds are mounted somewhere.
+TEST_F(ComputerTest, CountsTheDrivesOwnMountPointsAsMountRoots) {
+    const tests::SysfsTree tree;
+    tree.addUsbDevice("pci/usb1/1-1", 1, 5, "07f7", "0135", "ZD");
+    tree.addUsbDevice("pci/usb1/1-2", 1, 6, "0951", "1666", "OTHER");
+    const auto disk = tree.addDisk("pci/usb1/1-1", 0, "sdb", "ZELTO DISK1     ", 2048);
+    tree.addPartition(disk, "sdb1", 1);
+    tree.addPartition(disk, "sdb2", 2, "8:18");
+    tree.addMapping("dm-0", "253:0", "luks-1", {disk + "/sdb2"});
+    tree.addDisk("pci/usb1/1-2", 0, "sdc", "STICK           ", 2048, "8:32");
+    folder.write("self/mountinfo", "22 1 8:2 / / rw - ext4 /dev/sda2 rw\n"
+                                   "90 22 8:17 / /mnt/my\\040stick rw - vfat /dev/sdb1 rw\n"
+                                   "91 22 253:0 / /srv/secret rw - ext4 /dev/mapper/luks-1 rw\n"
+                                   "92 22 0:45 / /srv/btrfs rw - btrfs /dev/mapper/luks-1 rw\n"
+                                   "93 22 8:32 / /mnt/other rw - vfat /dev/sdc rw\n"
+                                   "94 22 8:17 / / rw - vfat /dev/sdb1 rw\n"
+                                   "95 22 0:21 / /proc rw - proc proc rw\n");
+    const LinuxComputer mounting(waiting, folder.path(), tree.path());
+    EXPECT_THAT(mounting.mountRoots({0x07f7, 0x0135}),
+                ElementsAre("/media", "/run/media", "/mnt/my stick", "/srv/secret", "/srv/btrfs"));
+    EXPECT_THAT(mounting.mountRoots({0x07f7, 0x0136}), ElementsAre("/media", "/run/media"));
 }
 
 TEST_F(ComputerTest, StartsTheProgramFreeOfEverythingThatWouldKeepAVolumeBusy) {

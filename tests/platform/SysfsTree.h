@@ -3,6 +3,7 @@
 #include "tests/support/TemporaryFolder.h"
 
 #include <string>
+#include <vector>
 
 namespace zelto::test {
 
@@ -39,7 +40,8 @@ public:
 
     /// The storage unit `lun` of a USB device, with its disk. Returns the disk's place.
     std::string addDisk(const std::string& usbPlace, unsigned lun, const std::string& name,
-                        const std::string& model, unsigned long sectors) const {
+                        const std::string& model, unsigned long sectors,
+                        const std::string& number = "8:16") const {
         const auto interface =
             usbPlace + "/" + std::filesystem::path(usbPlace).filename().string() + ":1.0";
         const auto unit = interface + "/host0/target0:0:0/0:0:0:" + std::to_string(lun);
@@ -57,18 +59,48 @@ public:
         addDevice(disk, "block");
         m_folder.link("devices/" + disk + "/device", "../../../0:0:0:" + std::to_string(lun));
         set(disk, "size", std::to_string(sectors));
-        set(disk, "dev", "8:16");
+        addNumber(disk, number);
         return disk;
     }
 
-    void addPartition(const std::string& disk, const std::string& name, unsigned number) const {
+    void addPartition(const std::string& disk, const std::string& name, unsigned number,
+                      const std::string& deviceNumber = "8:17") const {
         addDevice(disk + "/" + name, "block");
         set(disk + "/" + name, "partition", std::to_string(number));
-        set(disk + "/" + name, "dev", "8:17");
+        addNumber(disk + "/" + name, deviceNumber);
         set(disk + "/" + name, "size", "100");
     }
 
+    /// A mapping that stands on disks, partitions or other mappings. Returns its place.
+    std::string addMapping(const std::string& name, const std::string& number,
+                           const std::string& mapping,
+                           const std::vector<std::string>& standsOn) const {
+        const auto place = "virtual/block/" + name;
+        addDevice(place, "block");
+        set(place, "size", "100");
+        set(place, "dm/name", mapping);
+        addNumber(place, number);
+        for (const auto& below : standsOn) {
+            m_folder.link("devices/" + below + "/holders/" + name,
+                          (m_folder.path() / "devices" / place).string());
+            m_folder.link("devices/" + place + "/slaves/" +
+                              std::filesystem::path(below).filename().string(),
+                          (m_folder.path() / "devices" / below).string());
+        }
+        return place;
+    }
+
 private:
+    void addNumber(const std::string& place, const std::string& number) const {
+        set(place, "dev", number);
+        const auto target = (m_folder.path() / "devices" / place).string();
+        m_folder.link("class/block/" + std::filesystem::path(place).filename().string(), target);
+        // Tests that do not tell numbers apart give the same one to several.
+        if (!std::filesystem::is_symlink(m_folder / ("dev/block/" + number))) {
+            m_folder.link("dev/block/" + number, target);
+        }
+    }
+
     TemporaryFolder m_folder;
 };
 

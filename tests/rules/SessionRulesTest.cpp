@@ -132,5 +132,28 @@ TEST(BundleLocation, ReadsSpacesAndNonAsciiLetters) {
     EXPECT_TRUE(runsFromMountedVolume("/MEDIEN Größe/x/ZeltoAppMac.app", {"/medien größe"}));
 }
 
+TEST(BundleLocation, RelocatesFromAVolumeToAnywhereButItself) {
+    struct Row {
+        int line;
+        const char* bundle;
+        const char* destination;
+        bool relocates;
+    };
+    const std::vector<Row> rows{
+        {__LINE__, "/media/a/TOOL/Z.app", "/home/a/Applications/Z.app", true},
+        {__LINE__, "/home/a/Applications/Z.app", "/home/a/Applications/Z.app", false},
+        {__LINE__, "/home/a/Desktop/Z.app", "/home/a/Applications/Z.app", false},
+        // The home folder lies on a mounted volume.
+        {__LINE__, "/media/home/a/Applications/Z.app", "/media/home/a/Applications/Z.app", false},
+        {__LINE__, "/media/home/a/Desktop/Z.app", "/media/home/a/Applications/Z.app", true},
+        {__LINE__, "/media/a/TOOL/Z.app", "/media/home/a/Applications/Z.app", true},
+        {__LINE__, "/media/home/a/Applications/Z.app", "/media/home/a/Applications/z.app", true},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(hasToRelocate(row.bundle, row.destination, Roots), row.relocates)
+            << "line " << row.line;
+    }
+}
+
 } // namespace
 } // namespace zelto::test
