@@ -58,13 +58,14 @@ FatPartition planFatPartition(quint64 diskSizeInBytes) {
     return {Mebibyte, size, size < SmallestFat32 ? QStringLiteral("0x0e") : QStringLiteral("0x0c")};
 }
 
-LinuxDiskTool::LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts,
-                             std::filesystem::path proc, std::chrono::milliseconds propertyDelay)
+LinuxDiskTool::LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts, DiskDelays delays,
+                             KernelFolders kernel)
     : m_bus(std::move(bus)),
       m_waiting(waiting),
       m_mounts(mounts),
-      m_proc(std::move(proc)),
-      m_propertyDelay(propertyDelay) {}
+      m_delays(delays),
+      m_proc(std::move(kernel.proc)),
+      m_devices(std::move(kernel.sysfs)) {}
 
 UDisks& LinuxDiskTool::service() {
     if (!m_service) {
@@ -97,24 +98,35 @@ bool LinuxDiskTool::eject(const std::string& bsdName) {
     const auto state = service().state();
     const auto* block = state ? state->findDevice(bsdName) : nullptr;
     const auto* disk = block != nullptr ? state->diskOf(*block) : nullptr;
-    if (disk == nullptr || state->findDrive(disk->drive) == nullptr) {
+    if (disk == nullptr) {
         return false;
     }
+    const bool hasDrive = state->findDrive(disk->drive) != nullptr;
+    return (hasDrive ? ejectMedium(*disk) : unmountDisk(disk->path)) || isFree(disk->path);
+}
+
+bool LinuxDiskTool::ejectMedium(const UDisksBlock& disk) {
     // The service is not always right about drives; a disk without a size has no medium either.
-    const auto mediumHasGone = [path = disk->path, drive = disk->drive](const UDisksState& now) {
-        const auto* ejected = now.find(path);
-        const auto* driveNow = now.findDrive(drive);
+    const auto mediumHasGone = [&](const UDisksState& now) {
+        const auto* ejected = now.find(disk.path);
+        const auto* driveNow = now.findDrive(disk.drive);
         return ejected == nullptr || ejected->sizeInBytes == 0 || driveNow == nullptr ||
                !driveNow->mediaAvailable;
     };
     // Never PowerOff: it takes the whole device off the bus, and the log-out still has to reach it.
     return doFreed(
-        disk->path,
+        disk.path,
         [&] {
-            return service().call(disk->drive, udisks::drive::Interface, udisks::drive::Eject,
+            return service().call(disk.drive, udisks::drive::Interface, udisks::drive::Eject,
                                   withOptions({}));
         },
-        mediumHasGone);
+        mediumHasGone, m_delays.ejection);
+}
+
+/// There may be no program to eject with, or a unit that refuses: that keeps nothing in use.
+bool LinuxDiskTool::isFree(const QString& disk) {
+    const auto state = service().state();
+    return state && state->mountedOn(disk).empty();
 }
 
 bool LinuxDiskTool::eraseDisk(const std::string& bsdName, const std::string& label) {
@@ -124,7 +136,7 @@ bool LinuxDiskTool::eraseDisk(const std::string& bsdName, const std::string& lab
     const auto busy = m_waiting.showWork();
     // A drive that has just come back is in the kernel's tree a while before the service has heard
     // of it and of its medium; longest where the computer is busy with its coming and going.
-    const auto arrivalDelay = 3 * m_propertyDelay;
+    const auto arrivalDelay = 3 * m_delays.property;
     const auto isKnown = [&](const UDisksState& now) {
         const auto* found = now.findDevice(bsdName);
         return found != nullptr && found->sizeInBytes > 0;
@@ -162,8 +174,8 @@ bool LinuxDiskTool::unmountEverywhere(const QString& block) {
         };
         const bool worthWaiting = succeeded(reply) || mayYetSucceed(reply) ||
                                   failedWith(reply, udisks::error::NotMounted);
-        if (service().waitFor(fewer,
-                              worthWaiting ? m_propertyDelay : std::chrono::milliseconds::zero())) {
+        if (service().waitFor(fewer, worthWaiting ? m_delays.property
+                                                  : std::chrono::milliseconds::zero())) {
             continue;
         }
         if (failedWith(reply, udisks::error::NotMounted)) {
@@ -187,7 +199,7 @@ bool LinuxDiskTool::unmountDisk(const QString& disk) {
 
 /// A disk that has left will not reach the goal any more, whatever the service has said.
 bool LinuxDiskTool::settle(const QString& disk, const QDBusMessage& reply,
-                           const UDisks::Predicate& goal) {
+                           const UDisks::Predicate& goal, std::chrono::milliseconds delay) {
     const bool worthWaiting = succeeded(reply) || mayYetSucceed(reply);
     bool reached = false;
     bool hasLeft = false;
@@ -196,21 +208,20 @@ bool LinuxDiskTool::settle(const QString& disk, const QDBusMessage& reply,
         hasLeft = now.find(disk) == nullptr;
         return reached || hasLeft;
     };
-    (void)service().waitFor(decided,
-                            worthWaiting ? m_propertyDelay : std::chrono::milliseconds::zero());
+    (void)service().waitFor(decided, worthWaiting ? delay : std::chrono::milliseconds::zero());
     return reached || (!hasLeft && succeeded(reply));
 }
 
 /// Does what a mounted volume forbids. The desktop may mount one again between the unmounting and
 /// the action, which then finds the device busy.
 bool LinuxDiskTool::doFreed(const QString& disk, const std::function<QDBusMessage()>& action,
-                            const UDisks::Predicate& goal) {
+                            const UDisks::Predicate& goal, std::chrono::milliseconds delay) {
     for (int tries = 0; tries < Attempts; ++tries) {
         if (!unmountDisk(disk)) {
             return false;
         }
         const auto reply = action();
-        if (settle(disk, reply, goal)) {
+        if (settle(disk, reply, goal, delay)) {
             return true;
         }
         const auto state = service().state();
@@ -232,7 +243,8 @@ bool LinuxDiskTool::writeTable(const QString& disk) {
             const auto* found = now.find(disk);
             return found != nullptr && found->tableType == udisks::MbrTable &&
                    now.partitionsOf(disk).empty();
-        });
+        },
+        m_delays.property);
 }
 
 QString LinuxDiskTool::createPartition(const UDisksBlock& disk) {
@@ -254,7 +266,7 @@ QString LinuxDiskTool::createPartition(const UDisksBlock& disk) {
         }
         return now.find(partition) != nullptr;
     };
-    return settle(disk.path, reply, isThere) ? partition : QString();
+    return settle(disk.path, reply, isThere, m_delays.property) ? partition : QString();
 }
 
 bool LinuxDiskTool::makeFat(const QString& disk, const QString& partition, const QString& label) {
@@ -275,7 +287,8 @@ bool LinuxDiskTool::makeFat(const QString& disk, const QString& partition, const
             return found != nullptr && found->hasFilesystem &&
                    found->idType == udisks::FatFilesystem && found->idLabel == label &&
                    found->idUuid != oldUuid;
-        });
+        },
+        m_delays.property);
 }
 
 bool LinuxDiskTool::mount(const QString& disk, const QString& partition) {
@@ -285,7 +298,8 @@ bool LinuxDiskTool::mount(const QString& disk, const QString& partition) {
     }
     const auto reply = service().call(partition, udisks::filesystem::Interface,
                                       udisks::filesystem::Mount, withOptions({}));
-    return settle(disk, reply, mounted) || failedWith(reply, udisks::error::AlreadyMounted);
+    return settle(disk, reply, mounted, m_delays.property) ||
+           failedWith(reply, udisks::error::AlreadyMounted);
 }
 
 } // namespace zelto::linux_platform

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Disks.h"
+#include "platform/linux/BlockDevices.h"
 #include "platform/linux/UDisks.h"
 #include "platform/linux/Waiting.h"
 
@@ -15,6 +16,20 @@
 
 namespace zelto::linux_platform {
 
+/// Where the kernel shows what it knows.
+struct KernelFolders {
+    std::filesystem::path proc = "/proc";
+    std::filesystem::path sysfs = "/sys";
+};
+
+struct DiskDelays {
+    /// How long the service's properties may lag behind its answers.
+    std::chrono::milliseconds property{20'000};
+    /// How long a medium may take to leave. The user waits for it, and the drive that it is in
+    /// hides the area all the same once it is locked.
+    std::chrono::milliseconds ejection{3'000};
+};
+
 /// The disk tool's operations as calls to UDisks2. Desktops mount what appears without being asked,
 /// so each step expects a volume that is mounted again; and since the service can report a failure
 /// for what it has done, a step that failed is judged by the state that it left.
@@ -22,15 +37,12 @@ class LinuxDiskTool final : public DiskTool {
 public:
     using Bus = std::function<QDBusConnection()>;
 
-    /// How long the service's properties may lag behind its answers.
-    static constexpr std::chrono::milliseconds PropertyDelay{20'000};
-
     /// The bus is asked for at the first operation, not before.
-    LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts,
-                  std::filesystem::path proc = "/proc",
-                  std::chrono::milliseconds propertyDelay = PropertyDelay);
+    LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts, DiskDelays delays = {},
+                  KernelFolders kernel = {});
 
     [[nodiscard]] bool umount(const std::string& bsdName) override;
+    /// Succeeds once nothing of the disk is in use, also when its medium stays.
     [[nodiscard]] bool eject(const std::string& bsdName) override;
     /// A label longer than FAT's eleven bytes is refused before anything is touched.
     [[nodiscard]] bool eraseDisk(const std::string& bsdName, const std::string& label) override;
@@ -44,6 +56,8 @@ private:
 
     [[nodiscard]] bool unmountEverywhere(const QString& block);
     [[nodiscard]] bool unmountDisk(const QString& disk);
+    [[nodiscard]] bool ejectMedium(const UDisksBlock& disk);
+    [[nodiscard]] bool isFree(const QString& disk);
     [[nodiscard]] bool writeTable(const QString& disk);
     /// The new partition's object; empty on failure.
     [[nodiscard]] QString createPartition(const UDisksBlock& disk);
@@ -51,15 +65,16 @@ private:
     [[nodiscard]] bool mount(const QString& disk, const QString& partition);
 
     [[nodiscard]] bool doFreed(const QString& disk, const std::function<QDBusMessage()>& action,
-                               const UDisks::Predicate& goal);
+                               const UDisks::Predicate& goal, std::chrono::milliseconds delay);
     [[nodiscard]] bool settle(const QString& disk, const QDBusMessage& reply,
-                              const UDisks::Predicate& goal);
+                              const UDisks::Predicate& goal, std::chrono::milliseconds delay);
 
     Bus m_bus;
     const Waiting& m_waiting;
     MountTable& m_mounts;
+    DiskDelays m_delays;
     std::filesystem::path m_proc;
-    std::chrono::milliseconds m_propertyDelay;
+    BlockDevices m_devices;
     std::unique_ptr<UDisks> m_service;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/linux/LinuxDiskTool.h"
 #include "platform/linux/LinuxMountTable.h"
 #include "tests/platform/FakeUDisks.h"
+#include "tests/platform/SysfsTree.h"
 
 #include <QDBusArgument>
 #include <QLoggingCategory>
@@ -52,17 +53,22 @@ protected:
     }
     [[nodiscard]] bool erase() { return tool.eraseDisk("sdb", "ZELTO TOOL"); }
 
+    [[nodiscard]] LinuxDiskTool toolWith(DiskDelays delays) {
+        return {[this] { return client; }, waiting, mounts, delays, {"/proc", tree.path()}};
+    }
     /// A tool that does not wait for properties that never come.
     [[nodiscard]] LinuxDiskTool impatientTool() {
-        return {[this] { return client; }, waiting, mounts, "/proc", std::chrono::milliseconds(0)};
+        return toolWith({std::chrono::milliseconds(0), std::chrono::milliseconds(0)});
     }
 
+    static constexpr std::chrono::hours LongerThanAnyTest{24};
+    SysfsTree tree;
     PrivateBus bus;
     QDBusConnection client = bus.connection("client");
     FakeUDisks udisks{bus.connection("service")};
     Waiting waiting;
     LinuxMountTable mounts;
-    LinuxDiskTool tool{[this] { return client; }, waiting, mounts};
+    LinuxDiskTool tool = toolWith({});
 };
 
 TEST_F(DiskToolTest, UnmountsOneVolumeWithoutForce) {
@@ -205,6 +211,52 @@ TEST_F(DiskToolTest, UnmountsAgainWhatTheDesktopMountsBeforeTheEjection) {
     EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount", "ZELTO.Eject", "sdb1.Unmount", "ZELTO.Eject"));
 }
 
+TEST_F(DiskToolTest, CountsAnEjectionAsDoneThatFailsAlthoughNothingIsMounted) {
+    for (const auto* error : {"Failed", "NotSupported", "NotAuthorizedDismissed", "Timedout"}) {
+        udisks.addPartition({"/media/a/X"});
+        udisks.refuse("Eject", error, "no eject program");
+        EXPECT_TRUE(impatientTool().eject("sdb1")) << error;
+        EXPECT_THAT(udisks.mountPoints(Partition), ::testing::IsEmpty());
+    }
+}
+
+TEST_F(DiskToolTest, CountsAnEjectionAsDoneWhereTheServiceKnowsNoDriveToEjectFrom) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.objects.remove(QDBusObjectPath(FakeUDisks::DrivePath));
+    EXPECT_TRUE(tool.eject("sdb1"));
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount"));
+    udisks.addPartition({"/media/a/X"});
+    udisks.refuse("Unmount", "DeviceBusy");
+    EXPECT_FALSE(tool.eject("sdb1"));
+}
+
+TEST_F(DiskToolTest, FailsWhenTheEjectionLeavesAVolumeMounted) {
+    udisks.addPartition({"/media/a/X"});
+    for (int tries = 0; tries < 5; ++tries) {
+        udisks.script("Eject", [&](const QDBusMessage& call) {
+            udisks.setMountPoints(Partition, {"/media/a/X"});
+            return udisks.obey(call);
+        });
+    }
+    EXPECT_FALSE(tool.eject("sdb"));
+}
+
+TEST_F(DiskToolTest, FailsToEjectWhenTheServiceVanishesMeanwhile) {
+    udisks.addPartition();
+    udisks.script("Eject", [&](const QDBusMessage& call) {
+        udisks.vanish();
+        return call.createErrorReply("org.freedesktop.UDisks2.Error.Failed", "going");
+    });
+    EXPECT_FALSE(impatientTool().eject("sdb"));
+}
+
+TEST_F(DiskToolTest, WaitsForTheMediumOnlyAsLongAsForAnEjection) {
+    udisks.addPartition({"/media/a/X"});
+    udisks.script("Eject", [](const QDBusMessage& call) { return call.createReply(); });
+    EXPECT_TRUE(toolWith({LongerThanAnyTest, std::chrono::milliseconds(0)}).eject("sdb"));
+    EXPECT_EQ(DiskDelays{}.ejection, std::chrono::seconds(3));
+}
+
 TEST_F(DiskToolTest, CountsAnEjectionAsDoneWhenTheMediumIsGoneAllTheSame) {
     udisks.script("Eject", [&](const QDBusMessage& call) {
         udisks.set(FakeUDisks::DrivePath, "Drive", "MediaAvailable", false);
@@ -287,8 +339,7 @@ TEST_F(DiskToolTest, DoesNotWaitForADiskThatHasLeft) {
         return call.createErrorReply("org.freedesktop.UDisks2.Error.Failed",
                                      "Timed out waiting for object");
     });
-    constexpr std::chrono::hours LongerThanAnyTest{24};
-    LinuxDiskTool patient{[this] { return client; }, waiting, mounts, "/proc", LongerThanAnyTest};
+    auto patient = toolWith({LongerThanAnyTest, LongerThanAnyTest});
     EXPECT_FALSE(patient.eraseDisk("sdb", "ZELTO TOOL"));
 }
 
@@ -333,7 +384,7 @@ TEST_F(DiskToolTest, ShowsThatWorkIsUnderWayOncePerRun) {
         ++shown;
         return std::make_shared<int>();
     });
-    LinuxDiskTool shower([this] { return client; }, showing, mounts);
+    LinuxDiskTool shower([this] { return client; }, showing, mounts, {}, {"/proc", tree.path()});
     udisks.addPartition({"/media/a/OLD"});
     EXPECT_TRUE(shower.eraseDisk("sdb", "ZELTO TOOL"));
     EXPECT_EQ(shown, 1);
