@@ -1,7 +1,9 @@
 #include "app/AppDelegate.h"
 #include "device/DeviceReads.h"
+#include "device/IORegistry.h"
 #include "platform/Computer.h"
 #include "platform/Disks.h"
+#include "settings/AreaPacking.h"
 #include "ui/Strings.h"
 
 #include <algorithm>
@@ -16,7 +18,11 @@ constexpr const char* BundleName = "ZeltoAppMac.app";
 
 bool AppDelegate::FormatDrive(const std::string& bsdName) {
     const EventGate::Closing closing(m_gate);
-    return m_platform.disks.eraseDisk(bsdName, ToolVolumeLabel);
+    const auto* const drive = Drives.CurrentUsbIntf;
+    const DiskIdentity toolArea{.location = drive == nullptr ? 0 : drive->GetLocationID(),
+                                .mediaName = mediaName(Setup.ReservedAreaDiskNumber),
+                                .sectorCount = AreaUnits::ToolAreaSectors};
+    return m_platform.disks.eraseDisk(bsdName, toolArea, ToolVolumeLabel);
 }
 
 bool AppDelegate::CopyToolFile(const std::string& bsdName) {

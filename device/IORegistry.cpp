@@ -45,16 +45,16 @@ bool takeEntry(ScanState& state, std::uint32_t depth) {
     return state.entriesLeft > 0;
 }
 
-std::string mediaName(std::uint8_t diskNumber) {
-    return std::string(ProductName) + std::to_string(diskNumber) + " Media";
-}
-
 bool isTargetDevice(const ScanState& state, const ScanTarget& target) {
     return state.vendor == target.vendor && state.product == target.product &&
            state.serial.value_or("") == target.serial;
 }
 
 } // namespace
+
+std::string mediaName(std::uint8_t diskNumber) {
+    return std::string(ProductName) + std::to_string(diskNumber) + " Media";
+}
 
 bool IsScanComplete(const ScanState& state) {
     return state.phase == ScanPhase::Complete;

@@ -60,6 +60,9 @@ struct ScanNames {
     std::string planeName = "IOService";
 };
 
+/// The registry's name for a drive's disk: "KESTRIN ZELTO DISK2 Media" for number 2.
+[[nodiscard]] std::string mediaName(std::uint8_t diskNumber);
+
 /// BSD names of the chosen drive's volumes, as the latest walk found them.
 extern std::vector<std::string> g_BsdNameList;
 

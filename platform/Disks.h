@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,17 @@ public:
     [[nodiscard]] virtual std::vector<MountedFileSystem> getmntinfo() = 0;
 };
 
+/// Which disk is meant, under whatever name: a name passes on to the next disk when one leaves.
+struct DiskIdentity {
+    /// The stay of the USB device that it is a unit of (UsbDeviceInterface::GetLocationID).
+    std::uint32_t location = 0;
+    /// Its name in the registry, which tells the device's units apart.
+    std::string mediaName;
+    std::uint64_t sectorCount = 0;
+
+    bool operator==(const DiskIdentity&) const = default;
+};
+
 /// The system's disk tool. An operation waits until it has ended, however long that takes: a slow
 /// flush and the formatting of a large volume may take minutes. Windows go on repainting meanwhile,
 /// but take no input. The result is true when it was done.
@@ -43,8 +55,10 @@ public:
     [[nodiscard]] virtual bool eject(const std::string& bsdName) = 0;
 
     /// Wipes the disk, writes a master boot record with one FAT partition of that label, and leaves
-    /// the volume mounted.
-    [[nodiscard]] virtual bool eraseDisk(const std::string& bsdName, const std::string& label) = 0;
+    /// the volume mounted. Nothing is written once the name has passed on to another disk than the
+    /// one that is meant.
+    [[nodiscard]] virtual bool eraseDisk(const std::string& bsdName, const DiskIdentity& meant,
+                                         const std::string& label) = 0;
 
     /// The BSD name of a disk's partition, counted from 1: "disk2" and 1 give "disk2s1" where the
     /// system names partitions so, "sdb" and 1 give "sdb1" on Linux.

@@ -117,4 +117,20 @@ std::optional<SysfsEntry> BlockDevices::usbDeviceOf(const std::string& name, Nam
     return std::nullopt;
 }
 
+bool BlockDevices::isDisk(const std::string& name, const DiskIdentity& meant) const {
+    const auto disk = find(name);
+    const auto device = usbDeviceOf(name);
+    if (!disk || !device || disk->kind() != SysfsEntry::Kind::Disk || isStacked(name)) {
+        return false;
+    }
+    return meant == DiskIdentity{device->usbLocation().value_or(0), mediaName(*disk),
+                                 disk->decimal("size").value_or(0)};
+}
+
+bool BlockDevices::isPartitionOf(const std::string& name, const std::string& disk) const {
+    const auto partition = find(name);
+    return partition && partition->kind() == SysfsEntry::Kind::Partition &&
+           blockName(partition->folder().parent_path()) == disk;
+}
+
 } // namespace zelto::linux_platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Disks.h"
 #include "platform/linux/SysfsEntry.h"
 
 #include <filesystem>
@@ -32,6 +33,11 @@ public:
 
     /// The USB device that the device hangs on, be it through others that it stands on.
     [[nodiscard]] std::optional<SysfsEntry> usbDeviceOf(const std::string& name) const;
+
+    /// Whether the name is that disk's at this moment.
+    [[nodiscard]] bool isDisk(const std::string& name, const DiskIdentity& meant) const;
+    /// Whether the name is that of a partition of the disk.
+    [[nodiscard]] bool isPartitionOf(const std::string& name, const std::string& disk) const;
 
 private:
     using Names = std::set<std::string>;

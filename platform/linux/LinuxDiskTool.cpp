@@ -19,6 +19,7 @@ constexpr int Attempts = 5;
 constexpr int MostMountPoints = 32;
 /// FAT's, in bytes.
 constexpr std::size_t LongestLabel = 11;
+constexpr quint64 SectorSize = 512;
 
 bool succeeded(const QDBusMessage& reply) {
     return reply.type() == QDBusMessage::ReplyMessage;
@@ -58,7 +59,7 @@ FatPartition planFatPartition(quint64 diskSizeInBytes) {
     return {Mebibyte, size, size < SmallestFat32 ? QStringLiteral("0x0e") : QStringLiteral("0x0c")};
 }
 
-LinuxDiskTool::LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts, DiskDelays delays,
+LinuxDiskTool::LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts, Delays delays,
                              KernelFolders kernel)
     : m_bus(std::move(bus)),
       m_waiting(waiting),
@@ -114,13 +115,11 @@ bool LinuxDiskTool::ejectMedium(const UDisksBlock& disk) {
                !driveNow->mediaAvailable;
     };
     // Never PowerOff: it takes the whole device off the bus, and the log-out still has to reach it.
-    return doFreed(
-        disk.path,
-        [&] {
-            return service().call(disk.drive, udisks::drive::Interface, udisks::drive::Eject,
-                                  withOptions({}));
-        },
-        mediumHasGone, m_delays.ejection);
+    const auto ask = [&] {
+        return service().call(disk.drive, udisks::drive::Interface, udisks::drive::Eject,
+                              withOptions({}));
+    };
+    return doFreed(disk.path, ask, mediumHasGone, m_delays.ejection);
 }
 
 /// There may be no program to eject with, or a unit that refuses: that keeps nothing in use.
@@ -129,29 +128,42 @@ bool LinuxDiskTool::isFree(const QString& disk) {
     return state && state->mountedOn(disk).empty();
 }
 
-bool LinuxDiskTool::eraseDisk(const std::string& bsdName, const std::string& label) {
+bool LinuxDiskTool::eraseDisk(const std::string& bsdName, const DiskIdentity& meant,
+                              const std::string& label) {
     if (label.size() > LongestLabel) {
         return false;
     }
     const auto busy = m_waiting.showWork();
-    // A drive that has just come back is in the kernel's tree a while before the service has heard
-    // of it and of its medium; longest where the computer is busy with its coming and going.
-    const auto arrivalDelay = 3 * m_delays.property;
-    const auto isKnown = [&](const UDisksState& now) {
-        const auto* found = now.findDevice(bsdName);
-        return found != nullptr && found->sizeInBytes > 0;
-    };
-    if (!service().waitFor(isKnown, arrivalDelay)) {
+    if (!isKnown(bsdName, meant)) {
         return false;
     }
     const auto state = service().state();
     const auto* disk = state ? state->findDevice(bsdName) : nullptr;
-    if (disk == nullptr || !writeTable(disk->path)) {
+    if (disk == nullptr) {
         return false;
     }
-    const auto partition = createPartition(*disk);
-    return !partition.isEmpty() && makeFat(disk->path, partition, QString::fromStdString(label)) &&
+    const Erasure erasure{disk->path, bsdName, meant};
+    if (!writeTable(erasure)) {
+        return false;
+    }
+    const auto partition = createPartition(erasure);
+    return !partition.isEmpty() && makeFat(erasure, partition, QString::fromStdString(label)) &&
            mount(disk->path, partition);
+}
+
+/// A drive that has just come back is in the kernel's tree a while before the service has heard of
+/// it and of its medium; longest where the computer is busy with its coming and going. The service
+/// may still speak of the disk that had the name before.
+bool LinuxDiskTool::isKnown(const std::string& bsdName, const DiskIdentity& meant) {
+    const auto arrivalDelay = 3 * m_delays.property;
+    bool isMeant = true;
+    const auto decided = [&](const UDisksState& now) {
+        isMeant = m_devices.isDisk(bsdName, meant);
+        const auto* found = now.findDevice(bsdName);
+        return !isMeant ||
+               (found != nullptr && found->sizeInBytes == meant.sectorCount * SectorSize);
+    };
+    return service().waitFor(decided, arrivalDelay) && isMeant;
 }
 
 bool LinuxDiskTool::unmountEverywhere(const QString& block) {
@@ -214,14 +226,17 @@ bool LinuxDiskTool::settle(const QString& disk, const QDBusMessage& reply,
 
 /// Does what a mounted volume forbids. The desktop may mount one again between the unmounting and
 /// the action, which then finds the device busy.
-bool LinuxDiskTool::doFreed(const QString& disk, const std::function<QDBusMessage()>& action,
+bool LinuxDiskTool::doFreed(const QString& disk, const Action& action,
                             const UDisks::Predicate& goal, std::chrono::milliseconds delay) {
     for (int tries = 0; tries < Attempts; ++tries) {
         if (!unmountDisk(disk)) {
             return false;
         }
         const auto reply = action();
-        if (settle(disk, reply, goal, delay)) {
+        if (!reply) {
+            return false;
+        }
+        if (settle(disk, *reply, goal, delay)) {
             return true;
         }
         const auto state = service().state();
@@ -232,27 +247,28 @@ bool LinuxDiskTool::doFreed(const QString& disk, const std::function<QDBusMessag
     return false;
 }
 
-bool LinuxDiskTool::writeTable(const QString& disk) {
-    return doFreed(
-        disk,
-        [&] {
-            return service().call(disk, udisks::block::Interface, udisks::block::Format,
-                                  withOptions({udisks::MbrTable}));
-        },
-        [&](const UDisksState& now) {
-            const auto* found = now.find(disk);
-            return found != nullptr && found->tableType == udisks::MbrTable &&
-                   now.partitionsOf(disk).empty();
-        },
-        m_delays.property);
+bool LinuxDiskTool::writeTable(const Erasure& erasure) {
+    const auto format = [&]() -> std::optional<QDBusMessage> {
+        if (!m_devices.isDisk(erasure.bsdName, erasure.meant)) {
+            return std::nullopt;
+        }
+        return service().call(erasure.disk, udisks::block::Interface, udisks::block::Format,
+                              withOptions({udisks::MbrTable}));
+    };
+    const auto isEmptyTable = [&](const UDisksState& now) {
+        const auto* found = now.find(erasure.disk);
+        return found != nullptr && found->tableType == udisks::MbrTable &&
+               now.partitionsOf(erasure.disk).empty();
+    };
+    return doFreed(erasure.disk, format, isEmptyTable, m_delays.property);
 }
 
-QString LinuxDiskTool::createPartition(const UDisksBlock& disk) {
-    const auto plan = planFatPartition(disk.sizeInBytes);
-    if (plan.type.isEmpty()) {
+QString LinuxDiskTool::createPartition(const Erasure& erasure) {
+    const auto plan = planFatPartition(erasure.meant.sectorCount * SectorSize);
+    if (plan.type.isEmpty() || !m_devices.isDisk(erasure.bsdName, erasure.meant)) {
         return {};
     }
-    const auto reply = service().call(disk.path, udisks::partition_table::Interface,
+    const auto reply = service().call(erasure.disk, udisks::partition_table::Interface,
                                       udisks::partition_table::CreatePartition,
                                       withOptions({plan.offset, plan.size, plan.type, QString()}));
     QString partition;
@@ -260,35 +276,41 @@ QString LinuxDiskTool::createPartition(const UDisksBlock& disk) {
         partition = reply.arguments().constFirst().value<QDBusObjectPath>().path();
     }
     const auto isThere = [&](const UDisksState& now) {
-        const auto partitions = now.partitionsOf(disk.path);
+        const auto partitions = now.partitionsOf(erasure.disk);
         if (partition.isEmpty() && !partitions.empty()) {
             partition = partitions.front()->path;
         }
         return now.find(partition) != nullptr;
     };
-    return settle(disk.path, reply, isThere, m_delays.property) ? partition : QString();
+    return settle(erasure.disk, reply, isThere, m_delays.property) ? partition : QString();
 }
 
-bool LinuxDiskTool::makeFat(const QString& disk, const QString& partition, const QString& label) {
+bool LinuxDiskTool::makeFat(const Erasure& erasure, const QString& partition,
+                            const QString& label) {
     // A file system that lay at the same sectors before shows up again with the partition, perhaps
     // under the same label; only the new one has a new serial number.
     const auto state = service().state();
     const auto* before = state ? state->find(partition) : nullptr;
-    const auto oldUuid = before != nullptr ? before->idUuid : QString();
-    return doFreed(
-        disk,
-        [&] {
-            return service().call(
-                partition, udisks::block::Interface, udisks::block::Format,
-                withOptions({udisks::FatFilesystem}, {{udisks::block::LabelOption, label}}));
-        },
-        [&](const UDisksState& now) {
-            const auto* found = now.find(partition);
-            return found != nullptr && found->hasFilesystem &&
-                   found->idType == udisks::FatFilesystem && found->idLabel == label &&
-                   found->idUuid != oldUuid;
-        },
-        m_delays.property);
+    if (before == nullptr) {
+        return false;
+    }
+    const auto oldUuid = before->idUuid;
+    const auto name = before->name();
+    const auto format = [&]() -> std::optional<QDBusMessage> {
+        if (!m_devices.isDisk(erasure.bsdName, erasure.meant) ||
+            !m_devices.isPartitionOf(name, erasure.bsdName)) {
+            return std::nullopt;
+        }
+        return service().call(
+            partition, udisks::block::Interface, udisks::block::Format,
+            withOptions({udisks::FatFilesystem}, {{udisks::block::LabelOption, label}}));
+    };
+    const auto isFormatted = [&](const UDisksState& now) {
+        const auto* found = now.find(partition);
+        return found != nullptr && found->hasFilesystem && found->idType == udisks::FatFilesystem &&
+               found->idLabel == label && found->idUuid != oldUuid;
+    };
+    return doFreed(erasure.disk, format, isFormatted, m_delays.property);
 }
 
 bool LinuxDiskTool::mount(const QString& disk, const QString& partition) {

@@ -45,7 +45,8 @@ public:
     /// Succeeds once nothing of the disk is in use, also when its medium stays.
     [[nodiscard]] bool eject(const std::string& bsdName) override;
     /// A label longer than FAT's eleven bytes is refused before anything is touched.
-    [[nodiscard]] bool eraseDisk(const std::string& bsdName, const std::string& label) override;
+    [[nodiscard]] bool eraseDisk(const std::string& bsdName, const DiskIdentity& meant,
+                                 const std::string& label) override;
     [[nodiscard]] std::string partitionName(const std::string& disk,
                                             unsigned number) const override;
     [[nodiscard]] std::vector<std::string>
@@ -58,13 +59,24 @@ private:
     [[nodiscard]] bool unmountDisk(const QString& disk);
     [[nodiscard]] bool ejectMedium(const UDisksBlock& disk);
     [[nodiscard]] bool isFree(const QString& disk);
-    [[nodiscard]] bool writeTable(const QString& disk);
+    /// A disk that is being erased: the service's object, and what has to be true of its name
+    /// before each step that destroys something.
+    struct Erasure {
+        QString disk;
+        std::string bsdName;
+        DiskIdentity meant;
+    };
+    [[nodiscard]] bool isKnown(const std::string& bsdName, const DiskIdentity& meant);
+    [[nodiscard]] bool writeTable(const Erasure& erasure);
     /// The new partition's object; empty on failure.
-    [[nodiscard]] QString createPartition(const UDisksBlock& disk);
-    [[nodiscard]] bool makeFat(const QString& disk, const QString& partition, const QString& label);
+    [[nodiscard]] QString createPartition(const Erasure& erasure);
+    [[nodiscard]] bool makeFat(const Erasure& erasure, const QString& partition,
+                               const QString& label);
     [[nodiscard]] bool mount(const QString& disk, const QString& partition);
 
-    [[nodiscard]] bool doFreed(const QString& disk, const std::function<QDBusMessage()>& action,
+    /// What a step asks of the service, or nothing when it must not be done any more.
+    using Action = std::function<std::optional<QDBusMessage>()>;
+    [[nodiscard]] bool doFreed(const QString& disk, const Action& action,
                                const UDisks::Predicate& goal, std::chrono::milliseconds delay);
     [[nodiscard]] bool settle(const QString& disk, const QDBusMessage& reply,
                               const UDisks::Predicate& goal, std::chrono::milliseconds delay);

@@ -5,6 +5,7 @@
 #include <QDBusArgument>
 
 #include <algorithm>
+#include <string_view>
 
 namespace zelto::linux_platform {
 
@@ -78,13 +79,18 @@ UDisksState UDisksState::decode(const ManagedObjects& objects) {
     return state;
 }
 
+std::string UDisksBlock::name() const {
+    constexpr std::string_view Folder = "/dev/";
+    const auto node = device.toStdString();
+    return node.starts_with(Folder) ? node.substr(Folder.size()) : std::string();
+}
+
 const UDisksBlock* UDisksState::find(const QString& path) const {
     return findIf(blocks, [&](const UDisksBlock& block) { return block.path == path; });
 }
 
 const UDisksBlock* UDisksState::findDevice(const std::string& bsdName) const {
-    const auto device = "/dev/" + QByteArray::fromStdString(bsdName);
-    return findIf(blocks, [&](const UDisksBlock& block) { return block.device == device; });
+    return findIf(blocks, [&](const UDisksBlock& block) { return block.name() == bsdName; });
 }
 
 const UDisksDrive* UDisksState::findDrive(const QString& path) const {

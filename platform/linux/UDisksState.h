@@ -33,6 +33,9 @@ struct UDisksBlock {
     QString tableType;
     /// A partition's disk; empty for what is no partition.
     QString disk;
+
+    /// The kernel's name: "sdb1".
+    [[nodiscard]] std::string name() const;
 };
 
 struct UDisksDrive {

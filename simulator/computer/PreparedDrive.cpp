@@ -64,7 +64,7 @@ bool formatAll(VirtualComputer& workshop, const DriveSetup& setup) {
     labels.push_back(ToolLabel);
     return std::ranges::all_of(workshop.disks.all(), [&](const auto& disk) {
         const std::string& label = labels.at(disk->unit);
-        return label.empty() || workshop.diskTool.eraseDisk(disk->bsdName, label);
+        return label.empty() || workshop.diskTool.eraseDisk(disk->bsdName, disk->identity(), label);
     });
 }
 

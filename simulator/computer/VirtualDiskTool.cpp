@@ -28,10 +28,11 @@ bool VirtualDiskTool::eject(const std::string& bsdName) {
     });
 }
 
-bool VirtualDiskTool::eraseDisk(const std::string& bsdName, const std::string& label) {
+bool VirtualDiskTool::eraseDisk(const std::string& bsdName, const DiskIdentity& meant,
+                                const std::string& label) {
     return run(DiskVerb::EraseDisk, "eraseDisk MS-DOS " + label + " MBR " + bsdName, bsdName, [&] {
         VirtualDisk* const disk = m_disks.find(bsdName);
-        return disk != nullptr && disk->bsdName == bsdName &&
+        return disk != nullptr && disk->bsdName == bsdName && disk->identity() == meant &&
                label.size() <= VirtualVolume::LongestLabel && unmountVolume(*disk) &&
                format(*disk, label);
     });

@@ -28,7 +28,8 @@ public:
 
     [[nodiscard]] bool umount(const std::string& bsdName) override;
     [[nodiscard]] bool eject(const std::string& bsdName) override;
-    [[nodiscard]] bool eraseDisk(const std::string& bsdName, const std::string& label) override;
+    [[nodiscard]] bool eraseDisk(const std::string& bsdName, const DiskIdentity& meant,
+                                 const std::string& label) override;
     [[nodiscard]] std::string partitionName(const std::string& disk,
                                             unsigned number) const override;
     [[nodiscard]] std::vector<std::string>

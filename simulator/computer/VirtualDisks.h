@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Disks.h"
 #include "simulator/computer/VirtualUsbBus.h"
 #include "simulator/drive/SectorStore.h"
 
@@ -24,6 +25,9 @@ struct VirtualDisk {
     /// A volume shows up as the disk's first partition.
     bool hasVolume = false;
 
+    [[nodiscard]] DiskIdentity identity() const {
+        return {attachment->location, unitName + " Media", medium->sectorCount()};
+    }
     [[nodiscard]] std::string volumeName() const { return bsdName + "s1"; }
 };
 

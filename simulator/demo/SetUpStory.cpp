@@ -135,8 +135,8 @@ void useTheDrive(Story& story, const Drive& drive) {
     logIn(story, OldPasswords);
     story.tell("The secure area is blank; its owner formats it and keeps something there.");
     const VirtualDisk* const secure = story.diskOfUnit("KESTRIN ZELTO DISK1");
-    const bool formatted =
-        secure != nullptr && story.computer.diskTool.eraseDisk(secure->bsdName, "SECRET");
+    const bool formatted = secure != nullptr && story.computer.diskTool.eraseDisk(
+                                                    secure->bsdName, secure->identity(), "SECRET");
     story.check("the volume SECRET is there",
                 formatted && story.computer.files.fileExistsAtPath("/media/user/SECRET"));
     story.check("a copy of the utility fits on it",

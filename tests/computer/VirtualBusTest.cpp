@@ -1,7 +1,7 @@
 #include "device/VendorRequest.h"
 #include "device/ZELTOctrl.h"
 #include "simulator/computer/VirtualComputer.h"
-#include "tests/computer/OtherUsbDevices.h"
+#include "tests/support/OtherUsbDevices.h"
 #include "tests/support/FaultyDevice.h"
 
 #include <gmock/gmock.h>

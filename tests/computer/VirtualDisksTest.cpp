@@ -1,5 +1,5 @@
 #include "simulator/computer/VirtualComputer.h"
-#include "tests/computer/OtherUsbDevices.h"
+#include "tests/support/OtherUsbDevices.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -28,7 +28,11 @@ constexpr std::uint64_t DriveSectors = 262144;
 
 class VirtualDisksTest : public testing::Test {
 protected:
-    bool erase(const std::string& disk) { return m_tool.eraseDisk(disk, "ZELTO TOOL"); }
+    bool erase(const std::string& disk) {
+        const VirtualDisk* const found = m_computer.disks.find(disk);
+        return m_tool.eraseDisk(disk, found != nullptr ? found->identity() : DiskIdentity(),
+                                "ZELTO TOOL");
+    }
     /// The names of all entries of the registry, depth first, as a walk sees them; the properties
     /// of each go to `found`.
     static void walk(const RegistryEntry& entry, std::vector<std::string>& names,
@@ -97,7 +101,15 @@ TEST_F(VirtualDisksTest, EraseDiskTakesWholeDisksAndLabelsThatFit) {
     EXPECT_FALSE(erase("disk7"));
     ASSERT_TRUE(erase("disk2"));
     EXPECT_FALSE(erase("disk2s1"));
-    EXPECT_FALSE(m_tool.eraseDisk("disk2", "LONGER THAN FAT"));
+    EXPECT_FALSE(erase("disk2", "LONGER THAN FAT"));
+}
+
+TEST_F(VirtualDisksTest, EraseDiskTakesNoOtherDiskThanTheOneThatIsMeant) {
+    m_computer.plug(m_drive);
+    const DiskIdentity meant = m_computer.disks.find("disk2")->disk->identity();
+    m_computer.replug(m_drive);
+    ASSERT_TRUE(m_computer.disks.find("disk2"));
+    EXPECT_FALSE(m_tool.eraseDisk("disk2", meant, "ZELTO TOOL"));
 }
 
 TEST_F(VirtualDisksTest, AreMountedByTheDesktopWhenTheDriveIsPluggedInAgain) {

@@ -18,7 +18,8 @@ protected:
     void plugWithToolVolume(std::uint64_t sectors = 40960) {
         m_drive = makeDrive("ZD0000000000A1", sectors);
         m_computer.plug(m_drive);
-        ASSERT_TRUE(m_computer.diskTool.eraseDisk("disk2", "ZELTO TOOL"));
+        ASSERT_TRUE(m_computer.diskTool.eraseDisk(
+            "disk2", m_computer.disks.find("disk2")->identity(), "ZELTO TOOL"));
     }
 
     VirtualComputer m_computer;

@@ -1,3 +1,4 @@
+#include "tests/support/OtherUsbDevices.h"
 #include "tests/support/SettingsBench.h"
 
 namespace zelto::test {
@@ -165,6 +166,24 @@ TEST_F(SetupProgressTest, ADriveThatIsPulledBeforeTheFormatLeavesItsNameToNobody
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
     EXPECT_THAT(diskToolRuns(), IsEmpty());
     EXPECT_EQ(setupState(), 4);
+    EXPECT_TRUE(hasQuit());
+}
+
+TEST_F(SetupProgressTest, ADiskThatGetsTheNameOfTheToolAreaIsNotErased) {
+    commitSetup();
+    std::shared_ptr<simulator::ForeignDisk> foreign;
+    computer.diskTool.setBeforeRun([&](const std::string& bsdName) {
+        unplug(drive);
+        while (!computer.disks.find(bsdName)) {
+            foreign = std::make_shared<simulator::ForeignDisk>(262144);
+            computer.usb.plug(foreign);
+        }
+    });
+    tick(20);
+    EXPECT_EQ(diskToolRuns().size(), 1U);
+    ASSERT_NE(foreign, nullptr);
+    EXPECT_FALSE(foreign->wasWritten());
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
     EXPECT_TRUE(hasQuit());
 }
 

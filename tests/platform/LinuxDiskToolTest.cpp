@@ -51,7 +51,25 @@ protected:
         }
         return names;
     }
-    [[nodiscard]] bool erase() { return tool.eraseDisk("sdb", "ZELTO TOOL"); }
+    DiskToolTest() { attach("07f7", "0135", 5); }
+    /// Puts a disk under the names "sdb" and "sdb1".
+    void attach(const char* vendor, const char* product, unsigned number) {
+        tree.addUsbDevice(Place, 1, number, vendor, product, "ZD");
+        const auto disk = tree.addDisk(Place, 3, "sdb", "ZELTO DISK4     ", 40960);
+        tree.addPartition(disk, "sdb1", 1);
+        sdb = tree.path() / "devices" / disk;
+    }
+    void detach() {
+        for (const auto* folder : {"devices", "class", "dev", "bus"}) {
+            std::filesystem::remove_all(tree.path() / folder);
+        }
+    }
+    [[nodiscard]] bool erase() { return tool.eraseDisk("sdb", Meant, "ZELTO TOOL"); }
+    /// The drive is pulled, and a disk just like it that comes next gets its names.
+    void passNameOn() {
+        detach();
+        attach("07f7", "0135", 6);
+    }
 
     [[nodiscard]] LinuxDiskTool toolWith(DiskDelays delays) {
         return {[this] { return client; }, waiting, mounts, delays, {"/proc", tree.path()}};
@@ -62,7 +80,10 @@ protected:
     }
 
     static constexpr std::chrono::hours LongerThanAnyTest{24};
+    static constexpr auto Place = "pci/usb1/1-1";
+    const DiskIdentity Meant{(1U << 16U) | 5U, "KESTRIN ZELTO DISK4 Media", 40960};
     SysfsTree tree;
+    std::filesystem::path sdb;
     PrivateBus bus;
     QDBusConnection client = bus.connection("client");
     FakeUDisks udisks{bus.connection("service")};
@@ -162,7 +183,7 @@ TEST_F(DiskToolTest, ErasesADiskWhoseMediumTheServiceSeesLate) {
 TEST_F(DiskToolTest, FailsWithoutTheServiceOrTheDevice) {
     EXPECT_FALSE(tool.umount("sdz1"));
     EXPECT_FALSE(tool.eject("sdz"));
-    EXPECT_FALSE(impatientTool().eraseDisk("sdz", "X"));
+    EXPECT_FALSE(impatientTool().eraseDisk("sdz", Meant, "X"));
     udisks.vanish();
     EXPECT_FALSE(tool.umount("sdb1"));
     EXPECT_FALSE(tool.eject("sdb"));
@@ -184,7 +205,7 @@ TEST_F(DiskToolTest, FailsWhenTheServiceVanishesInTheMiddleOfACall) {
 }
 
 TEST_F(DiskToolTest, RefusesALabelThatDoesNotFit) {
-    EXPECT_FALSE(tool.eraseDisk("sdb", "LONGER THAN FAT"));
+    EXPECT_FALSE(tool.eraseDisk("sdb", Meant, "LONGER THAN FAT"));
     EXPECT_TRUE(calls().empty());
 }
 
@@ -282,6 +303,68 @@ TEST_F(DiskToolTest, ErasesADiskAndLeavesItsNewVolumeMounted) {
     EXPECT_EQ(udisks.mountPoints(Partition).size(), 1);
 }
 
+TEST_F(DiskToolTest, DoesNotEraseADiskThatIsNotTheOneMeant) {
+    struct Row {
+        int line;
+        DiskIdentity meant;
+    };
+    const std::vector<Row> rows{
+        {__LINE__, {0, Meant.mediaName, 40960}},
+        {__LINE__, {(1U << 16U) | 6U, Meant.mediaName, 40960}},
+        {__LINE__, {(2U << 16U) | 5U, Meant.mediaName, 40960}},
+        {__LINE__, {Meant.location, "KESTRIN ZELTO DISK3 Media", 40960}},
+        {__LINE__, {Meant.location, "", 40960}},
+        {__LINE__, {Meant.location, Meant.mediaName, 40959}},
+        {__LINE__, {Meant.location, Meant.mediaName, 134'217'728}},
+    };
+    for (const auto& row : rows) {
+        EXPECT_FALSE(toolWith({LongerThanAnyTest, LongerThanAnyTest})
+                         .eraseDisk("sdb", row.meant, "ZELTO TOOL"))
+            << "line " << row.line;
+    }
+    EXPECT_FALSE(tool.eraseDisk("sdb1", Meant, "ZELTO TOOL")) << "a partition is no disk";
+    EXPECT_TRUE(calls().empty());
+}
+
+TEST_F(DiskToolTest, DoesNotEraseAnotherDiskThatGetsTheNameWhileTheServiceIsWaitedFor) {
+    udisks.set(Disk, "Block", "Size", quint64{0});
+    udisks.afterReads(1, [&] {
+        passNameOn();
+        udisks.set(Disk, "Block", "Size", quint64{40960} * 512);
+    });
+    EXPECT_FALSE(
+        toolWith({LongerThanAnyTest, LongerThanAnyTest}).eraseDisk("sdb", Meant, "ZELTO TOOL"));
+    EXPECT_TRUE(calls().empty());
+}
+
+TEST_F(DiskToolTest, WaitsWhileTheServiceStillSpeaksOfTheDiskThatHadTheNameBefore) {
+    udisks.set(Disk, "Block", "Size", quint64{134'217'728} * 512);
+    udisks.afterReads(1, [&] { udisks.set(Disk, "Block", "Size", quint64{40960} * 512); });
+    EXPECT_TRUE(erase());
+}
+
+TEST_F(DiskToolTest, StopsErasingOnceTheNameHasPassedOn) {
+    for (const auto* step : {"Unmount", "Format", "CreatePartition"}) {
+        udisks.addPartition({"/media/a/OLD"});
+        udisks.script(step, [&](const QDBusMessage& call) {
+            passNameOn();
+            return udisks.obey(call);
+        });
+        const auto before = udisks.calls().size();
+        EXPECT_FALSE(erase()) << step;
+        EXPECT_EQ(udisks.calls().constLast().section('.', 1), step);
+        EXPECT_GT(udisks.calls().size(), before);
+        detach();
+        attach("07f7", "0135", 5);
+    }
+}
+
+TEST_F(DiskToolTest, DoesNotFormatAPartitionThatIsNotTheDisks) {
+    std::filesystem::remove_all(sdb / "sdb1");
+    EXPECT_FALSE(erase());
+    EXPECT_THAT(calls(), ElementsAre("sdb.Format", "sdb.CreatePartition"));
+}
+
 TEST_F(DiskToolTest, PartitionsFromTheFirstMebibyteOn) {
     udisks.script("CreatePartition", [&](const QDBusMessage& call) {
         EXPECT_EQ(call.arguments().at(0).toULongLong(), 1'048'576U);
@@ -340,7 +423,7 @@ TEST_F(DiskToolTest, DoesNotWaitForADiskThatHasLeft) {
                                      "Timed out waiting for object");
     });
     auto patient = toolWith({LongerThanAnyTest, LongerThanAnyTest});
-    EXPECT_FALSE(patient.eraseDisk("sdb", "ZELTO TOOL"));
+    EXPECT_FALSE(patient.eraseDisk("sdb", Meant, "ZELTO TOOL"));
 }
 
 TEST_F(DiskToolTest, IsNotFooledByTheOldVolumeOfTheSameName) {
@@ -375,7 +458,7 @@ TEST_F(DiskToolTest, ReadsPropertiesOfTheWrongTypeAsEmpty) {
     udisks.set(Partition, "Partition", "Table", QString("no path"));
     udisks.set(Disk, "Block", "Size", QStringList{"x"});
     EXPECT_TRUE(tool.umount("sdb1"));
-    EXPECT_FALSE(impatientTool().eraseDisk("sdb", "ZELTO TOOL"));
+    EXPECT_FALSE(impatientTool().eraseDisk("sdb", Meant, "ZELTO TOOL"));
 }
 
 TEST_F(DiskToolTest, ShowsThatWorkIsUnderWayOncePerRun) {
@@ -386,7 +469,7 @@ TEST_F(DiskToolTest, ShowsThatWorkIsUnderWayOncePerRun) {
     });
     LinuxDiskTool shower([this] { return client; }, showing, mounts, {}, {"/proc", tree.path()});
     udisks.addPartition({"/media/a/OLD"});
-    EXPECT_TRUE(shower.eraseDisk("sdb", "ZELTO TOOL"));
+    EXPECT_TRUE(shower.eraseDisk("sdb", Meant, "ZELTO TOOL"));
     EXPECT_EQ(shown, 1);
 }
 

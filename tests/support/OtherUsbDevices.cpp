@@ -1,4 +1,4 @@
-#include "tests/computer/OtherUsbDevices.h"
+#include "tests/support/OtherUsbDevices.h"
 
 #include "simulator/computer/VirtualVolume.h"
 
