@@ -26,8 +26,11 @@ bool AppDelegate::UnmountVolume(const std::vector<std::string>& bsdNames, std::u
     for (const std::string& name : bsdNames) {
         // Read afresh for each name: ejecting a disk has unmounted its partitions too.
         const auto mounted = m_platform.mounts.getmntinfo();
-        if (std::ranges::find(mounted, "/dev/" + name, &MountedFileSystem::f_mntfromname) ==
-            mounted.end()) {
+        const bool isMounted =
+            std::ranges::find(mounted, "/dev/" + name, &MountedFileSystem::f_mntfromname) !=
+            mounted.end();
+        // Open is as bad as mounted: the drive would be locked under an encrypted volume.
+        if (!isMounted && !m_platform.disks.isStacked(name)) {
             continue;
         }
         const EventGate::Closing closing(m_gate);

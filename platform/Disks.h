@@ -47,10 +47,16 @@ public:
     DiskTool& operator=(const DiskTool&) = delete;
     virtual ~DiskTool() = default;
 
-    /// Unmounts that one volume; never forced, never lazy.
+    /// Whether that disk stands on another: the clear text of an encrypted volume, a logical
+    /// volume, an array. It keeps the other in use as long as it is there, mounted or not.
+    [[nodiscard]] virtual bool isStacked(const std::string& bsdName) const = 0;
+
+    /// Unmounts that one volume and what is stacked on it; never forced, never lazy. What is
+    /// stacked is closed as well; what cannot be closed is busy.
     [[nodiscard]] virtual bool umount(const std::string& bsdName) = 0;
 
-    /// Unmounts every volume of the disk that this disk or partition is on, then ejects the medium.
+    /// Unmounts every volume of the disk that this disk or partition is on, closes what is stacked
+    /// there, then ejects the medium.
     /// The USB device itself keeps its power and stays reachable.
     [[nodiscard]] virtual bool eject(const std::string& bsdName) = 0;
 
@@ -65,8 +71,9 @@ public:
     [[nodiscard]] virtual std::string partitionName(const std::string& disk,
                                                     unsigned number) const = 0;
 
-    /// The names of the programs of this user that keep one of these disks or partitions busy,
-    /// sorted, without repetition; empty when none is known. Asked after a failure.
+    /// The names of what keeps one of these disks or partitions busy, sorted, without repetition:
+    /// programs of this user, and volumes that could not be closed. Empty when nothing is known.
+    /// Asked after a failure.
     [[nodiscard]] virtual std::vector<std::string>
     holders(const std::vector<std::string>& bsdNames) const = 0;
 };

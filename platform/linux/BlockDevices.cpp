@@ -21,11 +21,11 @@ std::optional<SysfsEntry> entryOf(const fs::path& link) {
     return isBlockDevice ? std::optional(std::move(entry)) : std::nullopt;
 }
 
-std::vector<std::string> namesIn(const fs::path& folder) {
-    std::vector<std::string> names;
+std::set<std::string> namesIn(const fs::path& folder) {
+    std::set<std::string> names;
     std::error_code error;
     for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        names.push_back(blockName(at->path()));
+        names.insert(blockName(at->path()));
     }
     return names;
 }
@@ -92,6 +92,18 @@ std::vector<std::string> BlockDevices::stackedOn(const std::string& name) const 
         addStacked(*entry, seen, found);
     }
     return found;
+}
+
+std::string BlockDevices::baseOf(const std::string& name) const {
+    auto base = name;
+    for (Names seen; seen.insert(base).second;) {
+        const auto entry = find(base);
+        const auto below = entry ? namesIn(entry->folder() / "slaves") : Names{};
+        if (!below.empty()) {
+            base = *below.begin();
+        }
+    }
+    return base;
 }
 
 std::optional<SysfsEntry> BlockDevices::usbDeviceOf(const std::string& name) const {

@@ -31,6 +31,9 @@ public:
     /// What stands on the device and its partitions; whatever stands on another comes before it.
     [[nodiscard]] std::vector<std::string> stackedOn(const std::string& name) const;
 
+    /// What the device stands on at the very bottom; itself when it stands on nothing.
+    [[nodiscard]] std::string baseOf(const std::string& name) const;
+
     /// The USB device that the device hangs on, be it through others that it stands on.
     [[nodiscard]] std::optional<SysfsEntry> usbDeviceOf(const std::string& name) const;
 

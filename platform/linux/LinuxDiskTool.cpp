@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace zelto::linux_platform {
@@ -59,7 +60,7 @@ FatPartition planFatPartition(quint64 diskSizeInBytes) {
     return {Mebibyte, size, size < SmallestFat32 ? QStringLiteral("0x0e") : QStringLiteral("0x0c")};
 }
 
-LinuxDiskTool::LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts, Delays delays,
+LinuxDiskTool::LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts, DiskDelays delays,
                              KernelFolders kernel)
     : m_bus(std::move(bus)),
       m_waiting(waiting),
@@ -84,20 +85,67 @@ std::vector<std::string> LinuxDiskTool::holders(const std::vector<std::string>& 
     std::vector<std::string> devicePaths;
     std::ranges::transform(bsdNames, std::back_inserter(devicePaths),
                            [](const std::string& name) { return "/dev/" + name; });
-    return programsHolding(devicePaths, m_mounts.getmntinfo(), m_proc, ::getuid());
+    const auto programs = programsHolding(devicePaths, m_mounts.getmntinfo(), m_proc, ::getuid());
+    std::set<std::string> found(programs.begin(), programs.end());
+    for (const auto& name : bsdNames) {
+        const auto stacked = m_devices.isStacked(name) ? m_devices.find(name) : std::nullopt;
+        if (stacked) {
+            found.insert(stacked->attribute("dm/name").value_or(name));
+        }
+    }
+    return {found.begin(), found.end()};
 }
 
 bool LinuxDiskTool::umount(const std::string& bsdName) {
     const auto busy = m_waiting.showWork();
     const auto state = service().state();
     const auto* block = state ? state->findDevice(bsdName) : nullptr;
-    return block != nullptr && unmountEverywhere(block->path);
+    return block != nullptr && releaseStacked(bsdName) && release(*block);
+}
+
+bool LinuxDiskTool::releaseStacked(const std::string& bsdName) {
+    return std::ranges::all_of(m_devices.stackedOn(bsdName), [&](const std::string& name) {
+        const auto state = service().state();
+        const auto* block = state ? state->findDevice(name) : nullptr;
+        // It may have gone with what stood on it.
+        return block != nullptr ? release(*block) : state && !m_devices.isStacked(name);
+    });
+}
+
+bool LinuxDiskTool::release(const UDisksBlock& block) {
+    for (int attempt = 0; attempt < Attempts; ++attempt) {
+        if (!unmountEverywhere(block.path)) {
+            return false;
+        }
+        if (!m_devices.isStacked(block.name()) || close(block)) {
+            return true;
+        }
+        const auto state = service().state();
+        if (!state || !isMounted(*state, block.path)) {
+            return false; // no desktop has mounted it again: it cannot be closed
+        }
+    }
+    return false;
+}
+
+/// Only an encrypted volume can be closed here. Logical volumes and arrays are their owner's, who
+/// alone knows what else they stand on.
+bool LinuxDiskTool::close(const UDisksBlock& block) {
+    if (block.cryptoBackingDevice.size() <= 1) {
+        return false;
+    }
+    const auto reply = service().call(block.cryptoBackingDevice, udisks::encrypted::Interface,
+                                      udisks::encrypted::Lock, withOptions({}));
+    const bool worthWaiting = succeeded(reply) || mayYetSucceed(reply);
+    const auto isClosed = [&](const UDisksState& now) { return now.find(block.path) == nullptr; };
+    return service().waitFor(isClosed,
+                             worthWaiting ? m_delays.property : std::chrono::milliseconds::zero());
 }
 
 bool LinuxDiskTool::eject(const std::string& bsdName) {
     const auto busy = m_waiting.showWork();
     const auto state = service().state();
-    const auto* block = state ? state->findDevice(bsdName) : nullptr;
+    const auto* block = state ? state->findDevice(m_devices.baseOf(bsdName)) : nullptr;
     const auto* disk = block != nullptr ? state->diskOf(*block) : nullptr;
     if (disk == nullptr) {
         return false;
@@ -125,7 +173,13 @@ bool LinuxDiskTool::ejectMedium(const UDisksBlock& disk) {
 /// There may be no program to eject with, or a unit that refuses: that keeps nothing in use.
 bool LinuxDiskTool::isFree(const QString& disk) {
     const auto state = service().state();
-    return state && state->mountedOn(disk).empty();
+    return state && !isInUse(*state, disk);
+}
+
+bool LinuxDiskTool::isInUse(const UDisksState& state, const QString& disk) const {
+    const auto* block = state.find(disk);
+    return !state.mountedOn(disk).empty() ||
+           (block != nullptr && !m_devices.stackedOn(block->name()).empty());
 }
 
 bool LinuxDiskTool::eraseDisk(const std::string& bsdName, const DiskIdentity& meant,
@@ -168,7 +222,7 @@ bool LinuxDiskTool::isKnown(const std::string& bsdName, const DiskIdentity& mean
 
 bool LinuxDiskTool::unmountEverywhere(const QString& block) {
     bool triedInVain = false;
-    for (int tries = 0; tries < MostMountPoints; ++tries) {
+    for (int attempt = 0; attempt < MostMountPoints; ++attempt) {
         const auto state = service().state();
         if (!state) {
             return false;
@@ -203,6 +257,11 @@ bool LinuxDiskTool::unmountEverywhere(const QString& block) {
 }
 
 bool LinuxDiskTool::unmountDisk(const QString& disk) {
+    const auto before = service().state();
+    const auto* device = before ? before->find(disk) : nullptr;
+    if (device != nullptr && !releaseStacked(device->name())) {
+        return false;
+    }
     const auto state = service().state();
     return state && std::ranges::all_of(state->mountedOn(disk), [&](const QString& block) {
                return unmountEverywhere(block);
@@ -228,7 +287,7 @@ bool LinuxDiskTool::settle(const QString& disk, const QDBusMessage& reply,
 /// the action, which then finds the device busy.
 bool LinuxDiskTool::doFreed(const QString& disk, const Action& action,
                             const UDisks::Predicate& goal, std::chrono::milliseconds delay) {
-    for (int tries = 0; tries < Attempts; ++tries) {
+    for (int attempt = 0; attempt < Attempts; ++attempt) {
         if (!unmountDisk(disk)) {
             return false;
         }
@@ -240,7 +299,7 @@ bool LinuxDiskTool::doFreed(const QString& disk, const Action& action,
             return true;
         }
         const auto state = service().state();
-        if (!state || state->mountedOn(disk).empty()) {
+        if (!state || !isInUse(*state, disk)) {
             return false;
         }
     }

@@ -41,6 +41,9 @@ public:
     LinuxDiskTool(Bus bus, const Waiting& waiting, MountTable& mounts, DiskDelays delays = {},
                   KernelFolders kernel = {});
 
+    [[nodiscard]] bool isStacked(const std::string& bsdName) const override {
+        return m_devices.isStacked(bsdName);
+    }
     [[nodiscard]] bool umount(const std::string& bsdName) override;
     /// Succeeds once nothing of the disk is in use, also when its medium stays.
     [[nodiscard]] bool eject(const std::string& bsdName) override;
@@ -56,9 +59,14 @@ private:
     [[nodiscard]] UDisks& service();
 
     [[nodiscard]] bool unmountEverywhere(const QString& block);
+    /// What stands on the device, whatever stands on another first.
+    [[nodiscard]] bool releaseStacked(const std::string& bsdName);
+    [[nodiscard]] bool release(const UDisksBlock& block);
+    [[nodiscard]] bool close(const UDisksBlock& block);
     [[nodiscard]] bool unmountDisk(const QString& disk);
     [[nodiscard]] bool ejectMedium(const UDisksBlock& disk);
     [[nodiscard]] bool isFree(const QString& disk);
+    [[nodiscard]] bool isInUse(const UDisksState& state, const QString& disk) const;
     /// A disk that is being erased: the service's object, and what has to be true of its name
     /// before each step that destroys something.
     struct Erasure {

@@ -69,14 +69,14 @@ IOReturn LinuxUsbDevice::USBDeviceOpen() {
 }
 
 IOReturn LinuxUsbDevice::openNode() {
-    for (unsigned tries = 1;; ++tries) {
+    for (unsigned attempt = 1;; ++attempt) {
         m_node = FileDescriptor(::open(m_announcement.node.c_str(), O_RDWR | O_CLOEXEC));
         if (m_node.isOpen()) {
             return kIOReturnSuccess;
         }
         const int error = errno;
         // The node of a device that has just arrived can be there before its permissions.
-        if (!isRefusal(error) || tries >= m_patience.tries) {
+        if (!isRefusal(error) || attempt >= m_patience.attempts) {
             return resultOfOpen(error, m_announcement.accessRule());
         }
         QEventLoop loop;

@@ -39,7 +39,7 @@ struct UsbAnnouncement {
 
 /// How long an open waits for permissions that follow the node by a moment.
 struct OpenPatience {
-    unsigned tries = 6;
+    unsigned attempts = 6;
     std::chrono::milliseconds pause{50};
 };
 

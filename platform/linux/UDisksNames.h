@@ -33,6 +33,7 @@ inline constexpr QLatin1String Size("Size");
 inline constexpr QLatin1String IdType("IdType");
 inline constexpr QLatin1String IdLabel("IdLabel");
 inline constexpr QLatin1String IdUuid("IdUUID");
+inline constexpr QLatin1String CryptoBackingDevice("CryptoBackingDevice");
 } // namespace block
 
 namespace drive {
@@ -40,6 +41,11 @@ inline constexpr QLatin1String Interface("org.freedesktop.UDisks2.Drive");
 inline constexpr QLatin1String Eject("Eject");
 inline constexpr QLatin1String MediaAvailable("MediaAvailable");
 } // namespace drive
+
+namespace encrypted {
+inline constexpr QLatin1String Interface("org.freedesktop.UDisks2.Encrypted");
+inline constexpr QLatin1String Lock("Lock");
+} // namespace encrypted
 
 namespace filesystem {
 inline constexpr QLatin1String Interface("org.freedesktop.UDisks2.Filesystem");

@@ -41,6 +41,7 @@ UDisksBlock decodeBlock(const QString& path, const ManagedInterfaces& interfaces
     decoded.path = path;
     decoded.device = withoutZero(block.value(udisks::block::Device).toByteArray());
     decoded.drive = objectPath(block.value(udisks::block::Drive));
+    decoded.cryptoBackingDevice = objectPath(block.value(udisks::block::CryptoBackingDevice));
     decoded.sizeInBytes = block.value(udisks::block::Size).toULongLong();
     decoded.idType = block.value(udisks::block::IdType).toString();
     decoded.idLabel = block.value(udisks::block::IdLabel).toString();

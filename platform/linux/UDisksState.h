@@ -31,6 +31,8 @@ struct UDisksBlock {
     std::vector<QByteArray> mountPoints;
     /// "dos" or "gpt" for a partitioned disk, else empty.
     QString tableType;
+    /// The object of the encrypted volume that this is the clear text of; "/" or empty for others.
+    QString cryptoBackingDevice;
     /// A partition's disk; empty for what is no partition.
     QString disk;
 

@@ -26,6 +26,7 @@ public:
     VirtualDiskTool(VirtualDisks& disks, VirtualMountTable& mounts, EventLog& log)
         : m_disks(disks), m_mounts(mounts), m_log(log) {}
 
+    [[nodiscard]] bool isStacked(const std::string& bsdName) const override;
     [[nodiscard]] bool umount(const std::string& bsdName) override;
     [[nodiscard]] bool eject(const std::string& bsdName) override;
     [[nodiscard]] bool eraseDisk(const std::string& bsdName, const DiskIdentity& meant,
@@ -47,7 +48,9 @@ public:
 private:
     [[nodiscard]] bool run(DiskVerb verb, const std::string& arguments, const std::string& bsdName,
                            const std::function<bool()>& action);
-    [[nodiscard]] bool unmountVolume(const VirtualDisk& disk);
+    [[nodiscard]] bool closeStackedOn(const std::string& bsdName);
+    [[nodiscard]] std::string baseOf(std::string bsdName) const;
+    [[nodiscard]] bool unmountAll(const VirtualDisk& disk);
     [[nodiscard]] bool format(VirtualDisk& disk, const std::string& label);
 
     VirtualDisks& m_disks;

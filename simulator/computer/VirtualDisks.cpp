@@ -127,4 +127,17 @@ VirtualDisk* VirtualDisks::find(const std::string& bsdName) const {
     return found == m_disks.end() ? nullptr : found->get();
 }
 
+bool VirtualDisks::closeStacked(const std::string& bsdName) {
+    const auto found = std::ranges::find(m_stacked, bsdName, &StackedVolume::bsdName);
+    if (found == m_stacked.end()) {
+        return true;
+    }
+    found->mountPoint.clear();
+    if (!found->canBeClosed) {
+        return false;
+    }
+    m_stacked.erase(found);
+    return true;
+}
+
 } // namespace zelto::simulator

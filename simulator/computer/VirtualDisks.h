@@ -31,6 +31,16 @@ struct VirtualDisk {
     [[nodiscard]] std::string volumeName() const { return bsdName + "s1"; }
 };
 
+/// A volume that stands on another, as the clear text of an encrypted one does.
+struct StackedVolume {
+    std::string bsdName;
+    /// The disk or partition that it stands on.
+    std::string below;
+    /// Empty: it is open but not mounted.
+    std::string mountPoint = {};
+    bool canBeClosed = true;
+};
+
 /// The system's disks. It looks at the storage units whenever something may have changed, gives
 /// each medium that appears the lowest free name, and takes the name back when it vanishes.
 class VirtualDisks {
@@ -44,6 +54,11 @@ public:
     [[nodiscard]] const std::vector<std::unique_ptr<VirtualDisk>>& all() const { return m_disks; }
     /// The disk that has this name, or whose volume has it; null when there is none.
     [[nodiscard]] VirtualDisk* find(const std::string& bsdName) const;
+    /// Opens a volume on another.
+    void stack(StackedVolume volume) { m_stacked.push_back(std::move(volume)); }
+    [[nodiscard]] const std::vector<StackedVolume>& stacked() const { return m_stacked; }
+    /// Unmounts it and, if it can be, closes it. True when it is closed then.
+    [[nodiscard]] bool closeStacked(const std::string& bsdName);
     void setListeners(std::function<void(VirtualDisk&)> appeared,
                       std::function<void(const VirtualDisk&)> vanished);
 
@@ -55,6 +70,7 @@ private:
 
     VirtualUsbBus& m_bus;
     std::vector<std::unique_ptr<VirtualDisk>> m_disks;
+    std::vector<StackedVolume> m_stacked;
     std::function<void(VirtualDisk&)> m_appeared;
     std::function<void(const VirtualDisk&)> m_vanished;
     bool m_isLooking = false;

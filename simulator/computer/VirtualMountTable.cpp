@@ -9,6 +9,11 @@ std::vector<MountedFileSystem> VirtualMountTable::getmntinfo() {
     for (const MountedVolume& mounted : m_mounted) {
         lines.push_back({mounted.mountPoint, "/dev/" + mounted.bsdName});
     }
+    for (const StackedVolume& volume : m_disks.stacked()) {
+        if (!volume.mountPoint.empty()) {
+            lines.push_back({volume.mountPoint, "/dev/" + volume.bsdName});
+        }
+    }
     return lines;
 }
 

@@ -74,11 +74,24 @@ NodePointer mediaNode(std::string name, const std::string& bsdName) {
     return node;
 }
 
-NodePointer diskNode(const VirtualDisk& disk) {
+void addStacked(RegistryNode& node, const std::string& bsdName, const VirtualDisks& disks) {
+    for (const StackedVolume& volume : disks.stacked()) {
+        if (volume.below == bsdName) {
+            const NodePointer above = mediaNode("Media", volume.bsdName);
+            addStacked(*above, volume.bsdName, disks);
+            node.children.push_back(above);
+        }
+    }
+}
+
+NodePointer diskNode(const VirtualDisk& disk, const VirtualDisks& disks) {
     NodePointer node = mediaNode(disk.unitName + " Media", disk.bsdName);
     if (disk.hasVolume) {
-        node->children.push_back(mediaNode("Untitled 1", disk.volumeName()));
+        const NodePointer volume = mediaNode("Untitled 1", disk.volumeName());
+        addStacked(*volume, disk.volumeName(), disks);
+        node->children.push_back(volume);
     }
+    addStacked(*node, disk.bsdName, disks);
     return node;
 }
 
@@ -102,7 +115,7 @@ NodePointer VirtualRegistry::deviceNode(const Attachment& attachment) const {
         interface->children.push_back(logicalUnit);
         for (const auto& disk : m_disks.all()) {
             if (disk->attachment.get() == &attachment && disk->unit == unit) {
-                logicalUnit->children.push_back(diskNode(*disk));
+                logicalUnit->children.push_back(diskNode(*disk, m_disks));
             }
         }
     }

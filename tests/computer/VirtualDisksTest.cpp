@@ -28,10 +28,10 @@ constexpr std::uint64_t DriveSectors = 262144;
 
 class VirtualDisksTest : public testing::Test {
 protected:
-    bool erase(const std::string& disk) {
+    bool erase(const std::string& disk, const std::string& label = "ZELTO TOOL") {
         const VirtualDisk* const found = m_computer.disks.find(disk);
         return m_tool.eraseDisk(disk, found != nullptr ? found->identity() : DiskIdentity(),
-                                "ZELTO TOOL");
+                                label);
     }
     /// The names of all entries of the registry, depth first, as a walk sees them; the properties
     /// of each go to `found`.
@@ -106,7 +106,7 @@ TEST_F(VirtualDisksTest, EraseDiskTakesWholeDisksAndLabelsThatFit) {
 
 TEST_F(VirtualDisksTest, EraseDiskTakesNoOtherDiskThanTheOneThatIsMeant) {
     m_computer.plug(m_drive);
-    const DiskIdentity meant = m_computer.disks.find("disk2")->disk->identity();
+    const DiskIdentity meant = m_computer.disks.find("disk2")->identity();
     m_computer.replug(m_drive);
     ASSERT_TRUE(m_computer.disks.find("disk2"));
     EXPECT_FALSE(m_tool.eraseDisk("disk2", meant, "ZELTO TOOL"));

@@ -147,6 +147,50 @@ TEST_F(SessionLogOffTest, ClosingTheUnlockedWindowLeavesTheDriveUnlocked) {
     EXPECT_EQ(state(), SecurityState::StateUnlocking);
 }
 
+// --- Volumes that stand on the drive's ---------------------------------------------------------
+
+TEST_F(SessionLogOffTest, AnEncryptedVolumeInTheSecureAreaIsClosedBeforeTheDriveLocks) {
+    for (const char* mountPoint : {"/media/user/SECRET", ""}) {
+        beginUnlocked();
+        auto& disks = computer.disks;
+        disks.stack({.bsdName = "dm0",
+                     .below = mountedFrom("/media/user/PRIVATE"),
+                     .mountPoint = mountPoint});
+        plan->failWhen(
+            [&](const IOUSBDevRequest& request) {
+                EXPECT_TRUE(request.bRequest != LogoutCode || disks.stacked().empty())
+                    << mountPoint;
+                return false;
+            },
+            {});
+        press("UnlockingLogOff");
+        EXPECT_TRUE(disks.stacked().empty()) << mountPoint;
+        EXPECT_EQ(state(), SecurityState::StateLocked) << mountPoint;
+        EXPECT_THAT(messages(), IsEmpty()) << mountPoint;
+        unplug(m_drive);
+    }
+}
+
+TEST_F(SessionLogOffTest, AVolumeThatCannotBeClosedIsSaidAndKeepsTheDriveUnlocked) {
+    beginUnlocked();
+    computer.disks.stack(
+        {.bsdName = "vg-data", .below = mountedFrom("/media/user/PRIVATE"), .canBeClosed = false});
+    press("UnlockingLogOff");
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_UNMOUNT")));
+    EXPECT_THAT(alerts.panels().front().detail.toStdString(),
+                testing::HasSubstr("vg-data"));
+    EXPECT_THAT(commands(), Not(Contains("TKVR21_Logout")));
+    EXPECT_EQ(state(), SecurityState::StateUnlocking);
+}
+
+TEST_F(SessionLogOffTest, AVolumeThatStandsOnAnotherDiskIsLeftAlone) {
+    beginUnlocked();
+    computer.disks.stack({.bsdName = "dm7", .below = "disk0", .mountPoint = "/home"});
+    press("UnlockingLogOff");
+    EXPECT_EQ(computer.disks.stacked().size(), 1U);
+    EXPECT_EQ(state(), SecurityState::StateLocked);
+}
+
 // --- The secure area's number ------------------------------------------------------------------
 
 TEST_F(SessionLogOffTest, TheFirstSecureEntryIsCountedFromOne) {

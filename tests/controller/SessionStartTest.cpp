@@ -52,9 +52,9 @@ TEST_F(RelocationTest, DisregardsTheLetterCaseOfTheMountRoot) {
 TEST_F(RelocationTest, ACopyInAHomeFolderOnAVolumeStartsNormally) {
     files().addDriveElsewhere("/home");
     files().setBundlePath(m_destination);
-    m_bench.start();
-    EXPECT_FALSE(m_bench.hasQuit());
-    EXPECT_EQ(m_bench.app().Drives.DevCnt, 1);
+    start();
+    EXPECT_FALSE(hasQuit());
+    EXPECT_EQ(app().Drives.DevCnt, 1);
     EXPECT_THAT(files().opened(), IsEmpty());
 }
 
@@ -62,9 +62,9 @@ TEST_F(RelocationTest, ADriveThatIsMountedElsewhereIsAVolumeTheSame) {
     files().addDriveElsewhere("/mnt/stick");
     files().setBundlePath("/mnt/stick/ZeltoAppMac.app");
     files().installBundle("/mnt/stick/ZeltoAppMac.app", Tuesday);
-    m_bench.start();
+    start();
     EXPECT_THAT(files().opened(), ElementsAre(m_destination));
-    EXPECT_TRUE(m_bench.hasQuit());
+    EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(RelocationTest, ACopyThatRunsAlreadyIsLeftAlone) {
@@ -205,54 +205,54 @@ TEST_F(StartTest, ADriveThatMayNotBeOpenedIsToldApartFromNoDrive) {
 }
 
 TEST_F(StartTest, ASecondCopyLeavesTheDriveToTheFirstAndSaysSo) {
-    m_bench.plugPreparedDrive();
-    auto first = m_bench.computer.usb.makeHandle(m_bench.computer.usb.attachments().front());
+    plugPreparedDrive();
+    auto first = computer.usb.makeHandle(computer.usb.attachments().front());
     ASSERT_EQ(first->USBDeviceOpen(), kIOReturnSuccess);
-    m_bench.start();
-    m_bench.tick(3);
-    EXPECT_THAT(m_bench.commands(), IsEmpty());
-    EXPECT_EQ(m_bench.text("SelectZeltoComboBox"), localized("IDS_ERR_NOT_FOUND_ZELTO"));
-    EXPECT_EQ(m_bench.text("SelectZeltoAccessHint"), localized("IDS_HINT_DRIVE_IN_USE"));
+    start();
+    tick(3);
+    EXPECT_THAT(commands(), IsEmpty());
+    EXPECT_EQ(text("SelectZeltoComboBox"), localized("IDS_ERR_NOT_FOUND_ZELTO"));
+    EXPECT_EQ(text("SelectZeltoAccessHint"), localized("IDS_HINT_DRIVE_IN_USE"));
     first.reset();
-    m_bench.start();
-    EXPECT_EQ(m_bench.app().Drives.DevCnt, 1);
+    start();
+    EXPECT_EQ(app().Drives.DevCnt, 1);
 }
 
 TEST_F(StartTest, TheHintGoesWhenTheRefusedDriveIsPulled) {
-    const auto drive = m_bench.plugPreparedDrive();
-    const auto first = m_bench.computer.usb.makeHandle(m_bench.computer.usb.attachments().front());
+    const auto drive = plugPreparedDrive();
+    const auto first = computer.usb.makeHandle(computer.usb.attachments().front());
     ASSERT_EQ(first->USBDeviceOpen(), kIOReturnSuccess);
-    m_bench.start();
-    EXPECT_TRUE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
-    m_bench.unplug(drive);
-    m_bench.tick();
-    EXPECT_FALSE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
-    m_bench.plug(drive);
-    m_bench.tick();
-    EXPECT_FALSE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    start();
+    EXPECT_TRUE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    unplug(drive);
+    tick();
+    EXPECT_FALSE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    plug(drive);
+    tick();
+    EXPECT_FALSE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
 }
 
 TEST_F(StartTest, TheHintAppearsWithADriveThatIsRefusedOnArrival) {
-    m_bench.start();
+    start();
     const auto drive = simulator::makeDrive("ZD0000000000A1", ControllerBench::NewDriveSectors);
     drive->describe().openResult = kIOReturnNotPrivileged;
-    m_bench.plug(drive);
-    m_bench.tick();
-    EXPECT_TRUE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
-    EXPECT_EQ(m_bench.text("SelectZeltoAccessHint"), localized("IDS_HINT_RULE_MISSING"));
+    plug(drive);
+    tick();
+    EXPECT_TRUE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_EQ(text("SelectZeltoAccessHint"), localized("IDS_HINT_RULE_MISSING"));
 }
 
 TEST_F(StartTest, UpdateTakesADriveThatTheOtherCopyHasLetGo) {
-    m_bench.plugPreparedDrive();
-    auto first = m_bench.computer.usb.makeHandle(m_bench.computer.usb.attachments().front());
+    plugPreparedDrive();
+    auto first = computer.usb.makeHandle(computer.usb.attachments().front());
     ASSERT_EQ(first->USBDeviceOpen(), kIOReturnSuccess);
-    m_bench.start();
-    m_bench.press("SelectZeltoUpdate");
-    EXPECT_TRUE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    start();
+    press("SelectZeltoUpdate");
+    EXPECT_TRUE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
     first.reset();
-    m_bench.press("SelectZeltoUpdate");
-    EXPECT_EQ(m_bench.text("SelectZeltoComboBox"), QStringLiteral("Device 0"));
-    EXPECT_FALSE(m_bench.app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    press("SelectZeltoUpdate");
+    EXPECT_EQ(text("SelectZeltoComboBox"), QStringLiteral("Device 0"));
+    EXPECT_FALSE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
 }
 
 TEST_F(StartTest, NoHintIsShownWithoutADriveThatWasRefused) {

@@ -126,6 +126,19 @@ TEST_F(ClearAll, UnmountsAllVolumesFirst) {
     }
 }
 
+TEST_F(ClearAll, ClosesWhatStandsOnTheDrivesVolumesFirst) {
+    beginWithSettingsOf({});
+    const std::string disk = computer.disks.all().front()->bsdName;
+    computer.disks.stack({.bsdName = "dm0", .below = disk});
+    clearAnsweringYes();
+    EXPECT_TRUE(computer.disks.stacked().empty());
+    const auto story = computer.log.story();
+    const auto closed = std::ranges::find(story, "diskutil umount dm0");
+    const auto command = std::ranges::find_if(
+        story, [](const std::string& line) { return line.starts_with("TKVR21_"); });
+    EXPECT_LT(closed, command);
+}
+
 TEST_F(ClearAll, AVolumeThatDoesNotUnmountStopsItBeforeAnyCommand) {
     beginWithSettingsOf({.secureDisk = 0});
     computer.diskTool.setBehaviour(DiskVerb::Umount, ToolBehaviour::Fails);

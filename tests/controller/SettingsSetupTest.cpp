@@ -273,6 +273,18 @@ TEST_F(FirstTimeSetup, AfterManyRetriesTheTableIsFullAndLayingOutAgainMakesRoom)
     EXPECT_EQ(app().Setup.InitialSettingState, 1);
 }
 
+TEST_F(FirstTimeSetup, AVolumeThatCannotBeClosedStopsItBeforeAnythingIsSent) {
+    begin();
+    computer.disks.stack({.bsdName = "vg-data",
+                          .below = computer.disks.all().front()->bsdName,
+                          .canBeClosed = false});
+    fill({});
+    computer.log.clear();
+    commit();
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_UNMOUNT")));
+    EXPECT_THAT(commands(), IsEmpty());
+}
+
 TEST_F(FirstTimeSetup, ABusyVolumeStopsItBeforeAnythingIsSent) {
     begin();
     setUpAndStartAgain({.secureDisk = 0});

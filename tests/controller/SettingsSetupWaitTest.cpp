@@ -171,18 +171,18 @@ TEST_F(SetupProgressTest, ADriveThatIsPulledBeforeTheFormatLeavesItsNameToNobody
 
 TEST_F(SetupProgressTest, ADiskThatGetsTheNameOfTheToolAreaIsNotErased) {
     commitSetup();
-    std::shared_ptr<simulator::ForeignDisk> foreign;
+    std::shared_ptr<ForeignDisk> foreign;
     computer.diskTool.setBeforeRun([&](const std::string& bsdName) {
         unplug(drive);
         while (!computer.disks.find(bsdName)) {
-            foreign = std::make_shared<simulator::ForeignDisk>(262144);
+            foreign = std::make_shared<ForeignDisk>(262144);
             computer.usb.plug(foreign);
         }
     });
     tick(20);
     EXPECT_EQ(diskToolRuns().size(), 1U);
     ASSERT_NE(foreign, nullptr);
-    EXPECT_FALSE(foreign->wasWritten());
+    EXPECT_EQ(foreign->volumeLabel(), "HOLIDAYS");
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
     EXPECT_TRUE(hasQuit());
 }

@@ -82,6 +82,38 @@ void FakeUDisks::addPartition(const QStringList& mountPoints, const QString& lab
     setMountPoints(PartitionPath, mountPoints);
 }
 
+QString FakeUDisks::pathOf(const QString& name) {
+    return QStringLiteral("/org/freedesktop/UDisks2/block_devices/") +
+           QString(name).replace('-', "_2d");
+}
+
+void FakeUDisks::addVolume(const QString& name, const QStringList& mountPoints) {
+    auto& volume = objects[QDBusObjectPath(pathOf(name))];
+    volume[Prefix + "Block"] = blockProperties("/dev/" + name);
+    volume[Prefix + "Block"]["Drive"] = QVariant::fromValue(QDBusObjectPath("/"));
+    volume[Prefix + "Block"]["CryptoBackingDevice"] = QVariant::fromValue(QDBusObjectPath("/"));
+    volume[Prefix + "Filesystem"] = {};
+    setMountPoints(pathOf(name), mountPoints);
+}
+
+void FakeUDisks::unlock(const QString& backing, const QString& name,
+                        const QStringList& mountPoints) {
+    addVolume(name, mountPoints);
+    objects[QDBusObjectPath(backing)][Prefix + "Encrypted"] = {};
+    set(pathOf(name), "Block", "CryptoBackingDevice",
+        QVariant::fromValue(QDBusObjectPath(backing)));
+}
+
+QString FakeUDisks::clearTextOf(const QString& backing) const {
+    for (auto object = objects.begin(); object != objects.end(); ++object) {
+        const auto path = object.key().path();
+        if (get(path, "Block", "CryptoBackingDevice").value<QDBusObjectPath>().path() == backing) {
+            return path;
+        }
+    }
+    return {};
+}
+
 void FakeUDisks::setMountPoints(const QString& path, const QStringList& mountPoints) {
     QList<QByteArray> bytes;
     for (const auto& mountPoint : mountPoints) {
@@ -176,7 +208,10 @@ QDBusMessage FakeUDisks::obey(const QDBusMessage& call) {
         setMountPoints(call.path(), {"/media/a/NEW"});
         return call.createReply(QVariant(QString("/media/a/NEW")));
     }
-    if (!mountPoints(PartitionPath).isEmpty()) {
+    if (call.member() == "Lock") {
+        return lock(call);
+    }
+    if (!mountPoints(PartitionPath).isEmpty() || !clearTextOf(PartitionPath).isEmpty()) {
         return error("DeviceBusy");
     }
     if (call.member() == "Eject") {
@@ -193,6 +228,23 @@ QDBusMessage FakeUDisks::obey(const QDBusMessage& call) {
         return call.createReply();
     }
     return error("NotSupported");
+}
+
+QDBusMessage FakeUDisks::lock(const QDBusMessage& call) {
+    const auto clearText = clearTextOf(call.path());
+    const bool isHeld = !clearTextOf(clearText).isEmpty();
+    if (clearText.isEmpty() || isHeld || !mountPoints(clearText).isEmpty()) {
+        return call.createErrorReply(Prefix + "Error." +
+                                         (clearText.isEmpty() ? "Failed" : "DeviceBusy"),
+                                     "cannot be locked");
+    }
+    const auto device = get(clearText, "Block", "Device").toByteArray().chopped(1);
+    objects.remove(QDBusObjectPath(clearText));
+    announceChange(clearText);
+    if (whenLocked) {
+        whenLocked(device.mid(5).toStdString());
+    }
+    return call.createReply();
 }
 
 void FakeUDisks::format(const QDBusMessage& call) {

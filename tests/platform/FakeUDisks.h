@@ -51,6 +51,13 @@ public:
 
     void addPartition(const QStringList& mountPoints = {}, const QString& label = "OLD",
                       const QString& uuid = "AAAA-0001");
+    /// Unlocks the encrypted volume of an object: the clear text is the device "/dev/NAME".
+    void unlock(const QString& backing, const QString& name, const QStringList& mountPoints);
+    /// A volume that nobody knows how to close.
+    void addVolume(const QString& name, const QStringList& mountPoints);
+    [[nodiscard]] static QString pathOf(const QString& name);
+    /// What the kernel does when a clear text has been locked again.
+    std::function<void(const std::string& name)> whenLocked;
     void setMountPoints(const QString& path, const QStringList& mountPoints);
     [[nodiscard]] QStringList mountPoints(const QString& path) const;
     void set(const QString& path, const QString& interface, const QString& property,
@@ -80,6 +87,8 @@ public:
 private:
     void announceChange(const QString& path);
     void format(const QDBusMessage& call);
+    [[nodiscard]] QString clearTextOf(const QString& backing) const;
+    QDBusMessage lock(const QDBusMessage& call);
 
     QDBusConnection m_bus;
     QStringList m_calls;

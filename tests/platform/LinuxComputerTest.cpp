@@ -171,7 +171,7 @@ TEST_F(ComputerTest, StartsAScriptByTheShellWhereNothingMayBeExecuted) {
 
 /// A computer whose drive's partition and the mapping that it holds are mounted somewhere.
 TEST_F(ComputerTest, CountsTheDrivesOwnMountPointsAsMountRoots) {
-    const tests::SysfsTree tree;
+    const SysfsTree tree;
     tree.addUsbDevice("pci/usb1/1-1", 1, 5, "07f7", "0135", "ZD");
     tree.addUsbDevice("pci/usb1/1-2", 1, 6, "0951", "1666", "OTHER");
     const auto disk = tree.addDisk("pci/usb1/1-1", 0, "sdb", "ZELTO DISK1     ", 2048);

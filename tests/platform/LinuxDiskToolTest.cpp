@@ -232,6 +232,121 @@ TEST_F(DiskToolTest, UnmountsAgainWhatTheDesktopMountsBeforeTheEjection) {
     EXPECT_THAT(calls(), ElementsAre("sdb1.Unmount", "ZELTO.Eject", "sdb1.Unmount", "ZELTO.Eject"));
 }
 
+/// A drive whose partition is encrypted and unlocked: "dm-0" is the clear text.
+class StackedTest : public DiskToolTest {
+protected:
+    StackedTest() {
+        udisks.addPartition();
+        udisks.whenLocked = [this](const std::string& name) { tree.removeMapping(name); };
+    }
+    void unlock(const QStringList& mountPoints) {
+        udisks.unlock(Partition, "dm-0", mountPoints);
+        dm0 = tree.addMapping("dm-0", "253:0", "luks-1", {partitionPlace()});
+    }
+    void stackOnTop() { tree.addMapping("dm-1", "253:1", "vg-data", {dm0}); }
+    [[nodiscard]] std::string partitionPlace() const {
+        return (sdb / "sdb1").lexically_relative(tree.path() / "devices").string();
+    }
+
+    std::string dm0;
+};
+
+TEST_F(StackedTest, AnEncryptedVolumeIsUnmountedAndLocked) {
+    unlock({"/media/a/SECRET", "/srv"});
+    EXPECT_TRUE(tool.isStacked("dm-0"));
+    EXPECT_FALSE(tool.isStacked("sdb1"));
+    EXPECT_TRUE(tool.umount("dm-0"));
+    EXPECT_THAT(calls(), ElementsAre("dm_2d0.Unmount", "dm_2d0.Unmount", "sdb1.Lock"));
+    EXPECT_FALSE(tool.isStacked("dm-0"));
+}
+
+TEST_F(StackedTest, AnEncryptedVolumeThatIsOpenButNotMountedIsLocked) {
+    unlock({});
+    EXPECT_TRUE(tool.umount("dm-0"));
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Lock"));
+}
+
+TEST_F(StackedTest, TheMediumIsEjectedOnceTheEncryptedVolumeIsLocked) {
+    for (const auto* name : {"dm-0", "sdb1", "sdb"}) {
+        udisks.set(FakeUDisks::DrivePath, "Drive", "MediaAvailable", true);
+        unlock({"/media/a/SECRET"});
+        const auto before = udisks.calls().size();
+        EXPECT_TRUE(tool.eject(name)) << name;
+        EXPECT_EQ(udisks.calls().mid(before),
+                  (QStringList{"dm_2d0.Unmount", "sdb1.Lock", "ZELTO.Eject"}))
+            << name;
+    }
+}
+
+TEST_F(StackedTest, ADiskIsErasedOnceTheEncryptedVolumeIsLocked) {
+    unlock({"/media/a/SECRET"});
+    EXPECT_TRUE(erase());
+    EXPECT_EQ(udisks.calls().mid(0, 3), (QStringList{"dm_2d0.Unmount", "sdb1.Lock", "sdb.Format"}));
+}
+
+TEST_F(StackedTest, WhatStandsOnAnotherIsClosedFirst) {
+    unlock({});
+    stackOnTop();
+    udisks.unlock(FakeUDisks::pathOf("dm-0"), "dm-1", {"/media/a/INNER"});
+    EXPECT_TRUE(tool.umount("dm-0"));
+    EXPECT_THAT(calls(), ElementsAre("dm_2d1.Unmount", "dm_2d0.Lock", "sdb1.Lock"));
+}
+
+TEST_F(StackedTest, ALogicalVolumeIsUnmountedAndCountsAsBusyAndIsNamed) {
+    unlock({});
+    stackOnTop();
+    udisks.addVolume("dm-1", {"/srv/data"});
+    EXPECT_FALSE(tool.umount("dm-0"));
+    EXPECT_THAT(calls(), ElementsAre("dm_2d1.Unmount"));
+    EXPECT_FALSE(tool.eject("dm-0"));
+    EXPECT_FALSE(tool.umount("dm-1"));
+    EXPECT_FALSE(erase());
+    EXPECT_THAT(calls(), ElementsAre("dm_2d1.Unmount")) << "neither ejected nor erased";
+    EXPECT_THAT(tool.holders({"sdb", "sdb1", "dm-0", "dm-1", "dm-1"}),
+                ElementsAre("luks-1", "vg-data"));
+}
+
+TEST_F(StackedTest, AVolumeThatTheServiceDoesNotKnowIsBusy) {
+    unlock({});
+    udisks.objects.remove(QDBusObjectPath(FakeUDisks::pathOf("dm-0")));
+    EXPECT_FALSE(tool.umount("dm-0"));
+    EXPECT_FALSE(tool.eject("sdb"));
+    EXPECT_TRUE(calls().empty());
+}
+
+TEST_F(StackedTest, ALockThatIsRefusedIsAFailureAndTriedOnce) {
+    unlock({});
+    udisks.refuse("Lock", "NotAuthorizedDismissed");
+    EXPECT_FALSE(tool.umount("dm-0"));
+    EXPECT_THAT(calls(), ElementsAre("sdb1.Lock"));
+}
+
+TEST_F(StackedTest, WhatTheDesktopMountsInBetweenIsUnmountedAgain) {
+    unlock({"/media/a/SECRET"});
+    udisks.script("Lock", [&](const QDBusMessage& call) {
+        udisks.setMountPoints(FakeUDisks::pathOf("dm-0"), {"/media/a/SECRET"});
+        return udisks.obey(call);
+    });
+    EXPECT_TRUE(tool.umount("dm-0"));
+    EXPECT_THAT(calls(), ElementsAre("dm_2d0.Unmount", "sdb1.Lock", "dm_2d0.Unmount", "sdb1.Lock"));
+}
+
+TEST_F(StackedTest, ALockThatTimedOutButWasDoneIsDone) {
+    unlock({});
+    udisks.script("Lock", [&](const QDBusMessage& call) {
+        udisks.obey(call);
+        return call.createErrorReply("org.freedesktop.UDisks2.Error.Timedout", "Timed out");
+    });
+    EXPECT_TRUE(tool.umount("dm-0"));
+}
+
+TEST_F(StackedTest, ABusyEncryptedVolumeIsNotLocked) {
+    unlock({"/media/a/SECRET"});
+    udisks.refuse("Unmount", "DeviceBusy");
+    EXPECT_FALSE(tool.eject("dm-0"));
+    EXPECT_THAT(calls(), ElementsAre("dm_2d0.Unmount"));
+}
+
 TEST_F(DiskToolTest, CountsAnEjectionAsDoneThatFailsAlthoughNothingIsMounted) {
     for (const auto* error : {"Failed", "NotSupported", "NotAuthorizedDismissed", "Timedout"}) {
         udisks.addPartition({"/media/a/X"});
@@ -352,7 +467,7 @@ TEST_F(DiskToolTest, StopsErasingOnceTheNameHasPassedOn) {
         });
         const auto before = udisks.calls().size();
         EXPECT_FALSE(erase()) << step;
-        EXPECT_EQ(udisks.calls().constLast().section('.', 1), step);
+        EXPECT_EQ(udisks.calls().constLast().section('.', 1), QString(step));
         EXPECT_GT(udisks.calls().size(), before);
         detach();
         attach("07f7", "0135", 5);

@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxRegistry.h"
 #include "device/IORegistry.h"
+#include "platform/linux/BlockDevices.h"
 #include "platform/linux/SysfsEntry.h"
 #include "tests/platform/SysfsTree.h"
 
@@ -134,6 +135,60 @@ TEST_F(Drive, NamesADiskWithoutScsiStringsByWhatThereIs) {
     const auto disk = tree.addDisk(place, 0, "sdb", "ZELTO DISK1     ", 2048);
     std::filesystem::remove(tree.path() / "devices" / disk / "device");
     EXPECT_EQ(mediaName(SysfsEntry(tree.path() / "devices" / disk)), "Media");
+}
+
+TEST_F(Drive, ShowsWhatIsStackedOnItsDisksAndPartitions) {
+    const auto first = tree.addDisk(place, 0, "sdb", "ZELTO DISK1     ", 2048);
+    const auto second = tree.addDisk(place, 1, "sdc", "ZELTO DISK2     ", 2048, "8:32");
+    tree.addPartition(first, "sdb1", 1);
+    tree.addPartition(second, "sdc1", 1, "8:33");
+    const auto clear = tree.addMapping("dm-0", "253:0", "luks-1", {second + "/sdc1"});
+    tree.addMapping("dm-10", "253:10", "vg-b", {clear});
+    tree.addMapping("dm-2", "253:2", "vg-a", {clear});
+    tree.addMapping("dm-3", "253:3", "whole", {first});
+    using Names = std::vector<std::string>;
+    EXPECT_EQ(scan(tree, 0),
+              (Names{"sdb", "sdb1", "dm-3", "sdc", "sdc1", "dm-0", "dm-2", "dm-10"}));
+    EXPECT_EQ(scan(tree, 1), (Names{"sdb", "sdb1", "dm-3"}));
+    EXPECT_EQ(scan(tree, 2), (Names{"sdc", "sdc1", "dm-0", "dm-2", "dm-10"}));
+}
+
+TEST_F(Drive, EndsAWalkOfMappingsThatStandOnEachOther) {
+    const auto disk = tree.addDisk(place, 0, "sdb", "ZELTO DISK1     ", 2048);
+    const auto one = tree.addMapping("dm-0", "253:0", "one", {disk});
+    tree.addMapping("dm-1", "253:1", "two", {one});
+    tree.folder().link("devices/virtual/block/dm-1/holders/dm-0",
+                       (tree.path() / "devices/virtual/block/dm-0").string());
+    EXPECT_TRUE(scan(tree, 0).has_value());
+    const BlockDevices devices(tree.path());
+    EXPECT_THAT(devices.stackedOn("sdb"), ElementsAre("dm-1", "dm-0"));
+    EXPECT_FALSE(devices.baseOf("dm-1").empty());
+}
+
+TEST(BlockDevices, KnowTheirPlaceInTheTree) {
+    const SysfsTree tree;
+    tree.addUsbDevice("pci/usb1/1-1", 1, 5, "07f7", "0135", Serial);
+    const auto disk = tree.addDisk("pci/usb1/1-1", 0, "sdb", "ZELTO DISK1     ", 2048);
+    tree.addPartition(disk, "sdb1", 1);
+    const auto clear = tree.addMapping("dm-0", "253:0", "luks-1", {disk + "/sdb1"});
+    tree.addMapping("dm-1", "253:1", "vg-a", {clear});
+    tree.addMapping("dm-7", "253:7", "elsewhere", {});
+    const BlockDevices devices(tree.path());
+    for (const auto* name : {"sdb", "sdb1", "dm-0", "dm-1"}) {
+        ASSERT_TRUE(devices.usbDeviceOf(name)) << name;
+        EXPECT_EQ(devices.usbDeviceOf(name)->kernelName(), "1-1") << name;
+    }
+    for (const auto* name : {"dm-7", "sdz", "", "..", "../../devices"}) {
+        EXPECT_FALSE(devices.usbDeviceOf(name)) << name;
+    }
+    EXPECT_THAT(devices.stackedOn("sdb"), ElementsAre("dm-1", "dm-0"));
+    EXPECT_THAT(devices.stackedOn("dm-0"), ElementsAre("dm-1"));
+    EXPECT_THAT(devices.stackedOn("sdz"), IsEmpty());
+    EXPECT_EQ(devices.baseOf("dm-1"), "sdb1");
+    EXPECT_EQ(devices.baseOf("sdb"), "sdb");
+    EXPECT_TRUE(devices.isPartitionOf("sdb1", "sdb"));
+    EXPECT_FALSE(devices.isPartitionOf("sdb1", "sdc"));
+    EXPECT_FALSE(devices.isPartitionOf("dm-0", "sdb"));
 }
 
 TEST_F(Drive, SurvivesLinksThatLeadBackIntoItself) {

@@ -1,5 +1,6 @@
 #include "platform/linux/MountInfo.h"
 #include "platform/linux/LinuxMountTable.h"
+#include "tests/platform/SysfsTree.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -91,6 +92,28 @@ TEST(LinuxMountTable, ReadsTheTableAfreshEachTime) {
 TEST(LinuxMountTable, HasTheFileSystemThatTheTableItselfIsReadFrom) {
     EXPECT_THAT(LinuxMountTable().getmntinfo(),
                 ::testing::Contains(Field(&MountedFileSystem::f_mntonname, "/proc")));
+}
+
+TEST(MountTable, NamesDevicesAsTheKernelDoes) {
+    const SysfsTree tree;
+    tree.addUsbDevice("pci/usb1/1-1", 1, 5, "07f7", "0135", "ZD");
+    const auto disk = tree.addDisk("pci/usb1/1-1", 0, "sdb", "ZELTO DISK1     ", 2048);
+    tree.addPartition(disk, "sdb1", 1);
+    tree.addMapping("dm-0", "253:0", "luks-1", {disk + "/sdb1"});
+    const TemporaryFolder folder;
+    folder.write("mountinfo", "90 22 8:17 / /media/a/TOOL rw - vfat /dev/disk/by-label/TOOL rw\n"
+                              "91 22 253:0 / /media/a/SECRET rw - ext4 /dev/mapper/luks-1 rw\n"
+                              "92 22 0:45 / /srv/a rw - btrfs /dev/mapper/luks-1 rw\n"
+                              "93 22 0:46 / /srv/b rw - btrfs /dev/sdb1 rw\n"
+                              "94 22 0:47 / /srv/c rw - btrfs /dev/mapper/unknown rw\n"
+                              "95 22 8:17 / /srv/d rw - vfat sdb1 rw\n"
+                              "96 22 0:21 / /proc rw - proc proc rw\n");
+    EXPECT_THAT(LinuxMountTable(folder / "mountinfo", tree.path()).getmntinfo(),
+                ElementsAre(mountedFrom("/dev/sdb1", "/media/a/TOOL"),
+                            mountedFrom("/dev/dm-0", "/media/a/SECRET"),
+                            mountedFrom("/dev/dm-0", "/srv/a"), mountedFrom("/dev/sdb1", "/srv/b"),
+                            mountedFrom("/dev/mapper/unknown", "/srv/c"),
+                            mountedFrom("sdb1", "/srv/d"), mountedFrom("proc", "/proc")));
 }
 
 } // namespace

@@ -90,6 +90,21 @@ public:
         return place;
     }
 
+    void removeMapping(const std::string& name) const {
+        namespace fs = std::filesystem;
+        std::vector<fs::path> gone{m_folder / ("devices/virtual/block/" + name),
+                                   m_folder / ("class/block/" + name)};
+        for (const auto& entry : fs::recursive_directory_iterator(m_folder / "devices")) {
+            if (entry.path().filename() == name &&
+                entry.path().parent_path().filename() == "holders") {
+                gone.push_back(entry.path());
+            }
+        }
+        for (const auto& path : gone) {
+            fs::remove_all(path);
+        }
+    }
+
 private:
     void addNumber(const std::string& place, const std::string& number) const {
         set(place, "dev", number);

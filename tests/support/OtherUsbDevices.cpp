@@ -53,4 +53,9 @@ std::unique_ptr<UnitStorage> ForeignDisk::makeUnits(std::function<Moment()> /*cl
     return std::make_unique<FixedUnit>(m_store);
 }
 
+std::string ForeignDisk::volumeLabel() {
+    const auto volume = VirtualVolume::mount(m_store);
+    return volume == nullptr ? std::string() : volume->label();
+}
+
 } // namespace zelto::test

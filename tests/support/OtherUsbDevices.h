@@ -29,6 +29,8 @@ public:
     [[nodiscard]] std::size_t unitCount() const override { return 1; }
     [[nodiscard]] std::string unitName(std::size_t) const override { return "GENERIC FLASH DISK"; }
     [[nodiscard]] std::unique_ptr<UnitStorage> makeUnits(std::function<Moment()>) override;
+    /// Of the volume that is on it now; empty when none is.
+    [[nodiscard]] std::string volumeLabel();
 
 private:
     MemorySectorStore m_store;
