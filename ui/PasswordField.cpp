@@ -1,6 +1,7 @@
 #include "ui/PasswordField.h"
 
 #include "ui/Glyph.h"
+#include "ui/PastedText.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -30,7 +31,7 @@ PasswordField::PasswordField(QWidget* parent)
 
     reveal(Shown::Dots);
     renderIcons();
-    connect(this, &QLineEdit::textEdited, this, &PasswordField::dropHistory);
+    connect(this, &QLineEdit::textEdited, this, &PasswordField::dropHistoryAndLineBreaks);
 }
 
 PasswordField::~PasswordField() {
@@ -114,11 +115,12 @@ void PasswordField::reveal(Shown shown) {
                         Qt::ImhNoAutoUppercase);
 }
 
-// Setting the text that is there already leaves it as it is and forgets how it came about.
-void PasswordField::dropHistory() {
-    const int cursor = cursorPosition();
-    setText(text());
-    setCursorPosition(cursor);
+// Setting the text anew forgets how it came about.
+void PasswordField::dropHistoryAndLineBreaks() {
+    const QString entered = text();
+    const qsizetype cursor = withoutLineBreaks(entered.left(cursorPosition())).size();
+    setText(withoutLineBreaks(entered));
+    setCursorPosition(static_cast<int>(cursor));
 }
 
 // Qt can't be asked for the state of Caps Lock, but a letter whose case doesn't go with Shift

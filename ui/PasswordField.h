@@ -7,9 +7,9 @@ class QToolButton;
 
 namespace zelto {
 
-/// A line for a password. It shows dots; its eye shows the text only while it is held down. It
-/// warns while letters arrive as with Caps Lock, gives nothing to the clipboard, and keeps no
-/// history of what was typed.
+/// A line for a password, without line breaks. It shows dots; its eye shows the text only while it
+/// is held down. It warns while letters arrive as with Caps Lock, gives nothing to the clipboard,
+/// and keeps no history of what was typed.
 class PasswordField : public QLineEdit {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private:
 
     void reveal(Shown shown);
     void overwriteOwnCharacters();
-    void dropHistory();
+    void dropHistoryAndLineBreaks();
     void followCapsLock(const QKeyEvent& event);
     void setCapsLock(bool on);
     void renderIcons();

@@ -13,6 +13,8 @@
 namespace zelto {
 namespace {
 
+constexpr auto StartsOn = "startsOn";
+
 bool takesInput(const QWidget& widget) {
     const bool isField = qobject_cast<const QLineEdit*>(&widget) != nullptr ||
                          qobject_cast<const QComboBox*>(&widget) != nullptr;
@@ -49,15 +51,21 @@ int Window::runModal(QWidget* parent) {
     resizeToFit();
     focusWhereTheUserStarts();
     m_modalRun = true;
-    const int code = exec();
+    m_modalCode = ModalCancel;
+    (void)exec();
     m_modalRun = false;
     setParent(nullptr, windowFlags());
-    return code;
+    return m_modalCode;
+}
+
+void Window::stopModal(ModalCode code) {
+    m_modalCode = code;
+    done(code);
 }
 
 void Window::reject() {
     if (m_modalRun) {
-        done(ModalCancel);
+        stopModal(ModalCancel);
         return;
     }
     Q_EMIT closeRequested();
@@ -94,6 +102,12 @@ void Window::growToFit() {
 // A window is reused: without this, log-in for the second password would start on the button
 // that ended the first step.
 void Window::focusWhereTheUserStarts() {
+    m_returnKey.watchControls();
+    const QString named = property(StartsOn).toString();
+    if (auto* const start = named.isEmpty() ? nullptr : findChild<QWidget*>(named)) {
+        start->setFocus(Qt::OtherFocusReason);
+        return;
+    }
     for (QWidget* widget = nextInFocusChain(); widget != this;
          widget = widget->nextInFocusChain()) {
         if (takesInput(*widget)) {

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "ui/ReturnKey.h"
+
 #include <QDialog>
 
 namespace zelto {
 
 /// A window of the utility. The controller shows and hides it; the user's own ways of closing it
-/// (Escape, the title bar) do what its cancel button does.
+/// (Escape, the title bar) do what its cancel button does. The focus starts in the first field
+/// that takes input, or in the control that the form's property "startsOn" names.
 class Window : public QDialog {
     Q_OBJECT
 
@@ -21,10 +24,11 @@ public:
     void orderOut();
 
     /// Runs the window as an application-modal dialog over `parent` and returns its code, a
-    /// ModalCode. Blocks until the dialog has ended; the window is off the screen then.
+    /// ModalCode. Blocks until the dialog has ended; the window is off the screen then. A run that
+    /// ends because the application does is a cancel.
     [[nodiscard]] int runModal(QWidget* parent);
     /// Ends a modal run.
-    void stopModal(ModalCode code) { done(code); }
+    void stopModal(ModalCode code);
 
     /// Escape and the title bar.
     void reject() override;
@@ -43,6 +47,8 @@ private:
     void focusWhereTheUserStarts();
 
     bool m_modalRun = false;
+    ModalCode m_modalCode = ModalCancel;
+    ReturnKey m_returnKey{*this, ReturnKey::Presses::FocusedButton};
 };
 
 /// A Designer form as a window: its controls are reached under the names they have in the form.

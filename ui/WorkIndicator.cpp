@@ -1,7 +1,10 @@
 #include "ui/WorkIndicator.h"
 
+#include "ui/TypeAhead.h"
+
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QTimer>
 
 namespace zelto {
@@ -59,6 +62,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (!isInput(event->type())) {
             return QObject::eventFilter(watched, event);
+        }
+        if (event->type() == QEvent::KeyPress) {
+            TypeAhead::offer(static_cast<const QKeyEvent&>(*event));
         }
         // A close that is merely swallowed counts as accepted, and the window would go.
         event->setAccepted(event->type() != QEvent::Close);

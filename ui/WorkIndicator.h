@@ -7,9 +7,9 @@
 namespace zelto {
 
 /// While one lives, the program's windows take no input: keys, mouse, wheel, touch, shortcuts and
-/// closing are swallowed. They go on repainting while an event loop runs, and after a moment the
-/// pointer shows that work is under way. They nest. Needs a QApplication; without one it does
-/// nothing.
+/// closing are swallowed; what a TypeAhead waits for is kept for later. They go on repainting while
+/// an event loop runs, and after a moment the pointer shows that work is under way. They nest.
+/// Needs a QApplication; without one it does nothing.
 class BusyWindows {
 public:
     BusyWindows();

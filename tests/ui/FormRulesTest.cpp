@@ -184,16 +184,31 @@ TEST_P(FormRules, OneButtonIsTheDefaultAndNoOtherBecomesItByFocus) {
     EXPECT_EQ(defaults, 1);
 }
 
-TEST_P(FormRules, ReturnPressesTheDefaultButtonWhereverTheFocusIs) {
+TEST_P(FormRules, ReturnPressesTheButtonWithTheFocusAndElseTheDefaultOne) {
     enableEverything(*form);
     show();
-    QPushButton* const button = defaultButtonOf(*form);
-    ASSERT_NE(button, nullptr);
+    QPushButton* const defaultButton = defaultButtonOf(*form);
+    ASSERT_NE(defaultButton, nullptr);
     for (QWidget* stop : tabStopsOf(*form)) {
-        const QSignalSpy pressed(button, &QPushButton::clicked);
-        stop->setFocus();
-        QTest::keyClick(stop, Qt::Key_Return);
-        EXPECT_EQ(pressed.count(), 1) << stop->objectName().toStdString();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+            auto* const focused = qobject_cast<QPushButton*>(stop);
+            QPushButton* const expected = focused != nullptr ? focused : defaultButton;
+            int others = 0;
+            std::vector<QMetaObject::Connection> connections;
+            for (QPushButton* other : form->findChildren<QPushButton*>()) {
+                connections.push_back(
+                    QObject::connect(other, &QPushButton::clicked, form.get(),
+                                     [&, other] { others += other != expected; }));
+            }
+            const QSignalSpy pressed(expected, &QPushButton::clicked);
+            stop->setFocus();
+            QTest::keyClick(stop, key);
+            EXPECT_EQ(pressed.count(), 1) << stop->objectName().toStdString();
+            EXPECT_EQ(others, 0) << stop->objectName().toStdString();
+            for (const auto& connection : connections) {
+                QObject::disconnect(connection);
+            }
+        }
     }
 }
 
@@ -202,6 +217,9 @@ TEST_P(FormRules, ReturnDoesNothingWhileTheDefaultButtonIsDisabled) {
     show();
     QPushButton* const button = defaultButtonOf(*form);
     button->setEnabled(false);
+    if (QWidget* const focused = form->focusWidget()) {
+        focused->clearFocus();
+    }
     for (QPushButton* other : form->findChildren<QPushButton*>()) {
         const QSignalSpy pressed(other, &QPushButton::clicked);
         QTest::keyClick(form.get(), Qt::Key_Return);
