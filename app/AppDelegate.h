@@ -7,10 +7,12 @@
 #include "device/PasswordRecords.h"
 #include "device/TimeStatus.h"
 #include "platform/Alerts.h"
+#include "platform/Desktop.h"
 #include "platform/Platform.h"
 #include "settings/AreaPacking.h"
 #include "settings/AreaSettings.h"
 #include "settings/MainSettingsView.h"
+#include "settings/Obstacle.h"
 #include "settings/OkButtonRules.h"
 #include "ui/Forms.h"
 
@@ -254,7 +256,7 @@ private:
     /// Reads the sense data of the drive's latest command and shows them in an alert.
     void reportSense();
     /// An alert with the application's title and the one button "OK".
-    void ShowMessage(const QString& message, const QString& detail = {});
+    void ShowMessage(AlertWeight weight, const QString& message, const QString& detail = {});
     /// A confirmation that Return and Escape cancel; true when the user pressed OK.
     [[nodiscard]] bool Confirm(const char* messageKey);
     /// IDS_ERR_UNMOUNT, with the programs that keep the volumes of g_BsdNameList busy.
@@ -265,6 +267,8 @@ private:
     // session/AppDelegate_Dispatch.cpp
     void processFullLock();
     void offerToSetClock();
+    /// Asks to quit when no window is on the screen.
+    void quitWithoutWindow();
 
     // session/AppDelegate_Authentication.cpp
     void reportRefusedPassword();
@@ -297,6 +301,9 @@ private:
     void showSecurity(const SecurityView& view);
     [[nodiscard]] SecurityView shownSecurity() const;
     [[nodiscard]] MainSettingsEntries mainSettingsEntries() const;
+    void showSettingsCues();
+    /// Says in one line why a window's OK is disabled; empties the line when it is not.
+    void showObstacle(QLabel& line, const Obstacle& obstacle) const;
 
     // settings/AppDelegate_Areas.cpp
     void reloadAreaTable(const AreaView& view);
@@ -318,6 +325,8 @@ private:
     Platform m_platform;
     EventGate m_gate;
     DiscoveryContext m_discovery;
+    /// Keeps the computer awake while a set-up is under way.
+    Desktop::Hold m_awakeForSetup;
     QWidget* m_window = nullptr;
     /// Owned by the table that shows it.
     AreaTableModel* m_areaTable = nullptr;

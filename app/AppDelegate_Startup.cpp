@@ -4,6 +4,7 @@
 #include "device/ZELTOctrl.h"
 #include "platform/Application.h"
 #include "platform/Computer.h"
+#include "platform/Desktop.h"
 
 #include <algorithm>
 
@@ -37,6 +38,9 @@ void AppDelegate::relocate(const std::filesystem::path& bundle,
 }
 
 void AppDelegate::startSession() {
+    m_platform.desktop.takePlace([this] { TerminateApplication(); });
+    m_platform.desktop.setSessionEndHandler(
+        [this] { return applicationShouldTerminate() == TerminateReply::TerminateNow; });
     static_cast<ControllerState&>(*this) = {};
     g_BsdNameList.clear();
     m_platform.application.scheduledTimer(

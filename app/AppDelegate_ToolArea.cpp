@@ -43,7 +43,8 @@ bool AppDelegate::CopyToolFile(const std::string& bsdName) {
     if (copied) {
         copyFilesBesideBundle(root);
     } else {
-        ShowMessage(localized("IDS_ERR_FILE_COPY", QString::fromStdString(source.string()),
+        ShowMessage(AlertWeight::Warning,
+                    localized("IDS_ERR_FILE_COPY", QString::fromStdString(source.string()),
                               QString::fromStdString(destination.string())));
     }
     return copied;

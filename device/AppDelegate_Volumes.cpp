@@ -22,6 +22,8 @@ void AppDelegate::GetBsdNameList(std::uint8_t diskNumber) {
 }
 
 bool AppDelegate::UnmountVolume(const std::vector<std::string>& bsdNames, std::uint8_t eject) {
+    const Desktop::Hold awake =
+        m_platform.desktop.keepAwake("The drive's volumes are being released");
     bool allSucceeded = true;
     for (const std::string& name : bsdNames) {
         // Read afresh for each name: ejecting a disk has unmounted its partitions too.
@@ -51,7 +53,7 @@ bool AppDelegate::SpinUpDrive() {
             return true;
         }
         if (--attemptsLeft == 0) {
-            ShowMessage(localized("IDS_ERR_SPINUP"));
+            ShowMessage(AlertWeight::Warning, localized("IDS_ERR_SPINUP"));
             TerminateApplication();
             return false;
         }

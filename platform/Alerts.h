@@ -6,13 +6,25 @@ namespace zelto {
 
 enum class AlertButton { Default, Alternate };
 
+/// How bad the news is.
+enum class AlertWeight {
+    /// Something has been done.
+    Information,
+    /// Something was refused, or may be lost by the answer.
+    Warning,
+    /// Something is lost.
+    Critical,
+};
+
 /// A modal message with one or two buttons. All texts are already localised.
 struct AlertPanel {
+    AlertWeight weight = AlertWeight::Information;
     QString title;
     QString message;
     /// More to the message, shown below it in smaller type; usually empty.
     QString detail = {};
-    /// What Return presses.
+    /// What Return presses while no button has the focus; in a confirmation, which Escape answers
+    /// with it too, wherever the focus is.
     QString defaultButton;
     /// Empty: there is no second button.
     QString alternateButton = {};

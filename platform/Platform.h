@@ -6,6 +6,7 @@ class Alerts;
 class Application;
 class Clock;
 class Computer;
+class Desktop;
 class DiskTool;
 class MountTable;
 class Registry;
@@ -23,6 +24,7 @@ struct Platform {
     Clock& clock;
     Alerts& alerts;
     Application& application;
+    Desktop& desktop;
 };
 
 } // namespace zelto

@@ -6,6 +6,7 @@
 #include "digest/Wipe.h"
 #include "settings/PasswordRules.h"
 #include "ui/Strings.h"
+#include "ui/TypeAhead.h"
 
 #include <algorithm>
 
@@ -74,12 +75,17 @@ void AppDelegate::AuthenticateSubmitAction() {
     const IOReturn result = writeAuthPayload(Device(), *payload);
 
     if (result == kIOReturnNoDevice) {
-        ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_ERR_NOT_FOUND_ZELTO"));
         TerminateApplication();
         return;
     }
     if (result != kIOReturnSuccess) {
+        // Whoever knows what was wrong starts over at once: what is typed meanwhile takes the place
+        // of the refused password.
+        const TypeAhead typeAhead(*form.AuthenticateTextField);
         reportRefusedPassword();
+        form.AuthenticateTextField->setFocus();
+        form.AuthenticateTextField->selectAll();
         return;
     }
     form.orderOut();
@@ -99,12 +105,12 @@ void AppDelegate::reportRefusedPassword() {
         return;
     }
     if (saysAuthenticationFailed(status.record.sense)) {
-        ShowMessage(localized("IDS_ERR_AUTHENTICATE_FAILED"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_ERR_AUTHENTICATE_FAILED"));
         Pause(1s);
         return;
     }
     if (status.record.state() == SecurityState::StateFullLock) {
-        ShowMessage(localized("IDS_ERR_ZELTO_DRIVE_LOST"));
+        ShowMessage(AlertWeight::Critical, localized("IDS_ERR_ZELTO_DRIVE_LOST"));
         AuthenticateWindow.orderOut();
         TerminateApplication();
     }

@@ -2,8 +2,12 @@
 #include "device/DeviceReads.h"
 #include "device/Discovery.h"
 #include "platform/Clock.h"
+#include "platform/Desktop.h"
 #include "session/ClockText.h"
 #include "ui/Strings.h"
+
+#include <algorithm>
+#include <array>
 
 namespace zelto {
 namespace {
@@ -21,6 +25,11 @@ QString accessHint(AttachedDrives::Access access) {
         return localized("IDS_HINT_DRIVE_IN_USE");
     }
     return {};
+}
+
+/// In an idle drive, and in states without a name, there is nothing to show; the program stays.
+bool hasWindow(SecurityState state) {
+    return state <= SecurityState::StateFullLock && state != SecurityState::StateIdle;
 }
 
 } // namespace
@@ -50,6 +59,22 @@ void AppDelegate::ProcessBySecurityState() {
     case SecurityState::StateIdle:
         break;
     }
+    if (hasWindow(status.state())) {
+        quitWithoutWindow();
+    } else {
+        m_platform.desktop.giveWayToNewStart();
+    }
+}
+
+/// Closing the last window quits, and so does failing to open it: without this the program would
+/// go on unseen and hold the drive.
+void AppDelegate::quitWithoutWindow() {
+    const std::array<const Window*, 6> windows{&SelectZeltoWindow,  &AuthenticateWindow,
+                                               &UnlockedWindow,     &UnlockingWindow,
+                                               &ZeltoSettingWindow, &MainSettingsWindow};
+    if (std::ranges::none_of(windows, &QWidget::isVisible)) {
+        TerminateApplication();
+    }
 }
 
 void AppDelegate::processFullLock() {
@@ -62,7 +87,7 @@ void AppDelegate::processFullLock() {
         TerminateApplication();
         return;
     }
-    ShowMessage(localized("IDS_ERR_ZELTO_DRIVE_LOST"));
+    ShowMessage(AlertWeight::Critical, localized("IDS_ERR_ZELTO_DRIVE_LOST"));
     DisplayMainSettingsWindow(false);
 }
 
@@ -70,7 +95,8 @@ void AppDelegate::offerToSetClock() {
     const auto now = m_platform.clock.now();
     const QString localTime = dateMinuteText(clockAt(now + m_platform.clock.utcOffset(now)));
     const AlertButton answer =
-        RunAlertPanel({.title = localized("IDS_APP_TITLE"),
+        RunAlertPanel({.weight = AlertWeight::Warning,
+                       .title = localized("IDS_APP_TITLE"),
                        .message = localized("IDS_FULLLOCK_TIME_STATUS_INVALID", localTime),
                        .defaultButton = localized("OK"),
                        .alternateButton = localized("IDS_CANCEL_BUTTON"),
@@ -81,7 +107,7 @@ void AppDelegate::offerToSetClock() {
     if (reportIfFailed(SetCurrentTime())) {
         return;
     }
-    ShowMessage(localized("IDS_SET_CURRENT_YIME"));
+    ShowMessage(AlertWeight::Information, localized("IDS_SET_CURRENT_YIME"));
 }
 
 void AppDelegate::DisplaySelectZeltoWindow() {

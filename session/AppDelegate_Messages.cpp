@@ -11,7 +11,7 @@ namespace zelto {
 
 void AppDelegate::ErrorMessageBox(IOReturn result) {
     if (result == kIOReturnNoDevice) {
-        ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_ERR_NOT_FOUND_ZELTO"));
         return;
     }
     reportSense();
@@ -28,23 +28,26 @@ bool AppDelegate::reportIfFailed(IOReturn result) {
 void AppDelegate::reportSense() {
     const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
     if (status.failed()) {
-        ShowMessage(localized("IDS_COMMAND_FAIL"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_COMMAND_FAIL"));
         return;
     }
     const Sense& sense = status.record.sense;
-    ShowMessage(localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", QString::number(sense.key),
+    ShowMessage(AlertWeight::Warning,
+                localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", QString::number(sense.key),
                           QString::number(sense.additionalCode), QString::number(sense.qualifier)));
 }
 
-void AppDelegate::ShowMessage(const QString& message, const QString& detail) {
-    RunAlertPanel({.title = localized("IDS_APP_TITLE"),
+void AppDelegate::ShowMessage(AlertWeight weight, const QString& message, const QString& detail) {
+    RunAlertPanel({.weight = weight,
+                   .title = localized("IDS_APP_TITLE"),
                    .message = message,
                    .detail = detail,
                    .defaultButton = localized("OK")});
 }
 
 bool AppDelegate::Confirm(const char* messageKey) {
-    return RunAlertPanel({.title = localized("IDS_APP_TITLE"),
+    return RunAlertPanel({.weight = AlertWeight::Warning,
+                          .title = localized("IDS_APP_TITLE"),
                           .message = localized(messageKey),
                           .defaultButton = localized("IDS_CANCEL_BUTTON"),
                           .alternateButton = localized("OK"),
@@ -56,7 +59,7 @@ void AppDelegate::ReportUnmountFailure() {
     for (const std::string& program : m_platform.disks.holders(g_BsdNameList)) {
         programs += QString::fromStdString(program);
     }
-    ShowMessage(localized("IDS_ERR_UNMOUNT"),
+    ShowMessage(AlertWeight::Warning, localized("IDS_ERR_UNMOUNT"),
                 programs.isEmpty()
                     ? QString()
                     : localized("IDS_HINT_BUSY_PROGRAMS", programs.join(QStringLiteral(", "))));

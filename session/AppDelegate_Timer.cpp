@@ -64,6 +64,10 @@ void AppDelegate::tickSetup() {
         observation.toolVolumeSeen = !g_BsdNameList.empty();
     }
     const SetupStep step = advanceSetup(Setup, observation);
+    const Desktop::Hold awake = m_awakeForSetup; // Also while the last step is under way.
+    if (!step.progress.isUnderWay()) {
+        m_awakeForSetup = nullptr;
+    }
     switch (step.event) {
     case SetupEvent::None:
         showSetup(setupUnderWay(Setup, step.progress));
@@ -71,7 +75,7 @@ void AppDelegate::tickSetup() {
         break;
     case SetupEvent::NotFound:
         showSetup(setupFailed(Setup));
-        ShowMessage(localized("IDS_ERR_NOT_FOUND_ZELTO"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_ERR_NOT_FOUND_ZELTO"));
         Setup = step.progress;
         TerminateApplication();
         break;
@@ -88,7 +92,7 @@ void AppDelegate::formatAndCopy(const SetupProgress& before) {
     const std::string disk = g_BsdNameList.empty() ? std::string() : g_BsdNameList.front();
     if (disk.empty() || !FormatDrive(disk)) {
         showSetup(setupFailed(before));
-        ShowMessage(localized("IDS_ERR_FORMAT"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_ERR_FORMAT"));
         TerminateApplication();
         return;
     }
@@ -114,6 +118,7 @@ void AppDelegate::showDriveTime(const TimeStatus& status) {
     QString text = localized("IDS_ERR_TIME_STATUS_INVALID");
     if (status.clockNotValid) {
         TimeStatusInvalid = true;
+        showSettingsCues();
     } else if (const auto moment = momentOf(status.clock)) {
         text = dateTimeText(clockAt(*moment + m_platform.clock.utcOffset(*moment)));
     }
@@ -131,7 +136,7 @@ void AppDelegate::MainSettingsSetTimeAction() {
     }
     // No message for a clock that was valid before.
     if (TimeStatusInvalid) {
-        ShowMessage(localized("IDS_TIME_SYNC_COMPLETE"));
+        ShowMessage(AlertWeight::Information, localized("IDS_TIME_SYNC_COMPLETE"));
         TerminateApplication();
     }
 }

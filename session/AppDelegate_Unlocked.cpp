@@ -20,6 +20,7 @@ void AppDelegate::UnlockedLogOffAction() {
 void AppDelegate::UnlockedSetupAction() {
     UnlockedWindow.orderOut();
     DisplayMainSettingsWindow(false);
+    quitWithoutWindow();
 }
 
 void AppDelegate::DisplayUnlockingWindow() {
@@ -38,6 +39,7 @@ void AppDelegate::UnlockingCancelAction() {
 void AppDelegate::UnlockingSetupAction() {
     UnlockingWindow.orderOut();
     DisplayMainSettingsWindow(false);
+    quitWithoutWindow();
 }
 
 /// Volumes first, then the lock: the drive must never hide an area that the computer still has

@@ -72,10 +72,14 @@ void AppDelegate::MainSettingsAreaSettingsAction() {
     form.Disk1SecureCheckBox->setChecked((flags & InUseAndSecure) == InUseAndSecure);
     form.Disk2SecureCheckBox->setChecked(false);
     form.Disk3SecureCheckBox->setChecked(false);
+    form.AreaSettingsCue->setText(
+        Changed.AreaSettingsPerformed ? localized("IDS_HINT_SECURE_CHOICE_DROPPED") : QString());
+    form.AreaSettingsCue->setVisible(Changed.AreaSettingsPerformed);
     UpdateAreaSettingsWindow();
 
     if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
         Changed.AreaSettingsPerformed = true;
+        Settings.AreasWereSent = false;
         rebuildUserAreas(Settings.AreaInfos, {.mebibytes = Settings.AreaSettingsDiskCapacity,
                                               .secure = chosenSecureDisks()});
         DisplayMainSettingsWindow(true);
@@ -91,8 +95,8 @@ void AppDelegate::AreaSettingsTextDidChange() {
 void AppDelegate::UpdateAreaSettingsWindow() {
     auto& form = AreaSettingsWindow;
     const auto fields = diskCapacityFields();
-    const AreaDialogVerdict verdict = judgeAreaDialog(
-        {fields[0]->text(), fields[1]->text(), fields[2]->text()}, Settings.TotalSectorCount);
+    const std::array<QString, 3> texts{fields[0]->text(), fields[1]->text(), fields[2]->text()};
+    const AreaDialogVerdict verdict = judgeAreaDialog(texts, Settings.TotalSectorCount);
     // Kept even when they are refused: a dialog that is opened again shows what was typed.
     Settings.AreaSettingsDiskCapacity = verdict.mebibytes;
     form.LeftCapacityText->setText(
@@ -100,6 +104,7 @@ void AppDelegate::UpdateAreaSettingsWindow() {
             ? localized("IDS_CAPACITY_OVER")
             : localized("IDS_FREE_CAPACITY", static_cast<std::uint32_t>(verdict.leftMebibytes)));
     form.AreaSettingsOKButton->setEnabled(verdict.isComplete);
+    showObstacle(*form.AreaSettingsObstacle, areaObstacle(texts, verdict));
     showAreaSettingsBar();
 }
 

@@ -19,6 +19,7 @@ void AppDelegate::MainSettingsOKAction() {
         Settings.InitialSetting ? ZeltoInitializeSettings() : ZeltoChangeSettings();
     if (!committed) {
         ok.setEnabled(true);
+        showSettingsCues();
         return;
     }
     wipePasswords(Settings.PasswordSettingsParameters);
@@ -80,6 +81,7 @@ bool AppDelegate::ZeltoChangeSettings() {
 }
 
 bool AppDelegate::changePasswords() {
+    const Desktop::Hold awake = m_platform.desktop.keepAwake("The passwords are being changed");
     if (!Settings.PasswordSettingsParameters.Use1stAnd2ndPassword) {
         return changeFirstPassword(AuthInfo::Change);
     }
@@ -126,7 +128,7 @@ void AppDelegate::reportRefusedChange(IOReturn result, const char* wrongPassword
         return;
     }
     if (status.record.sense == WrongPassword) {
-        ShowMessage(localized(wrongPasswordKey));
+        ShowMessage(AlertWeight::Warning, localized(wrongPasswordKey));
     } else {
         ErrorMessageBox(result);
     }

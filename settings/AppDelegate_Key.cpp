@@ -40,7 +40,9 @@ void AppDelegate::MainSettingsEncryptionKeyAction() {
 
 void AppDelegate::UpdateEncryptionKeyWindow() {
     auto& form = EncryptionKeyWindow;
-    form.EncryptionKeyOKButton->setEnabled(isValidKeyText(form.EncryptionKeyText->text()));
+    const QString text = form.EncryptionKeyText->text();
+    form.EncryptionKeyOKButton->setEnabled(isValidKeyText(text));
+    showObstacle(*form.EncryptionKeyObstacle, keyObstacle(text));
 }
 
 void AppDelegate::EncryptionKeyOKAction() {
@@ -60,7 +62,7 @@ void AppDelegate::MainSettingsAutoClearEraseAction() {
         return;
     }
     if (status.record.state() != SecurityState::StateUnlocking) {
-        ShowMessage(localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
         return;
     }
     // The drive erases its key when the period has run out, so the shortest one does it at once.
@@ -92,7 +94,7 @@ void AppDelegate::MainSettingsClearAllAction() {
     }
     const SecurityState state = status.record.state();
     if (Settings.SecureAreaAlreadyExist && !mayBeCleared(state)) {
-        ShowMessage(localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_ERR_ZELTO_NOT_UNLOCKING"));
         return;
     }
     if (clearPeriodsAndHint(state) && resetAreaInfos()) {

@@ -2,6 +2,7 @@
 #include "device/DeviceReads.h"
 #include "settings/AreaPacking.h"
 #include "settings/SecretText.h"
+#include "settings/SettingsCues.h"
 #include "ui/Strings.h"
 
 #include <utility>
@@ -144,6 +145,7 @@ SecurityView AppDelegate::shownSecurity() const {
 }
 
 void AppDelegate::UpdateMainSettingsOKButton() {
+    showSettingsCues();
     if (Settings.InitialSetting) {
         UpdateMainSettingsOKButtonAtInitialization();
     } else {
@@ -152,12 +154,44 @@ void AppDelegate::UpdateMainSettingsOKButton() {
 }
 
 void AppDelegate::UpdateMainSettingsOKButtonAtInitialization() {
-    MainSettingsWindow.MainSettingsOKButton->setEnabled(
-        canCommitAtInitialization(mainSettingsEntries()));
+    const MainSettingsEntries entries = mainSettingsEntries();
+    MainSettingsWindow.MainSettingsOKButton->setEnabled(canCommitAtInitialization(entries));
+    showObstacle(*MainSettingsWindow.MainSettingsObstacle, obstacleAtInitialization(entries));
 }
 
 void AppDelegate::UpdateMainSettingsOKButtonAtChanging() {
-    MainSettingsWindow.MainSettingsOKButton->setEnabled(canCommitAtChanging(mainSettingsEntries()));
+    const MainSettingsEntries entries = mainSettingsEntries();
+    MainSettingsWindow.MainSettingsOKButton->setEnabled(canCommitAtChanging(entries));
+    showObstacle(*MainSettingsWindow.MainSettingsObstacle, obstacleAtChanging(entries));
+}
+
+void AppDelegate::showObstacle(QLabel& line, const Obstacle& obstacle) const {
+    if (obstacle.key == nullptr) {
+        line.clear();
+    } else if (obstacle.number == 0) {
+        line.setText(localized(obstacle.key));
+    } else {
+        line.setText(localized(obstacle.key, obstacle.number));
+    }
+}
+
+void AppDelegate::showSettingsCues() {
+    const auto show = [](QLabel& label, const char* key) {
+        label.setText(key == nullptr ? QString() : localized(key));
+        label.setVisible(key != nullptr);
+    };
+    const SecurityView shown = shownSecurity();
+    const SettingsCues cues = settingsCues({.isInitial = Settings.InitialSetting,
+                                            .areasWereLaidOut = Changed.AreaSettingsPerformed,
+                                            .secureAreaExists = Settings.SecureAreaExist,
+                                            .areasWereSent = Settings.AreasWereSent,
+                                            .clockIsNotValid = TimeStatusInvalid,
+                                            .autoClear = shown.autoClear,
+                                            .autoLogOff = shown.autoLogOff});
+    show(*MainSettingsWindow.MainSettingsAreasCue, cues.areas);
+    show(*MainSettingsWindow.MainSettingsClockCue, cues.clock);
+    show(*MainSettingsWindow.MainSettingsPeriodsCue, cues.periods);
+    show(*MainSettingsWindow.MainSettingsCommitCue, cues.commit);
 }
 
 /// The two text fields are not told apart.

@@ -2,6 +2,7 @@
 #include "settings/IntegerValue.h"
 #include "settings/PasswordRules.h"
 #include "settings/SecretText.h"
+#include "ui/Strings.h"
 
 #include <initializer_list>
 
@@ -73,6 +74,7 @@ void AppDelegate::DisplayPasswordSettingsWindow() {
     show(parameters.strNew1stPassword, {form.PS_1stPasswordText, form.PS_Again1stPasswordText});
     show(parameters.strNew2ndPassword, {form.PS_2ndPasswordText, form.PS_Again2ndPasswordText});
     showTrials(parameters.NumberOfTrials, *form.PS_2ndPasswordNumberOfTrials);
+    form.PS_TrialsCue->setText(localized("IDS_HINT_TRIALS_ERASE"));
     UpdatePasswordSettingsWindow();
 
     if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
@@ -104,6 +106,7 @@ void AppDelegate::DisplayPasswordChangeWindow() {
     show(parameters.strNew2ndPassword,
          {form.PC_New2ndPasswordText, form.PC_AgainNew2ndPasswordText});
     showTrials(parameters.NumberOfTrials, *form.PC_2ndPasswordNumberOfTrials);
+    form.PC_TrialsCue->setText(localized("IDS_HINT_TRIALS_ERASE"));
     UpdatePasswordChangeWindow();
 
     if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
@@ -134,25 +137,39 @@ void AppDelegate::UpdatePasswordSettingsWindow() {
     enable(
         {form.PS_2ndPasswordText, form.PS_Again2ndPasswordText, form.PS_2ndPasswordNumberOfTrials},
         two);
-    form.PS_OKButton->setEnabled(passwordSettingsAreComplete(
-        {.firstAndSecond = two,
-         .first = {form.PS_1stPasswordText->text(), form.PS_Again1stPasswordText->text()},
-         .second = {form.PS_2ndPasswordText->text(), form.PS_Again2ndPasswordText->text()},
-         .trials = form.PS_2ndPasswordNumberOfTrials->text()}));
+    // The views are into these texts, so the texts outlive the entries.
+    const QString first = form.PS_1stPasswordText->text();
+    const QString firstAgain = form.PS_Again1stPasswordText->text();
+    const QString second = form.PS_2ndPasswordText->text();
+    const QString secondAgain = form.PS_Again2ndPasswordText->text();
+    const QString trials = form.PS_2ndPasswordNumberOfTrials->text();
+    const PasswordSettingsEntries entries{.firstAndSecond = two,
+                                          .first = {first, firstAgain},
+                                          .second = {second, secondAgain},
+                                          .trials = trials};
+    form.PS_OKButton->setEnabled(passwordSettingsAreComplete(entries));
+    showObstacle(*form.PS_Obstacle, passwordSettingsObstacle(entries));
 }
 
 /// The drive's number of passwords decides, not the radio: it cannot be changed here.
 void AppDelegate::UpdatePasswordChangeWindow() {
     auto& form = PasswordChangeWindow;
-    form.PC_OKButton->setEnabled(passwordChangeIsComplete(
-        {.currentFirst = form.PC_Current1stPasswordText->text(),
-         .currentSecond = form.PC_Current2ndPasswordText->text(),
-         .renewed = {
-             .firstAndSecond = Settings.PasswordSettingsParameters.Use1stAnd2ndPassword,
-             .first = {form.PC_New1stPasswordText->text(), form.PC_AgainNew1stPasswordText->text()},
-             .second = {form.PC_New2ndPasswordText->text(),
-                        form.PC_AgainNew2ndPasswordText->text()},
-             .trials = form.PC_2ndPasswordNumberOfTrials->text()}}));
+    const QString currentFirst = form.PC_Current1stPasswordText->text();
+    const QString currentSecond = form.PC_Current2ndPasswordText->text();
+    const QString first = form.PC_New1stPasswordText->text();
+    const QString firstAgain = form.PC_AgainNew1stPasswordText->text();
+    const QString second = form.PC_New2ndPasswordText->text();
+    const QString secondAgain = form.PC_AgainNew2ndPasswordText->text();
+    const QString trials = form.PC_2ndPasswordNumberOfTrials->text();
+    const PasswordChangeEntries entries{
+        .currentFirst = currentFirst,
+        .currentSecond = currentSecond,
+        .renewed = {.firstAndSecond = Settings.PasswordSettingsParameters.Use1stAnd2ndPassword,
+                    .first = {first, firstAgain},
+                    .second = {second, secondAgain},
+                    .trials = trials}};
+    form.PC_OKButton->setEnabled(passwordChangeIsComplete(entries));
+    showObstacle(*form.PC_Obstacle, passwordChangeObstacle(entries));
 }
 
 void AppDelegate::PasswordSettingsUse1stAction() {

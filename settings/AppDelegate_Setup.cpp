@@ -19,7 +19,7 @@ bool AppDelegate::ZeltoInitializeSettings() {
     }
     if (Settings.SecureAreaExist && shownSecurity().keyOrigin == KeyOrigin::Manual &&
         Settings.StrEncryptionKey.isEmpty()) {
-        ShowMessage(localized("IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP"));
         return false;
     }
     if (!SpinUpDrive() || !sendAreaInfos()) {
@@ -41,9 +41,10 @@ void AppDelegate::ZeltoSettingOKAction() {
 bool AppDelegate::sendAreaInfos() {
     const auto toolArea = appendToolArea(Settings.AreaInfos);
     if (!toolArea) {
-        reportSense();
+        ShowMessage(AlertWeight::Warning, localized("IDS_HINT_SETUP_TABLE_FULL"));
         return false;
     }
+    Settings.AreasWereSent = true;
     Setup.ReservedAreaDiskNumber = *toolArea;
     return !reportIfFailed(writeAreaInfos(Device(), storedEntries(Settings.AreaInfos)));
 }
@@ -78,6 +79,7 @@ bool AppDelegate::sendPeriods() {
 
 /// From here on the timer leads: it waits for the drive, then for its tool area, and finishes.
 void AppDelegate::beginSetupProgress() {
+    m_awakeForSetup = m_platform.desktop.keepAwake("The drive is being set up");
     Drives.WaitReconnectZelto = true;
     Setup.InitialSettingState = SetupProgress::WaitingForReconnect;
     Setup.WaitCount = SetupProgress::WaitTicks;

@@ -43,6 +43,8 @@ struct SettingsModel {
     _tagAreaInfosViewData AreaInfosViewData;
     /// The drive's area table, rebuilt by the area settings.
     AreaInfoTable AreaInfos;
+    /// A set-up has sent these very areas before, and has failed.
+    bool AreasWereSent = false;
     /// Sectors; in first-time set-up less those of the tool area.
     std::uint64_t TotalSectorCount = 0;
     /// Sizes chosen for Disk1 to Disk3 in MiB; 0: no such area.

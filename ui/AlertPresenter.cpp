@@ -1,11 +1,12 @@
 #include "ui/AlertPresenter.h"
 
 #include "ui/ProductIcon.h"
+#include "ui/ReturnKey.h"
+#include "ui/Window.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QStyle>
 
 namespace zelto {
 namespace {
@@ -17,20 +18,40 @@ QPushButton* addButton(QMessageBox& box, QString label, QMessageBox::ButtonRole 
     return button;
 }
 
+QMessageBox::Icon iconOf(AlertWeight weight) {
+    switch (weight) {
+    case AlertWeight::Information:
+        return QMessageBox::Information;
+    case AlertWeight::Warning:
+        return QMessageBox::Warning;
+    case AlertWeight::Critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// The window that the user looks at: while another program is active none of ours is, but the
+/// alert still belongs to the one that is on the screen.
+QWidget* windowToBelongTo() {
+    if (QWidget* const active = QApplication::activeWindow()) {
+        return active;
+    }
+    QWidget* shown = QApplication::activeModalWidget();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (shown == nullptr && window->isVisible() && qobject_cast<Window*>(window) != nullptr) {
+            shown = window;
+        }
+    }
+    return shown;
+}
+
 } // namespace
 
 AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(windowToBelongTo());
     box.setObjectName(QStringLiteral("AlertPanel"));
     box.setWindowIcon(ProductIcon::icon());
-    // A question whose harmless answer is preset warns of what the other one does.
-    const bool warns = !panel.alternateButton.isEmpty() && panel.onEscape == AlertButton::Default;
-    if (warns) {
-        box.setIcon(QMessageBox::Warning);
-    } else {
-        const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
-        box.setIconPixmap(ProductIcon::icon().pixmap({side, side}, box.devicePixelRatioF()));
-    }
+    box.setIcon(iconOf(panel.weight));
     box.setWindowTitle(panel.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(panel.message);
@@ -44,6 +65,11 @@ AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
     const bool escapeIsSecond = second != nullptr && panel.onEscape == AlertButton::Alternate;
     box.setDefaultButton(first);
     box.setEscapeButton(escapeIsSecond ? second : first);
+    // A confirmation is cancelled by Return, whatever has the focus.
+    const bool confirms = second != nullptr && !escapeIsSecond;
+    ReturnKey returnKey(box, confirms ? ReturnKey::Presses::DefaultButton
+                                      : ReturnKey::Presses::FocusedButton);
+    returnKey.watchControls();
     box.exec();
     return second != nullptr && box.clickedButton() == second ? AlertButton::Alternate
                                                               : AlertButton::Default;

@@ -17,11 +17,11 @@
     </message>
     <message id="IDS_ERR_NOT_FOUND_ZELTO">
         <source></source>
-        <translation>The ZELTO DISK was not found. Plug it in and try again.</translation>
+        <translation>No ZELTO DISK is ready for use. Plug it in, then start this program again.</translation>
     </message>
     <message id="IDS_ENTER_1ST_PASSWORD">
         <source></source>
-        <translation>Enter the first password.</translation>
+        <translation>Enter the password; the first one if the drive has two.</translation>
     </message>
     <message id="IDS_ENTER_2ND_PASSWORD">
         <source></source>
@@ -29,17 +29,19 @@
     </message>
     <message id="IDS_FULLLOCK_TIME_STATUS_INVALID">
         <source></source>
-        <translation>The drive’s clock has stopped, so the drive is locked for safety. Your data is still there.
+        <translation>The drive’s clock has stopped, so the drive has locked itself.
 
-Set the drive’s clock to this computer’s time, %1? Check first that this time is right.</translation>
+Set the drive’s clock to this computer’s time, %1? Check first that this time is right. If the drive still has its key, you can log in to it afterwards.</translation>
     </message>
     <message id="IDS_SET_CURRENT_YIME">
         <source></source>
-        <translation>The drive’s clock has been set. Unplug the drive, plug it in again and start this program to log in.</translation>
+        <translation>The drive’s clock has been set. The program now closes. Start it again: it then says whether you can log in.</translation>
     </message>
     <message id="IDS_ERR_ZELTO_DRIVE_LOST">
         <source></source>
-        <translation>The drive has locked itself for good and erased its key: after too many wrong passwords, or because its time ran out. What was in the secure area cannot be read any more, by anyone. You can set the drive up again as a new one.</translation>
+        <translation>The drive has locked itself for good and its key is gone: after too many wrong passwords, because its time ran out, or because the key was erased. What was in the secure area cannot be read any more, by anyone.
+
+To use the drive again, start this program if it has closed, choose “Clear All” in the settings, then plug the drive out and in and start the program once more to set it up.</translation>
     </message>
     <message id="IDS_ERR_AUTHENTICATE_FAILED">
         <source></source>
@@ -47,17 +49,19 @@ Set the drive’s clock to this computer’s time, %1? Check first that this tim
     </message>
     <message id="IDS_ERR_UNMOUNT">
         <source></source>
-        <translation>The drive’s volumes could not be released, because a program is still using a file on them. Close all files and windows that show the drive, then try again.</translation>
+        <translation>The drive’s volumes could not be released; most often a program still uses a file on them. Nothing else was done: a drive that was unlocked is still unlocked.
+
+Close all files and windows that show the drive, then try again. Start this program again if it has closed.</translation>
     </message>
     <message id="IDS_COMMAND_FAIL_WITH_SENSE_INFO">
         <source></source>
-        <translation>The drive refused this step. If it happens again, unplug the drive, plug it in and try once more.
+        <translation>The drive did not carry out this step. If it happens again, close this program, plug the drive out and in, and start the program again.
 
 For support: sense key %1, code %2, qualifier %3.</translation>
     </message>
     <message id="IDS_COMMAND_FAIL">
         <source></source>
-        <translation>The drive does not answer. Unplug it, plug it in again and try once more.</translation>
+        <translation>The drive does not answer. Close this program, plug the drive out and in, and start the program again.</translation>
     </message>
     <message id="IDS_ERR_TIME_STATUS_INVALID">
         <source></source>
@@ -89,22 +93,22 @@ For support: sense key %1, code %2, qualifier %3.</translation>
     </message>
     <message id="IDS_SETTING_COMPLETE">
         <source></source>
-        <translation>The drive is ready to use.</translation>
+        <translation>The drive is set up. Its areas are still blank: format each once before you use it, a secure one after you have logged in.</translation>
     </message>
     <message id="IDS_ERR_FORMAT">
         <source></source>
-        <translation>The drive’s tool area could not be formatted. Unplug the drive, plug it in again and start this program to check its settings.</translation>
+        <translation>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</translation>
     </message>
     <message id="IDS_ERR_FILE_COPY">
         <source></source>
-        <translation>This program could not be copied to the drive’s tool area.
+        <translation>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
 
 From: %1
 To: %2</translation>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source></source>
-        <translation>The drive does not get ready. Unplug it, plug it in again and start this program once more.</translation>
+        <translation>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</translation>
     </message>
     <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
         <source></source>
@@ -112,7 +116,7 @@ To: %2</translation>
     </message>
     <message id="IDS_ERR_CURRENT_1ST_PASSWORD_INVALID">
         <source></source>
-        <translation>The current first password is not right, so it was not changed. Check Caps Lock and enter it again.</translation>
+        <translation>The current first password is not right, so the first password was not changed. If you are changing two passwords, the second one has been changed already: from now on its current password is the new one. Check Caps Lock and enter the passwords again.</translation>
     </message>
     <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
         <source></source>
@@ -177,6 +181,134 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source></source>
         <translation>Still using the drive: %1</translation>
+    </message>
+    <message id="IDS_HINT_NEXT_AREAS">
+        <source></source>
+        <translation>Next: lay out the areas.</translation>
+    </message>
+    <message id="IDS_HINT_NEXT_PASSWORDS">
+        <source></source>
+        <translation>Next: choose the passwords.</translation>
+    </message>
+    <message id="IDS_HINT_NOTHING_CHANGED">
+        <source></source>
+        <translation>Nothing has been changed yet.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_CLEAR_DAYS">
+        <source></source>
+        <translation>Erase the key after: enter 1 to 9999 days.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_CLEAR_MINUTES">
+        <source></source>
+        <translation>Erase the key after: enter 1 to 999 minutes.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_LOG_OFF_MINUTES">
+        <source></source>
+        <translation>Log off after: enter 1 to 999 minutes.</translation>
+    </message>
+    <message id="IDS_HINT_AREA_DIGITS">
+        <source></source>
+        <translation>Sizes are whole numbers of MB.</translation>
+    </message>
+    <message id="IDS_HINT_AREA_DISK1">
+        <source></source>
+        <translation>Next: enter a size for Disk1.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_MISSING">
+        <source></source>
+        <translation>Next: enter the first password.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_AGAIN">
+        <source></source>
+        <translation>Next: enter the first password again.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_DIFFERS">
+        <source></source>
+        <translation>The two entries of the first password differ.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_MISSING">
+        <source></source>
+        <translation>Next: enter the second password.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_AGAIN">
+        <source></source>
+        <translation>Next: enter the second password again.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_DIFFERS">
+        <source></source>
+        <translation>The two entries of the second password differ.</translation>
+    </message>
+    <message id="IDS_HINT_CURRENT_FIRST_MISSING">
+        <source></source>
+        <translation>Next: enter the current first password.</translation>
+    </message>
+    <message id="IDS_HINT_CURRENT_SECOND_MISSING">
+        <source></source>
+        <translation>Next: enter the current second password.</translation>
+    </message>
+    <message id="IDS_HINT_PASSWORD_ACCENTS">
+        <source></source>
+        <translation>Letters with accents cannot be used in a password.</translation>
+    </message>
+    <message id="IDS_HINT_PASSWORD_TOO_LONG">
+        <source></source>
+        <translation>A password has 32 characters at most.</translation>
+    </message>
+    <message id="IDS_HINT_TRIALS">
+        <source></source>
+        <translation>Next: enter how many tries are allowed, 1 to 99.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_MISSING">
+        <source></source>
+        <translation>Next: enter the digits of the key.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_DIGITS">
+        <source></source>
+        <translation>Only the digits 0 to 9 and A to F can be used.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_ODD">
+        <source></source>
+        <translation>One digit is missing.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_TOO_LONG">
+        <source></source>
+        <translation>%1 of 128 digits: that is too many.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_ERASES">
+        <source></source>
+        <translation>OK erases everything on this drive and closes this window.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_OPEN">
+        <source></source>
+        <translation>No secure area: anyone can read this drive. Passwords and a key that were entered are not used.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_RETRY">
+        <source></source>
+        <translation>Before you try again, open the areas and confirm them once more.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_TABLE_FULL">
+        <source></source>
+        <translation>There is no room for one more attempt in the list of areas. Open the areas, confirm them once more, then try again.</translation>
+    </message>
+    <message id="IDS_HINT_CLOSES">
+        <source></source>
+        <translation>OK, Cancel, Erase Key and Clear All close the program.</translation>
+    </message>
+    <message id="IDS_HINT_SET_CLOCK_CLOSES">
+        <source></source>
+        <translation>Setting the clock closes the program; what was entered is lost.</translation>
+    </message>
+    <message id="IDS_HINT_PERIOD_ZERO">
+        <source></source>
+        <translation>A period that shows 0 is switched off by OK.</translation>
+    </message>
+    <message id="IDS_HINT_SECURE_CHOICE_DROPPED">
+        <source></source>
+        <translation>Only Disk1 keeps its choice when this window opens. To make Disk2 or Disk3 secure, choose it again.</translation>
+    </message>
+    <message id="IDS_HINT_TRIALS_ERASE">
+        <source></source>
+        <translation>After that many wrong second passwords the drive erases its key for good.</translation>
     </message>
 </context>
 </TS>

@@ -10,10 +10,13 @@ LinuxPlatform::LinuxPlatform(Alerts& alerts, WorkInProgress showWork)
       m_usb(m_waiting),
       m_disks([] { return QDBusConnection::systemBus(); }, m_waiting, m_mounts),
       m_computer(m_waiting),
-      m_clock(m_waiting) {}
+      m_clock(m_waiting),
+      m_desktop([] { return QDBusConnection::systemBus(); },
+                [] { return QDBusConnection::sessionBus(); }, m_waiting) {}
 
 Platform LinuxPlatform::platform() {
-    return {m_usb, m_registry, m_mounts, m_disks, m_computer, m_clock, m_alerts, m_application};
+    return {m_usb,   m_registry, m_mounts,      m_disks,  m_computer,
+            m_clock, m_alerts,   m_application, m_desktop};
 }
 
 } // namespace zelto::linux_platform

@@ -4,6 +4,7 @@
 #include "platform/linux/LinuxApplication.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxComputer.h"
+#include "platform/linux/LinuxDesktop.h"
 #include "platform/linux/LinuxDiskTool.h"
 #include "platform/linux/LinuxMountTable.h"
 #include "platform/linux/LinuxRegistry.h"
@@ -32,6 +33,7 @@ private:
     LinuxComputer m_computer;
     LinuxClock m_clock;
     LinuxApplication m_application;
+    LinuxDesktop m_desktop;
 };
 
 } // namespace zelto::linux_platform

@@ -19,7 +19,8 @@ Platform VirtualComputer::platform(Alerts& alerts) {
             .computer = files,
             .clock = clock,
             .alerts = alerts,
-            .application = application};
+            .application = application,
+            .desktop = desktop};
 }
 
 void VirtualComputer::advance(std::chrono::seconds duration) {
@@ -43,6 +44,7 @@ void VirtualComputer::settle() {
 void VirtualComputer::endProcess() {
     application.endProcess();
     usb.endProcess();
+    desktop.endProcess();
 }
 
 } // namespace zelto::simulator

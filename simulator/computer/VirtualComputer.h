@@ -4,6 +4,7 @@
 #include "simulator/computer/DriveOnBus.h"
 #include "simulator/computer/VirtualApplication.h"
 #include "simulator/computer/VirtualClock.h"
+#include "simulator/computer/VirtualDesktop.h"
 #include "simulator/computer/VirtualDiskTool.h"
 #include "simulator/computer/VirtualDisks.h"
 #include "simulator/computer/VirtualFiles.h"
@@ -52,6 +53,7 @@ public:
     VirtualMountTable mounts{disks};
     VirtualDiskTool diskTool{disks, mounts, log};
     VirtualFiles files{mounts, log};
+    VirtualDesktop desktop;
 };
 
 } // namespace zelto::simulator

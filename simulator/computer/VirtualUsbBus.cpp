@@ -94,10 +94,10 @@ void VirtualUsbBus::plug(const Device& device) {
         return;
     }
     device->powerUp(m_clock.worldTime());
-    const auto attachment = std::make_shared<Attachment>(
-        Attachment{.device = device,
-                   .location = ++m_lastLocation,
-                   .units = device->makeUnits([this] { return m_clock.worldTime(); })});
+    const auto attachment = std::make_shared<Attachment>(Attachment{
+        .device = device, .location = ++m_lastLocation, .units = device->makeUnits([this] {
+            return m_clock.worldTime();
+        })});
     m_attachments.push_back(attachment);
     notifyChanged();
     announce(UsbEvent::FirstMatch, attachment);

@@ -1,8 +1,8 @@
 #include "device/VendorRequest.h"
 #include "device/ZELTOctrl.h"
 #include "simulator/computer/VirtualComputer.h"
-#include "tests/support/OtherUsbDevices.h"
 #include "tests/support/FaultyDevice.h"
+#include "tests/support/OtherUsbDevices.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

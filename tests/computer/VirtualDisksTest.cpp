@@ -30,8 +30,7 @@ class VirtualDisksTest : public testing::Test {
 protected:
     bool erase(const std::string& disk, const std::string& label = "ZELTO TOOL") {
         const VirtualDisk* const found = m_computer.disks.find(disk);
-        return m_tool.eraseDisk(disk, found != nullptr ? found->identity() : DiskIdentity(),
-                                label);
+        return m_tool.eraseDisk(disk, found != nullptr ? found->identity() : DiskIdentity(), label);
     }
     /// The names of all entries of the registry, depth first, as a walk sees them; the properties
     /// of each go to `found`.

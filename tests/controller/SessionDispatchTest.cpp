@@ -214,13 +214,13 @@ TEST_F(FullLockTest, AFailureToSetTheClockIsReportedAndEndsTheApplication) {
     EXPECT_TRUE(hasQuit());
 }
 
-TEST_F(FullLockTest, AnUnreadableTimeStatusShowsNothing) {
+TEST_F(FullLockTest, AnUnreadableTimeStatusShowsNothingAndQuits) {
     plugExpiredDrive();
     forgeResult(TimeRequestCode, kIOReturnTimeout);
     start();
     EXPECT_THAT(messages(), IsEmpty());
     EXPECT_EQ(visibleWindow(), "");
-    EXPECT_FALSE(hasQuit());
+    EXPECT_TRUE(hasQuit());
 }
 
 } // namespace

@@ -177,8 +177,7 @@ TEST_F(SessionLogOffTest, AVolumeThatCannotBeClosedIsSaidAndKeepsTheDriveUnlocke
         {.bsdName = "vg-data", .below = mountedFrom("/media/user/PRIVATE"), .canBeClosed = false});
     press("UnlockingLogOff");
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_UNMOUNT")));
-    EXPECT_THAT(alerts.panels().front().detail.toStdString(),
-                testing::HasSubstr("vg-data"));
+    EXPECT_THAT(alerts.panels().front().detail.toStdString(), testing::HasSubstr("vg-data"));
     EXPECT_THAT(commands(), Not(Contains("TKVR21_Logout")));
     EXPECT_EQ(state(), SecurityState::StateUnlocking);
 }

@@ -151,9 +151,9 @@ TEST_P(SessionFaults, OfTheStartOpenAWindowOrSayThatTheDriveIsGone) {
            .act = [&] { start(); },
            .asks = "sDHT",
            .rows = {{0, "RLZS", {"AuthenticateWindow", {}, "DHT"}},
-                    {0, "G", {"", {notFound()}, "DA"}},
+                    {0, "G", {Quit, {notFound()}, "DA"}},
                     {1, "RLZS", {"MainSettingsWindow", {}, "ADHT"}},
-                    {1, "G", {"", {notFound()}, "A"}},
+                    {1, "G", {Quit, {notFound()}, "A"}},
                     {2, "RLZG", {"AuthenticateWindow", {}, ""}},
                     {2, "S", {"AuthenticateWindow", {}, "T"}},
                     {3, "RLZSG", {"AuthenticateWindow", {}, ""}}}});
@@ -171,7 +171,7 @@ TEST_P(SessionFaults, OfALogInKeepTheWindowOpenUnlessTheDriveIsGone) {
                     {0, "ZS", {"UnlockingWindow", {}, "D"}},
                     {0, "G", {Quit, {notFound()}, ""}},
                     {1, "RLZS", {"MainSettingsWindow", {}, "ADHT"}},
-                    {1, "G", {"", {notFound()}, "A"}}}});
+                    {1, "G", {Quit, {notFound()}, "A"}}}});
 }
 
 TEST_P(SessionFaults, OfTheSecondStepKeepTheWindowOpenUnlessTheDriveIsGone) {
@@ -261,10 +261,10 @@ TEST_P(SessionFaults, OfSettingTheClockOfAFullyLockedDriveEndTheProgram) {
            .act = [&] { start(); },
            .asks = "sDTC",
            .rows = {{0, "RLZS", {Quit, {offer, done}, "DTC"}},
-                    {0, "G", {"", {notFound()}, "DA"}},
+                    {0, "G", {Quit, {notFound()}, "DA"}},
                     {1, "RLZS", {"MainSettingsWindow", {}, "AD"}},
-                    {1, "G", {"", {notFound()}, "A"}},
-                    {2, "RLG", {"", {}, ""}},
+                    {1, "G", {Quit, {notFound()}, "A"}},
+                    {2, "RLG", {Quit, {}, ""}},
                     {2, "Z", {"MainSettingsWindow", {localized("IDS_ERR_ZELTO_DRIVE_LOST")}, "AD"}},
                     {2, "S", {Quit, {offer, done}, "C"}},
                     {3, "RL", {Quit, {offer, sense(0, 0, 0)}, "D"}},

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace zelto {
+
+/// The desktop session around the program. Each of its services is optional: where one is missing
+/// nothing is lost but the comfort, and nothing is reported.
+class Desktop {
+public:
+    /// Whatever it stands for ends when it goes.
+    using Hold = std::shared_ptr<void>;
+
+    Desktop() = default;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    virtual ~Desktop() = default;
+
+    /// Keeps the computer from going to sleep and from being shut down unasked, as long as the
+    /// result lives. `why` is shown to whoever asks what keeps it awake. May block for a fraction
+    /// of a second; null when the computer cannot be kept awake.
+    [[nodiscard]] virtual Hold keepAwake(const std::string& why) = 0;
+
+    /// Begins the session's one program. A copy of it that runs without a window and gives way is
+    /// ended first; blocks for a few seconds at most until it has let its drive go. `giveWay` is
+    /// called, from the run loop, when this copy gives way to a later one.
+    virtual void takePlace(std::function<void()> giveWay) = 0;
+    /// From now on a new start takes this copy's place.
+    virtual void giveWayToNewStart() = 0;
+
+    /// `mayEnd` is asked when the session is about to end; false asks the desktop to wait.
+    virtual void setSessionEndHandler(std::function<bool()> mayEnd) = 0;
+};
+
+} // namespace zelto
