@@ -1,4 +1,5 @@
 #include "ui/AlertPresenter.h"
+#include "ui/Forms.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -9,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace zelto::test {
 namespace {
@@ -75,6 +77,52 @@ TEST(AlertPresenterTest, ReturnPressesTheDefaultButtonEvenFromTheOtherOne) {
         }
     });
     EXPECT_EQ(button, AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, ReturnOnCancelCancelsAQuestionWhoseDefaultIsOk) {
+    AlertPanel panel = confirmation();
+    std::swap(panel.defaultButton, panel.alternateButton);
+    panel.onEscape = AlertButton::Alternate;
+    const auto returnOn = [](const QString& label) {
+        return [label](QMessageBox& box) {
+            for (QAbstractButton* each : box.buttons()) {
+                if (each->text() == label) {
+                    each->setFocus();
+                    QTest::keyClick(each, Qt::Key_Return);
+                    return;
+                }
+            }
+        };
+    };
+    EXPECT_EQ(answer(panel, returnOn(QStringLiteral("Cancel"))), AlertButton::Alternate);
+    EXPECT_EQ(answer(panel, returnOn(QStringLiteral("OK"))), AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, HasTheWeightOfItsNews) {
+    const std::pair<AlertWeight, QMessageBox::Icon> rows[] = {
+        {AlertWeight::Information, QMessageBox::Information},
+        {AlertWeight::Warning, QMessageBox::Warning},
+        {AlertWeight::Critical, QMessageBox::Critical}};
+    for (const auto& [weight, icon] : rows) {
+        AlertPanel panel = confirmation();
+        panel.weight = weight;
+        (void)answer(panel, [icon = icon](QMessageBox& box) {
+            EXPECT_EQ(box.icon(), icon);
+            box.reject();
+        });
+    }
+}
+
+TEST(AlertPresenterTest, BelongsToTheWindowOnTheScreenWhileAnotherProgramIsActive) {
+    Form<Ui::UnlockedWindow> hidden;
+    Form<Ui::AuthenticateWindow> form;
+    form.show();
+    QApplication::processEvents();
+    QApplication::setActiveWindow(nullptr);
+    (void)answer(confirmation(), [&form](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &form);
+        box.reject();
+    });
 }
 
 TEST(AlertPresenterTest, EscapePressesWhatThePanelSays) {

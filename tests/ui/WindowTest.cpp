@@ -44,6 +44,19 @@ TEST(WindowTest, StartsOnItsDefaultButtonWhenItHasNoField) {
     EXPECT_EQ(form.focusWidget(), form.UnlockedOK);
 }
 
+TEST(WindowTest, TheSettingsStartWhereNoKeyChangesAnything) {
+    Form<Ui::MainSettingsWindow> form;
+    form.AutoClearText->setEnabled(true);
+    form.AutoClearText->setText(QStringLiteral("30"));
+    form.centreAndMakeKeyAndOrderFront();
+    EXPECT_EQ(form.focusWidget(), form.AreaInfosTableView);
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Delete, Qt::Key_5, Qt::Key_Return}) {
+        QTest::keyClick(form.focusWidget(), key);
+    }
+    EXPECT_EQ(form.AutoClearText->text(), QStringLiteral("30"));
+    EXPECT_TRUE(form.isVisible());
+}
+
 TEST(WindowTest, GoesOffTheScreenWithoutAskingAnybody) {
     Form<Ui::UnlockedWindow> form;
     const QSignalSpy asked(&form, &Window::closeRequested);
@@ -84,6 +97,13 @@ TEST_F(ModalRun, EscapeAndTheTitleBarCancelIt) {
     EXPECT_EQ(run([this] { QTest::keyClick(&dialog, Qt::Key_Escape); }), Window::ModalCancel);
     EXPECT_EQ(run([this] { dialog.close(); }), Window::ModalCancel);
     EXPECT_EQ(asked.count(), 0);
+}
+
+TEST_F(ModalRun, ThatEndsBecauseTheApplicationDoesIsACancel) {
+    int code = Window::ModalOK;
+    QTimer::singleShot(0, &dialog, [&] { code = run([] { QCoreApplication::exit(); }); });
+    QApplication::exec();
+    EXPECT_EQ(code, Window::ModalCancel);
 }
 
 TEST_F(ModalRun, StandsOverItsParentAndIsFreeAgainAfterwards) {
