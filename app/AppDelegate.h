@@ -294,7 +294,11 @@ private:
     void reportRefusedChange(IOReturn result, const char* wrongPasswordKey);
 
     // settings/AppDelegate_MainSettings.cpp: the parts of opening the window, and what it holds.
+    void openMainSettingsWindow();
+    void refreshMainSettingsWindow();
     [[nodiscard]] bool readAreasForSettings();
+    [[nodiscard]] AreaView keepAreaView();
+    void showFreeCapacity(const AreaView& areas);
     void clearMainSettingsWindow();
     [[nodiscard]] bool showSecurityOf(SecurityOccasion occasion, const DeviceStatus& status);
     [[nodiscard]] bool showSecurityOfDrive(const DeviceStatus& status);

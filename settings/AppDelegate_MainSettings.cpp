@@ -10,32 +10,55 @@
 namespace zelto {
 void AppDelegate::DisplayMainSettingsWindow(bool refresh) {
     TextInputMode = TextInputModes::MainSettings;
-    if (!refresh && !readAreasForSettings()) {
+    if (refresh) {
+        refreshMainSettingsWindow();
+    } else {
+        openMainSettingsWindow();
+    }
+}
+
+void AppDelegate::openMainSettingsWindow() {
+    if (!readAreasForSettings()) {
         return;
     }
-    const AreaView areas = buildAreaView(Settings.AreaInfos, Settings.TotalSectorCount);
-    Settings.AreaInfosViewData = areas.rows;
-    const bool existedBefore = std::exchange(Settings.SecureAreaExist, areas.hasSecureArea);
-    if (!refresh && areas.hasSecureArea) {
+    const AreaView areas = keepAreaView();
+    if (areas.hasSecureArea) {
         Settings.SecureAreaAlreadyExist = true;
     }
+    Settings.SecureAreaExist = areas.hasSecureArea;
     // A status that cannot be read is all zero, and leaves the controls as for an open drive.
     const DeviceStatus status = readDeviceStatus(Device(), StatusRequest::Plain).record;
-    MainSettingsWindow.FreeCapacityText->setText(
-        localized("IDS_FREE_CAPACITY", mebibytesOfSectors(areas.freeSectors)));
-    const SecurityFacts facts{.isOpening = !refresh,
-                              .wasOnDrive = Settings.SecureAreaAlreadyExist,
-                              .existedBefore = existedBefore,
-                              .existsNow = Settings.SecureAreaExist,
-                              .state = status.state()};
-    if (!showSecurityOf(securityOccasion(facts), status)) {
+    showFreeCapacity(areas);
+    if (!showSecurityOf(occasionAtOpening(areas.hasSecureArea, status.state()), status)) {
         return;
     }
     reloadAreaTable(areas);
-    if (!refresh) {
-        MainSettingsWindow.centreAndMakeKeyAndOrderFront();
-    }
+    MainSettingsWindow.centreAndMakeKeyAndOrderFront();
     UpdateMainSettingsOKButton();
+}
+
+void AppDelegate::refreshMainSettingsWindow() {
+    const AreaView areas = keepAreaView();
+    const SecureAreas secure{.onDrive = Settings.SecureAreaAlreadyExist,
+                             .before = std::exchange(Settings.SecureAreaExist, areas.hasSecureArea),
+                             .now = areas.hasSecureArea};
+    // A status that cannot be read is all zero, and leaves the controls as for an open drive.
+    const DeviceStatus status = readDeviceStatus(Device(), StatusRequest::Plain).record;
+    showFreeCapacity(areas);
+    (void)showSecurityOf(occasionAfterAreaDialog(secure, status.state()), status);
+    reloadAreaTable(areas);
+    UpdateMainSettingsOKButton();
+}
+
+AreaView AppDelegate::keepAreaView() {
+    AreaView areas = buildAreaView(Settings.AreaInfos, Settings.TotalSectorCount);
+    Settings.AreaInfosViewData = areas.rows;
+    return areas;
+}
+
+void AppDelegate::showFreeCapacity(const AreaView& areas) {
+    MainSettingsWindow.FreeCapacityText->setText(
+        localized("IDS_FREE_CAPACITY", mebibytesOfSectors(areas.freeSectors)));
 }
 
 bool AppDelegate::readAreasForSettings() {

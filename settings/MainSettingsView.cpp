@@ -2,15 +2,18 @@
 
 namespace zelto {
 
-SecurityOccasion securityOccasion(const SecurityFacts& facts) {
-    if (!facts.existsNow || facts.state == SecurityState::StateFullLock) {
+SecurityOccasion occasionAtOpening(bool hasSecureArea, SecurityState state) {
+    return hasSecureArea && state != SecurityState::StateFullLock
+               ? SecurityOccasion::SecureDriveOpened
+               : SecurityOccasion::NothingToSecure;
+}
+
+SecurityOccasion occasionAfterAreaDialog(const SecureAreas& secure, SecurityState state) {
+    if (!secure.now || state == SecurityState::StateFullLock) {
         return SecurityOccasion::NothingToSecure;
     }
-    if (facts.isOpening) {
-        return SecurityOccasion::SecureDriveOpened;
-    }
-    return facts.wasOnDrive || facts.existedBefore ? SecurityOccasion::SecureAreaKept
-                                                   : SecurityOccasion::FirstSecureAreaLaidOut;
+    return secure.onDrive || secure.before ? SecurityOccasion::SecureAreaKept
+                                           : SecurityOccasion::FirstSecureAreaLaidOut;
 }
 
 SecurityView withoutDrive(SecurityView shown) {

@@ -46,17 +46,16 @@ enum class SecurityOccasion : std::uint8_t {
     SecureAreaKept,
 };
 
-/// What is known when the areas are shown.
-struct SecurityFacts {
-    /// The window opens; false: the area dialog was confirmed.
-    bool isOpening = false;
-    bool wasOnDrive = false;
-    bool existedBefore = false;
-    bool existsNow = false;
-    SecurityState state = SecurityState::StateNoPassword;
+/// What is known of secure areas when the area dialog was confirmed.
+struct SecureAreas {
+    bool onDrive = false;
+    bool before = false;
+    bool now = false;
 };
 
-[[nodiscard]] SecurityOccasion securityOccasion(const SecurityFacts& facts);
+[[nodiscard]] SecurityOccasion occasionAtOpening(bool hasSecureArea, SecurityState state);
+[[nodiscard]] SecurityOccasion occasionAfterAreaDialog(const SecureAreas& secure,
+                                                       SecurityState state);
 
 // Each of these takes the controls as they are shown and gives them as they are shown next.
 

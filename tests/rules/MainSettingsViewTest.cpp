@@ -7,37 +7,39 @@ namespace {
 
 using State = SecurityState;
 
+TEST(SecurityOccasion, AtOpeningFollowsFromTheDrivesAreasAndItsState) {
+    EXPECT_EQ(occasionAtOpening(false, State::StateNoPassword), SecurityOccasion::NothingToSecure);
+    EXPECT_EQ(occasionAtOpening(true, State::StateUnlocking), SecurityOccasion::SecureDriveOpened);
+    EXPECT_EQ(occasionAtOpening(true, State::StateNoPassword), SecurityOccasion::SecureDriveOpened);
+    EXPECT_EQ(occasionAtOpening(true, State::StateFullLock), SecurityOccasion::NothingToSecure);
+}
+
 struct OccasionCase {
     int line;
-    SecurityFacts facts;
+    SecureAreas secure;
+    SecurityState state;
     SecurityOccasion expected;
 };
 
 constexpr OccasionCase OccasionCases[] = {
-    // The window opens.
-    {__LINE__, {.isOpening = true}, SecurityOccasion::NothingToSecure},
+    {__LINE__, {}, State::StateNoPassword, SecurityOccasion::NothingToSecure},
+    {__LINE__, {.now = true}, State::StateNoPassword, SecurityOccasion::FirstSecureAreaLaidOut},
     {__LINE__,
-     {.isOpening = true, .wasOnDrive = true, .existsNow = true, .state = State::StateUnlocking},
-     SecurityOccasion::SecureDriveOpened},
+     {.before = true, .now = true},
+     State::StateNoPassword,
+     SecurityOccasion::SecureAreaKept},
     {__LINE__,
-     {.isOpening = true, .wasOnDrive = true, .existsNow = true, .state = State::StateFullLock},
-     SecurityOccasion::NothingToSecure},
-    {__LINE__,
-     {.isOpening = true, .wasOnDrive = true, .existedBefore = true, .existsNow = true},
-     SecurityOccasion::SecureDriveOpened},
-    // The area dialog was confirmed.
-    {__LINE__, {.existsNow = true}, SecurityOccasion::FirstSecureAreaLaidOut},
-    {__LINE__, {.existedBefore = true, .existsNow = true}, SecurityOccasion::SecureAreaKept},
-    {__LINE__, {.wasOnDrive = true, .existsNow = true}, SecurityOccasion::SecureAreaKept},
-    {__LINE__, {.existedBefore = true}, SecurityOccasion::NothingToSecure},
-    {__LINE__,
-     {.existsNow = true, .state = State::StateFullLock},
-     SecurityOccasion::NothingToSecure},
+     {.onDrive = true, .now = true},
+     State::StateNoPassword,
+     SecurityOccasion::SecureAreaKept},
+    {__LINE__, {.before = true}, State::StateNoPassword, SecurityOccasion::NothingToSecure},
+    {__LINE__, {.now = true}, State::StateFullLock, SecurityOccasion::NothingToSecure},
 };
 
-TEST(SecurityOccasion, FollowsFromTheAreasAndTheState) {
+TEST(SecurityOccasion, AfterTheAreaDialogFollowsFromWhatHasChanged) {
     for (const OccasionCase& row : OccasionCases) {
-        EXPECT_EQ(securityOccasion(row.facts), row.expected) << "line " << row.line;
+        EXPECT_EQ(occasionAfterAreaDialog(row.secure, row.state), row.expected)
+            << "line " << row.line;
     }
 }
 
