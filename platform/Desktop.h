@@ -7,7 +7,7 @@
 namespace zelto {
 
 /// The desktop session around the program. Each of its services is optional: where one is missing
-/// nothing is lost but the comfort, and nothing is reported.
+/// nothing is lost but the comfort, and nothing is reported. This one here has none of them.
 class Desktop {
 public:
     /// Whatever it stands for ends when it goes.
@@ -21,17 +21,17 @@ public:
     /// Keeps the computer from going to sleep and from being shut down unasked, as long as the
     /// result lives. `why` is shown to whoever asks what keeps it awake. May block for a fraction
     /// of a second; null when the computer cannot be kept awake.
-    [[nodiscard]] virtual Hold keepAwake(const std::string& why) = 0;
+    [[nodiscard]] virtual Hold keepAwake(const std::string& /*why*/) { return nullptr; }
 
     /// Begins the session's one program. A copy of it that runs without a window and gives way is
     /// ended first; blocks for a few seconds at most until it has let its drive go. `giveWay` is
     /// called, from the run loop, when this copy gives way to a later one.
-    virtual void takePlace(std::function<void()> giveWay) = 0;
+    virtual void takePlace(std::function<void()> /*giveWay*/) {}
     /// From now on a new start takes this copy's place.
-    virtual void giveWayToNewStart() = 0;
+    virtual void giveWayToNewStart() {}
 
     /// `mayEnd` is asked when the session is about to end; false asks the desktop to wait.
-    virtual void setSessionEndHandler(std::function<bool()> mayEnd) = 0;
+    virtual void setSessionEndHandler(std::function<bool()> /*mayEnd*/) {}
 };
 
 } // namespace zelto

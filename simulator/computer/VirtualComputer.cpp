@@ -20,7 +20,7 @@ Platform VirtualComputer::platform(Alerts& alerts) {
             .clock = clock,
             .alerts = alerts,
             .application = application,
-            .desktop = desktop};
+            .desktop = *desktop};
 }
 
 void VirtualComputer::advance(std::chrono::seconds duration) {
@@ -44,7 +44,6 @@ void VirtualComputer::settle() {
 void VirtualComputer::endProcess() {
     application.endProcess();
     usb.endProcess();
-    desktop.endProcess();
 }
 
 } // namespace zelto::simulator

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/Desktop.h"
 #include "platform/Platform.h"
 #include "simulator/computer/DriveOnBus.h"
 #include "simulator/computer/VirtualApplication.h"
 #include "simulator/computer/VirtualClock.h"
-#include "simulator/computer/VirtualDesktop.h"
 #include "simulator/computer/VirtualDiskTool.h"
 #include "simulator/computer/VirtualDisks.h"
 #include "simulator/computer/VirtualFiles.h"
@@ -53,7 +53,8 @@ public:
     VirtualMountTable mounts{disks};
     VirtualDiskTool diskTool{disks, mounts, log};
     VirtualFiles files{mounts, log};
-    VirtualDesktop desktop;
+    /// A bare session, until somebody puts another one here.
+    std::shared_ptr<Desktop> desktop = std::make_shared<Desktop>();
 };
 
 } // namespace zelto::simulator

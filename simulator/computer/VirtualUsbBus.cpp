@@ -1,6 +1,6 @@
 #include "simulator/computer/VirtualUsbBus.h"
 
-#include "simulator/computer/LoggedDevice.h"
+#include "simulator/computer/ForwardingDevice.h"
 #include "simulator/usb/UsbDescriptors.h"
 
 #include <algorithm>
@@ -10,6 +10,7 @@ namespace zelto::simulator {
 namespace {
 
 constexpr std::uint8_t StandardToHost = 0x80;
+constexpr std::uint8_t VendorToDevice = 0x40;
 constexpr std::uint8_t GetDescriptor = 6;
 constexpr std::uint8_t StringDescriptor = 3;
 
@@ -60,6 +61,37 @@ private:
     VirtualUsbBus& m_bus;
     std::shared_ptr<Attachment> m_attachment;
     UsbDescription m_description;
+};
+
+/// The outermost layer of every handle that the program gets: notes each request and how it ended
+/// for the program, whether or not a drive has heard it.
+class LoggedDevice : public ForwardingDevice {
+public:
+    LoggedDevice(std::unique_ptr<UsbDeviceInterface> device, EventLog& log, std::string serial)
+        : ForwardingDevice(std::move(device)), m_log(log), m_serial(std::move(serial)) {}
+
+    [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override {
+        const bool isVendor = (request.bmRequestType & VendorToDevice) != 0;
+        const bool isToHost = (request.bmRequestType & StandardToHost) != 0;
+        LogLine line{.kind = isVendor ? LogLine::Kind::Command : LogLine::Kind::StandardRequest,
+                     .text = isVendor ? commandName(request) : "standard request",
+                     .serial = m_serial};
+        if (!isToHost && request.pData != nullptr) {
+            line.data.assign(request.pData, request.pData + request.wLength);
+        }
+        line.result = ForwardingDevice::DeviceRequest(request);
+        if (isToHost && line.result == kIOReturnSuccess && request.pData != nullptr) {
+            line.data.assign(request.pData, request.pData + request.wLenDone);
+        }
+        line.setup = request;
+        line.setup.pData = nullptr;
+        m_log.note(line);
+        return line.result;
+    }
+
+private:
+    EventLog& m_log;
+    std::string m_serial;
 };
 
 class Service : public UsbService {

@@ -4,13 +4,12 @@
 #include "ui/Strings.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <optional>
-#include <string_view>
 
 namespace {
 
@@ -26,36 +25,9 @@ Without a display the stories play. The exit code is 1 when a check of a story f
 the command line is not understood.
 )";
 
-struct CommandLine {
-    bool story = false;
-    bool help = false;
-    std::filesystem::path pictures;
-};
-
-/// Nothing when it is not understood.
-std::optional<CommandLine> parse(int argc, char** argv) {
-    CommandLine line;
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view argument = argv[i];
-        if (argument == "--help" || argument == "-h") {
-            line.help = true;
-        } else if (argument == "--story") {
-            line.story = true;
-        } else if (argument == "--pictures" && i + 1 < argc) {
-            line.pictures = argv[++i];
-        } else {
-            return std::nullopt;
-        }
-    }
-    return line;
-}
-
 bool hasDisplay() {
-    const auto isSet = [](const char* name) {
-        const char* const value = std::getenv(name);
-        return value != nullptr && *value != '\0';
-    };
-    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
 /// The offscreen platform remarks on every window that it cannot raise; the rest is printed.
@@ -109,15 +81,17 @@ int showWindows(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::optional<CommandLine> line = parse(argc, argv);
-    if (!line) {
+    QCommandLineParser line;
+    line.addOptions({{{"h", "help"}, {}}, {"story", {}}, {"pictures", {}, "DIR"}});
+    if (!line.parse(QStringList(argv, argv + argc)) || !line.positionalArguments().isEmpty()) {
         std::fputs(Help, stderr);
         return 2;
     }
-    if (line->help) {
+    if (line.isSet("help")) {
         std::fputs(Help, stdout);
         return EXIT_SUCCESS;
     }
-    return line->story || !hasDisplay() ? playStories(argc, argv, line->pictures)
-                                        : showWindows(argc, argv);
+    return line.isSet("story") || !hasDisplay()
+               ? playStories(argc, argv, line.value("pictures").toStdString())
+               : showWindows(argc, argv);
 }

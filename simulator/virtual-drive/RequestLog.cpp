@@ -110,12 +110,9 @@ std::string encryptionRecord(const SetupPacket& setup, Bytes data) {
     return text + (data.size() == ClearSize ? " clear" : "");
 }
 
-std::string erasePeriod(const SetupPacket& setup, Bytes /*data*/) {
+/// Of either kind; the shorter one leaves wIndex at 0.
+std::string period(const SetupPacket& setup, Bytes /*data*/) {
     return format(" seconds=%lu", static_cast<unsigned long>(setup.wIndex) << 16 | setup.wValue);
-}
-
-std::string idleLockPeriod(const SetupPacket& setup, Bytes /*data*/) {
-    return format(" seconds=%u", unsigned{setup.wValue});
 }
 
 std::string hintData(const SetupPacket& setup, Bytes data) {
@@ -142,8 +139,8 @@ constexpr std::array Tellers{
     Teller{VendorRequest::WriteHintData, &hintData},
     Teller{VendorRequest::GetTimeStatus, &timeStatus},
     Teller{VendorRequest::SetCurrentTime, &currentTime},
-    Teller{VendorRequest::SetErasePeriod, &erasePeriod},
-    Teller{VendorRequest::SetIdleLockPeriod, &idleLockPeriod},
+    Teller{VendorRequest::SetErasePeriod, &period},
+    Teller{VendorRequest::SetIdleLockPeriod, &period},
     Teller{VendorRequest::GetDeviceStatus, &deviceStatus},
     Teller{VendorRequest::Reconnect, &reconnect},
     Teller{VendorRequest::GetAreaInfos, &areaTable},

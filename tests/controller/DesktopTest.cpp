@@ -1,3 +1,4 @@
+#include "tests/support/ScriptedDesktop.h"
 #include "tests/support/SettingsBench.h"
 
 #include <gmock/gmock.h>
@@ -11,12 +12,16 @@ using testing::IsEmpty;
 /// What the program asks of the desktop around it.
 class DesktopTest : public SettingsBench {
 protected:
-    [[nodiscard]] bool isAwake() const { return computer.desktop.isKeptAwake(); }
+    DesktopTest() { computer.desktop = desktop; }
+
+    [[nodiscard]] bool isAwake() const { return desktop->isKeptAwake(); }
     void answerStatusWith(std::uint8_t security) {
         constexpr std::uint8_t StatusRequestCode = 0xC0;
         forge(StatusRequestCode,
               [security](ForgedReplies::Reply& reply) { reply.data[33] = security; });
     }
+
+    std::shared_ptr<ScriptedDesktop> desktop = std::make_shared<ScriptedDesktop>();
 };
 
 TEST_F(DesktopTest, TheComputerStaysAwakeUntilASetUpIsFinished) {
@@ -91,12 +96,12 @@ TEST_F(DesktopTest, TheComputerStaysAwakeWhilePasswordsAreChangedWhateverTheDriv
 
 TEST_F(DesktopTest, TheSessionDoesNotEndDuringASetUp) {
     begin();
-    EXPECT_TRUE(computer.desktop.endSession());
+    EXPECT_TRUE(desktop->endSession());
     fill({});
     commit();
-    EXPECT_FALSE(computer.desktop.endSession());
+    EXPECT_FALSE(desktop->endSession());
     tick(20);
-    EXPECT_TRUE(computer.desktop.endSession());
+    EXPECT_TRUE(desktop->endSession());
 }
 
 TEST_F(DesktopTest, AProgramWithoutAWindowGivesWayToANewStart) {
@@ -106,7 +111,7 @@ TEST_F(DesktopTest, AProgramWithoutAWindowGivesWayToANewStart) {
         start();
         EXPECT_EQ(visibleWindow(), "");
         EXPECT_FALSE(hasQuit()) << "the program stays, until";
-        EXPECT_TRUE(computer.desktop.startAgain());
+        EXPECT_TRUE(desktop->startAgain());
         EXPECT_TRUE(hasQuit());
         putAway();
     }
@@ -115,7 +120,7 @@ TEST_F(DesktopTest, AProgramWithoutAWindowGivesWayToANewStart) {
 TEST_F(DesktopTest, AProgramWithAWindowDoesNotGiveWay) {
     drive = plugPreparedDrive();
     start();
-    EXPECT_FALSE(computer.desktop.startAgain());
+    EXPECT_FALSE(desktop->startAgain());
     EXPECT_FALSE(hasQuit());
 }
 

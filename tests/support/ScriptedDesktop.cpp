@@ -1,25 +1,24 @@
-#include "simulator/computer/VirtualDesktop.h"
+#include "tests/support/ScriptedDesktop.h"
 
 #include <utility>
 
-namespace zelto::simulator {
+namespace zelto::test {
 
-Desktop::Hold VirtualDesktop::keepAwake(const std::string& why) {
-    m_reasons.push_back(why);
+Desktop::Hold ScriptedDesktop::keepAwake(const std::string& /*why*/) {
     ++m_holds;
-    return {this, [](void* desktop) { --static_cast<VirtualDesktop*>(desktop)->m_holds; }};
+    return {this, [](void* desktop) { --static_cast<ScriptedDesktop*>(desktop)->m_holds; }};
 }
 
-void VirtualDesktop::takePlace(std::function<void()> giveWay) {
+void ScriptedDesktop::takePlace(std::function<void()> giveWay) {
     m_giveWay = std::move(giveWay);
     m_givesWay = false;
 }
 
-void VirtualDesktop::setSessionEndHandler(std::function<bool()> mayEnd) {
+void ScriptedDesktop::setSessionEndHandler(std::function<bool()> mayEnd) {
     m_mayEnd = std::move(mayEnd);
 }
 
-bool VirtualDesktop::startAgain() {
+bool ScriptedDesktop::startAgain() {
     if (!m_givesWay || !m_giveWay) {
         return false;
     }
@@ -27,14 +26,14 @@ bool VirtualDesktop::startAgain() {
     return true;
 }
 
-bool VirtualDesktop::endSession() const {
+bool ScriptedDesktop::endSession() const {
     return !m_mayEnd || m_mayEnd();
 }
 
-void VirtualDesktop::endProcess() {
+void ScriptedDesktop::endProcess() {
     m_giveWay = nullptr;
     m_mayEnd = nullptr;
     m_givesWay = false;
 }
 
-} // namespace zelto::simulator
+} // namespace zelto::test

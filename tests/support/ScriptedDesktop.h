@@ -2,14 +2,14 @@
 
 #include "platform/Desktop.h"
 
+#include <functional>
 #include <string>
-#include <vector>
 
-namespace zelto::simulator {
+namespace zelto::test {
 
 /// A desktop session with one program in it. It counts what keeps the computer awake; a new start
 /// and the session's end are told by whoever plays the world.
-class VirtualDesktop : public Desktop {
+class ScriptedDesktop : public Desktop {
 public:
     [[nodiscard]] Hold keepAwake(const std::string& why) override;
     void takePlace(std::function<void()> giveWay) override;
@@ -18,8 +18,6 @@ public:
 
     /// Something keeps the computer awake.
     [[nodiscard]] bool isKeptAwake() const { return m_holds > 0; }
-    /// Why it was kept awake so far, in order.
-    [[nodiscard]] const std::vector<std::string>& reasons() const { return m_reasons; }
 
     /// The user starts the program once more. True when the running copy has given way.
     bool startAgain();
@@ -29,11 +27,10 @@ public:
     void endProcess();
 
 private:
-    std::vector<std::string> m_reasons;
     int m_holds = 0;
     bool m_givesWay = false;
     std::function<void()> m_giveWay;
     std::function<bool()> m_mayEnd;
 };
 
-} // namespace zelto::simulator
+} // namespace zelto::test
