@@ -75,6 +75,7 @@ private:
 int spawn(std::vector<std::string> command) {
     const ChildSetUp setUp;
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (auto& argument : command) {
         arguments.push_back(argument.data());
     }
