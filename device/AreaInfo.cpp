@@ -63,6 +63,10 @@ std::size_t AreaInfoTable::entryCount() const {
     return std::min<std::size_t>(claimedEntryCount(), Capacity);
 }
 
+std::size_t AreaInfoTable::coveredEntryCount() const {
+    return get<std::uint16_t>(m_bytes, DataLength) < CountedHeader ? 0 : entryCount();
+}
+
 std::uint64_t AreaInfoTable::totalSectorCount() const {
     return get(m_bytes, TotalSectors);
 }

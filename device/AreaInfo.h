@@ -54,6 +54,9 @@ public:
     [[nodiscard]] std::uint16_t claimedEntryCount() const;
     /// The claimed count, cut to what the buffer holds.
     [[nodiscard]] std::size_t entryCount() const;
+    /// The same, but none of a length that does not even cover the header: what the settings show.
+    /// Log-off goes by the claimed count, so that no secure area is missed.
+    [[nodiscard]] std::size_t coveredEntryCount() const;
 
     /// Sectors of the whole drive.
     [[nodiscard]] std::uint64_t totalSectorCount() const;

@@ -22,7 +22,7 @@ bool isNeverPartitioned(const AreaInfoTable& table) {
 
 AreaView buildAreaView(const AreaInfoTable& table, std::uint64_t totalSectors) {
     AreaView view{.rows = {}, .freeSectors = totalSectors};
-    const std::size_t count = table.entryCount();
+    const std::size_t count = table.coveredEntryCount();
     view.rows.areaCount =
         static_cast<std::uint16_t>(std::min<std::size_t>(count, _tagAreaInfosViewData::Capacity));
     for (std::size_t index = 0; index < count; ++index) {

@@ -23,7 +23,7 @@ SecurityView withoutDrive(SecurityView shown) {
     return shown;
 }
 
-SecurityView switchedOff(SecurityView shown) {
+SecurityView switchedOff(const SecurityView& shown) {
     return {.keyOrigin = shown.keyOrigin,
             .keyErasureEnabled = shown.keyErasureEnabled,
             .remainingTimeEnabled = shown.remainingTimeEnabled,

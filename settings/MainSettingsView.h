@@ -62,7 +62,7 @@ struct SecureAreas {
 /// Before the drive has been read.
 [[nodiscard]] SecurityView withoutDrive(SecurityView shown);
 /// Nothing to secure: all is off and empty. What was chosen for the log-in window stays.
-[[nodiscard]] SecurityView switchedOff(SecurityView shown);
+[[nodiscard]] SecurityView switchedOff(const SecurityView& shown);
 /// A secure area has just been laid out: everything is offered, nothing is on.
 [[nodiscard]] SecurityView offeredForFirstSecureArea(SecurityView shown);
 /// A drive that was set up. Its key is erased or replaced as a whole, never changed.

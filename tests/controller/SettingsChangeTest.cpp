@@ -274,6 +274,21 @@ TEST_F(ChangeSettings, AnAreaListThatCannotBeReadOpensNothing) {
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
 }
 
+TEST_F(ChangeSettings, AnAreaTableShorterThanItsHeaderShowsNoRows) {
+    for (std::uint8_t length = 0; length < 10; ++length) {
+        drive = plugPreparedDrive({.areas = {{.mebibytes = 16}}});
+        constexpr std::uint8_t AreasRequestCode = 0xC2;
+        forge(AreasRequestCode, [length](ForgedReplies::Reply& reply) {
+            reply.data[0] = 0;
+            reply.data[1] = length;
+        });
+        startWithDrive();
+        EXPECT_TRUE(app().MainSettingsWindow.isVisible()) << int{length};
+        EXPECT_EQ(app().numberOfRowsInTableView(), 0) << int{length};
+        putAway();
+    }
+}
+
 TEST_F(ChangeSettings, ATimeStatusThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
     app().MainSettingsWindow.orderOut();
