@@ -6,9 +6,6 @@
 namespace zelto::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 /// What the program asks of the desktop around it.
 class DesktopTest : public SettingsBench {
 protected:

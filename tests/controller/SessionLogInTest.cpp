@@ -188,6 +188,26 @@ TEST_F(SessionLogInTest, ShowsTheRemainingTimeWhenTheUserChoseSoAndAPeriodRuns) 
     EXPECT_TRUE(text("AuthenticateRemainingTimeText").startsWith(u"1 "));
 }
 
+TEST_F(SessionLogInTest, ShowsTheRemainingTimeOnItsSecondOpeningToo) {
+    begin({.secondPassword = "second", .autoClearSeconds = 90061, .showsRemainingTime = true});
+    const QString caption = text("AuthenticateRemainingTimeTitleText");
+    tick();
+    logInWith("first");
+    ASSERT_EQ(text("AuthenticateMessage"), localized("IDS_ENTER_2ND_PASSWORD"));
+    EXPECT_EQ(text("AuthenticateRemainingTimeTitleText"), caption);
+    EXPECT_EQ(text("AuthenticateRemainingTimeText"), QString()) << "until the next tick";
+    tick();
+    EXPECT_TRUE(text("AuthenticateRemainingTimeText").startsWith(u"1 "));
+}
+
+TEST_F(SessionLogInTest, AnUnknownTextInputModeRoutesNowhere) {
+    begin();
+    app().TextInputMode = 7;
+    type("AuthenticateTextField", "first");
+    EXPECT_FALSE(isEnabled("AuthenticateSubmit"));
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
 TEST_F(SessionLogInTest, ShowsNoRemainingTimeWithoutTheChoice) {
     begin({.autoClearSeconds = 90061, .showsRemainingTime = false});
     EXPECT_EQ(text("AuthenticateRemainingTimeTitleText"), QString());

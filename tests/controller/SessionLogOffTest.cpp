@@ -147,6 +147,15 @@ TEST_F(SessionLogOffTest, ClosingTheUnlockedWindowLeavesTheDriveUnlocked) {
     EXPECT_EQ(state(), SecurityState::StateUnlocking);
 }
 
+TEST_F(SessionLogOffTest, ADriveWithoutVolumesHasAnEmptyList) {
+    beginUnlocked();
+    g_BsdNameList = {"left from before"};
+    unplug(m_drive);
+    computer.settle();
+    app().GetBsdNameList(0);
+    EXPECT_THAT(g_BsdNameList, IsEmpty());
+}
+
 // --- Volumes that stand on the drive's ---------------------------------------------------------
 
 TEST_F(SessionLogOffTest, AnEncryptedVolumeInTheSecureAreaIsClosedBeforeTheDriveLocks) {

@@ -9,7 +9,6 @@ using simulator::ToolBehaviour;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 const std::filesystem::path OnVolume = "/media/user/ZELTO TOOL/ZeltoAppMac.app";
 const std::filesystem::path Copy = "/home/user/Applications/ZeltoAppMac.app";

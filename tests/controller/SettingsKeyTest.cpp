@@ -51,6 +51,20 @@ TEST_F(EraseKey, ALockedDriveIsRefusedAfterTheStatusRead) {
     EXPECT_FALSE(hasQuit());
 }
 
+TEST_F(EraseKey, ABusyVolumeIsSaidAndTheProgramEndsWithTheDriveUnlocked) {
+    drive = plugPreparedDrive();
+    start();
+    logIn(QStringLiteral("first"));
+    openSettingsOfUnlockedDrive();
+    computer.diskTool.setBehaviour(DiskVerb::Eject, ToolBehaviour::Fails);
+    eraseAnsweringYes();
+    EXPECT_EQ(messages().back(), localized("IDS_ERR_UNMOUNT"));
+    EXPECT_EQ(computer.log.count("TKVR21_Logout"), 0U);
+    EXPECT_EQ(latest("TKVR21_ZELTO_SetErasePeriod").setup.wValue, 1);
+    EXPECT_EQ(driveState(), SecurityState::StateUnlocking);
+    EXPECT_TRUE(hasQuit());
+}
+
 TEST_F(EraseKey, EachFailedCommandIsReportedOnceAndStopsIt) {
     for (const char* command : {"TKVR21_GetDeviceStatus", "TKVR21_ZELTO_SetErasePeriod"}) {
         beginWithSettingsOf({});
@@ -102,6 +116,21 @@ TEST_F(ClearAll, AnUnlockedDriveRefusesTheResetIsLoggedOutClearedAndReset) {
     EXPECT_EQ(latest("TKVR21_ClearEncryptionInfo").setup.wValue, 2);
     EXPECT_TRUE(hasQuit());
     EXPECT_EQ(messages().size(), 1u);
+}
+
+TEST_F(ClearAll, ASecondRefusalOfTheResetIsReportedAndTheProgramStays) {
+    beginWithSettingsOf({});
+    int resets = 0;
+    plan->failWhen(
+        [&resets](const IOUSBDevRequest& request) {
+            return simulator::commandName(request) == "TKVR21_ResetAreaInfos" && ++resets == 2;
+        },
+        {});
+    clearAnsweringYes();
+    EXPECT_EQ(computer.log.count("TKVR21_ResetAreaInfos"), 2U);
+    EXPECT_EQ(commands().back(), "TKVR21_GetDeviceStatus") << "for the sense bytes";
+    EXPECT_EQ(messages().size(), 2U);
+    EXPECT_FALSE(hasQuit());
 }
 
 TEST_F(ClearAll, ADriveWithoutSecureAreaIsResetAtOnce) {

@@ -285,6 +285,36 @@ TEST_F(FirstTimeSetup, AVolumeThatCannotBeClosedStopsItBeforeAnythingIsSent) {
     EXPECT_THAT(commands(), IsEmpty());
 }
 
+TEST_F(FirstTimeSetup, VolumesThatWereUnmountedStaySoAfterAFailure) {
+    begin();
+    setUpAndStartAgain({.secureDisk = 0});
+    app().Settings.InitialSetting = true;
+    app().Changed.AreaSettingsPerformed = true;
+    app().UpdateMainSettingsOKButton();
+    const auto mountedBefore = computer.mounts.getmntinfo().size();
+    failCommand("TKVR21_SetAreaInfos", {});
+    commit();
+    EXPECT_LT(computer.mounts.getmntinfo().size(), mountedBefore);
+    tick(3);
+    EXPECT_LT(computer.mounts.getmntinfo().size(), mountedBefore);
+    EXPECT_TRUE(okIsEnabled());
+}
+
+TEST_F(FirstTimeSetup, ARetryWithTheDialogsOwnLayoutSucceeds) {
+    begin();
+    layOut({.secureDisk = 0});
+    failCommand("TKVR21_SetAreaInfos", {});
+    commit();
+    plan->clear();
+    // Opened and confirmed as it stands: the sizes that were typed before.
+    inDialog("AreaSettingsButton", "AreaSettingsWindow", [&] { press("AreaSettingsOKButton"); });
+    commit();
+    EXPECT_EQ(latest("TKVR21_SetAreaInfos").data.size(), 40U);
+    tick(10);
+    EXPECT_EQ(app().Setup.InitialSettingState, 4);
+    EXPECT_FALSE(hasQuit());
+}
+
 TEST_F(FirstTimeSetup, ABusyVolumeStopsItBeforeAnythingIsSent) {
     begin();
     setUpAndStartAgain({.secureDisk = 0});
