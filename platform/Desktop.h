@@ -26,12 +26,12 @@ public:
     /// Begins the session's one program. A copy of it that runs without a window and gives way is
     /// ended first; blocks for a few seconds at most until it has let its drive go. `giveWay` is
     /// called, from the run loop, when this copy gives way to a later one.
-    virtual void takePlace(std::function<void()> /*giveWay*/) {}
+    virtual void takePlace(const std::function<void()>& /*giveWay*/) {}
     /// From now on a new start takes this copy's place.
     virtual void giveWayToNewStart() {}
 
     /// `mayEnd` is asked when the session is about to end; false asks the desktop to wait.
-    virtual void setSessionEndHandler(std::function<bool()> /*mayEnd*/) {}
+    virtual void setSessionEndHandler(const std::function<bool()>& /*mayEnd*/) {}
 };
 
 } // namespace zelto

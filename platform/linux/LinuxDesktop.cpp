@@ -50,7 +50,7 @@ Desktop::Hold LinuxDesktop::keepAwake(const std::string& why) {
     return std::make_shared<QDBusUnixFileDescriptor>(reply.value());
 }
 
-void LinuxDesktop::takePlace(std::function<void()> giveWay) {
+void LinuxDesktop::takePlace(const std::function<void()>& giveWay) {
     QDBusConnectionInterface* const bus = m_sessionBus().interface();
     if (bus == nullptr) {
         return;
@@ -63,7 +63,7 @@ void LinuxDesktop::takePlace(std::function<void()> giveWay) {
         return;
     }
     m_nameLost = QObject::connect(bus, &QDBusConnectionInterface::serviceUnregistered, bus,
-                                  [giveWay = std::move(giveWay)](const QString& name) {
+                                  [giveWay](const QString& name) {
                                       if (name == ProgramName) {
                                           giveWay();
                                       }
@@ -92,14 +92,14 @@ void LinuxDesktop::giveWayToNewStart() {
     }
 }
 
-void LinuxDesktop::setSessionEndHandler(std::function<bool()> mayEnd) {
+void LinuxDesktop::setSessionEndHandler(const std::function<bool()>& mayEnd) {
     auto* const application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
     if (application == nullptr) {
         return;
     }
     m_sessionEnd = QObject::connect(
         application, &QGuiApplication::commitDataRequest, application,
-        [mayEnd = std::move(mayEnd)](QSessionManager& session) {
+        [mayEnd](QSessionManager& session) {
             if (!mayEnd()) {
                 session.cancel();
             }

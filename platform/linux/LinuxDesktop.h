@@ -21,9 +21,9 @@ public:
     ~LinuxDesktop() override;
 
     [[nodiscard]] Hold keepAwake(const std::string& why) override;
-    void takePlace(std::function<void()> giveWay) override;
+    void takePlace(const std::function<void()>& giveWay) override;
     void giveWayToNewStart() override;
-    void setSessionEndHandler(std::function<bool()> mayEnd) override;
+    void setSessionEndHandler(const std::function<bool()>& mayEnd) override;
 
 private:
     void waitForEndOf(const QString& connectionName);

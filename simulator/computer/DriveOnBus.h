@@ -23,8 +23,9 @@ public:
     [[nodiscard]] bool takeReconnect() override { return m_drive->takeReconnect(); }
     [[nodiscard]] std::size_t unitCount() const override { return VirtualDrive::UnitCount; }
     [[nodiscard]] std::string unitName(std::size_t unit) const override;
-    [[nodiscard]] std::unique_ptr<UnitStorage> makeUnits(std::function<Moment()> clock) override {
-        return std::make_unique<DriveUnits>(*m_drive, std::move(clock));
+    [[nodiscard]] std::unique_ptr<UnitStorage>
+    makeUnits(const std::function<Moment()>& clock) override {
+        return std::make_unique<DriveUnits>(*m_drive, clock);
     }
 
 private:

@@ -48,7 +48,7 @@ public:
     [[nodiscard]] virtual std::string unitName(std::size_t /*unit*/) const { return {}; }
     /// Its storage units as a computer with that clock sees them; null when it has none.
     [[nodiscard]] virtual std::unique_ptr<UnitStorage>
-    makeUnits(std::function<Moment()> /*clock*/) {
+    makeUnits(const std::function<Moment()>& /*clock*/) {
         return nullptr;
     }
 };

@@ -49,7 +49,7 @@ ForeignDisk::ForeignDisk(std::uint64_t sectorCount, const std::string& label)
     static_cast<void>(VirtualVolume::format(m_store, label));
 }
 
-std::unique_ptr<UnitStorage> ForeignDisk::makeUnits(std::function<Moment()> /*clock*/) {
+std::unique_ptr<UnitStorage> ForeignDisk::makeUnits(const std::function<Moment()>& /*clock*/) {
     return std::make_unique<FixedUnit>(m_store);
 }
 

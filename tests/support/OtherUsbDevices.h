@@ -28,7 +28,7 @@ public:
 
     [[nodiscard]] std::size_t unitCount() const override { return 1; }
     [[nodiscard]] std::string unitName(std::size_t) const override { return "GENERIC FLASH DISK"; }
-    [[nodiscard]] std::unique_ptr<UnitStorage> makeUnits(std::function<Moment()>) override;
+    [[nodiscard]] std::unique_ptr<UnitStorage> makeUnits(const std::function<Moment()>&) override;
     /// Of the volume that is on it now; empty when none is.
     [[nodiscard]] std::string volumeLabel();
 

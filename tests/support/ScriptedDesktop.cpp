@@ -1,7 +1,5 @@
 #include "tests/support/ScriptedDesktop.h"
 
-#include <utility>
-
 namespace zelto::test {
 
 Desktop::Hold ScriptedDesktop::keepAwake(const std::string& /*why*/) {
@@ -9,13 +7,13 @@ Desktop::Hold ScriptedDesktop::keepAwake(const std::string& /*why*/) {
     return {this, [](void* desktop) { --static_cast<ScriptedDesktop*>(desktop)->m_holds; }};
 }
 
-void ScriptedDesktop::takePlace(std::function<void()> giveWay) {
-    m_giveWay = std::move(giveWay);
+void ScriptedDesktop::takePlace(const std::function<void()>& giveWay) {
+    m_giveWay = giveWay;
     m_givesWay = false;
 }
 
-void ScriptedDesktop::setSessionEndHandler(std::function<bool()> mayEnd) {
-    m_mayEnd = std::move(mayEnd);
+void ScriptedDesktop::setSessionEndHandler(const std::function<bool()>& mayEnd) {
+    m_mayEnd = mayEnd;
 }
 
 bool ScriptedDesktop::startAgain() {

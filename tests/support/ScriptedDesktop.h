@@ -12,9 +12,9 @@ namespace zelto::test {
 class ScriptedDesktop : public Desktop {
 public:
     [[nodiscard]] Hold keepAwake(const std::string& why) override;
-    void takePlace(std::function<void()> giveWay) override;
+    void takePlace(const std::function<void()>& giveWay) override;
     void giveWayToNewStart() override { m_givesWay = true; }
-    void setSessionEndHandler(std::function<bool()> mayEnd) override;
+    void setSessionEndHandler(const std::function<bool()>& mayEnd) override;
 
     /// Something keeps the computer awake.
     [[nodiscard]] bool isKeptAwake() const { return m_holds > 0; }
