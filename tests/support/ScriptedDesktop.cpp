@@ -28,10 +28,4 @@ bool ScriptedDesktop::endSession() const {
     return !m_mayEnd || m_mayEnd();
 }
 
-void ScriptedDesktop::endProcess() {
-    m_giveWay = nullptr;
-    m_mayEnd = nullptr;
-    m_givesWay = false;
-}
-
 } // namespace zelto::test

@@ -23,8 +23,6 @@ public:
     bool startAgain();
     /// The user logs out. True when the program lets the session end.
     [[nodiscard]] bool endSession() const;
-    /// The program's process has ended.
-    void endProcess();
 
 private:
     int m_holds = 0;
