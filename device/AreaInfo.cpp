@@ -10,12 +10,12 @@ using record::get;
 using record::put;
 
 constexpr Field Type{0, 1};
-constexpr Field Flags{1, 1};
+constexpr Field AreaFlags{1, 1};
 constexpr Field Reserved{2, 2};
 constexpr Field FirstSector{4, 8};
 constexpr Field SectorCount{12, 8};
 
-static_assert(record::covers(std::array{Type, Flags, Reserved, FirstSector, SectorCount},
+static_assert(record::covers(std::array{Type, AreaFlags, Reserved, FirstSector, SectorCount},
                              AreaInfoEntry::Size));
 
 constexpr Field DataLength{0, 2};
@@ -39,7 +39,7 @@ constexpr Field entryField(std::size_t index) {
 AreaInfoEntry decodeAreaInfoEntry(std::span<const std::uint8_t, AreaInfoEntry::Size> bytes) {
     return {
         .type = get<std::uint8_t>(bytes, Type),
-        .flags = get<std::uint8_t>(bytes, Flags),
+        .flags = get<std::uint8_t>(bytes, AreaFlags),
         .firstSector = get(bytes, FirstSector),
         .sectorCount = get(bytes, SectorCount),
     };
@@ -48,7 +48,7 @@ AreaInfoEntry decodeAreaInfoEntry(std::span<const std::uint8_t, AreaInfoEntry::S
 AreaInfoEntry::Bytes encodeAreaInfoEntry(const AreaInfoEntry& entry) {
     AreaInfoEntry::Bytes bytes{};
     put(bytes, Type, entry.type);
-    put(bytes, Flags, entry.flags);
+    put(bytes, AreaFlags, entry.flags);
     put(bytes, FirstSector, entry.firstSector);
     put(bytes, SectorCount, entry.sectorCount);
     return bytes;

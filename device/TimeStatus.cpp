@@ -19,7 +19,7 @@ constexpr Field Second{6, 1};
 static_assert(record::covers(std::array{Year, Month, Day, Hour, Minute, Second},
                              CurrentTime::Size));
 
-constexpr Field Flags{0, 1};
+constexpr Field StatusFlags{0, 1};
 constexpr Field AfterFlags{1, 1};
 constexpr Field Clock{2, CurrentTime::Size};
 constexpr Field AfterClock{9, 9};
@@ -27,8 +27,8 @@ constexpr Field AutoClearElapsed{18, 4};
 constexpr Field AutoClearPeriod{22, 4};
 constexpr Field IdleLockPeriod{26, 2};
 
-static_assert(record::covers(std::array{Flags, AfterFlags, Clock, AfterClock, AutoClearElapsed,
-                                        AutoClearPeriod, IdleLockPeriod},
+static_assert(record::covers(std::array{StatusFlags, AfterFlags, Clock, AfterClock,
+                                        AutoClearElapsed, AutoClearPeriod, IdleLockPeriod},
                              TimeStatus::Size));
 
 constexpr std::uint8_t ClockNotValid = 0x40;
@@ -83,7 +83,7 @@ CurrentTime clockAt(std::chrono::sys_seconds moment) {
 }
 
 TimeStatus decodeTimeStatus(std::span<const std::uint8_t, TimeStatus::Size> bytes) {
-    const auto flags = get<std::uint8_t>(bytes, Flags);
+    const auto flags = get<std::uint8_t>(bytes, StatusFlags);
     return {
         .clockNotValid = (flags & ClockNotValid) != 0,
         .autoClearExpired = (flags & AutoClearExpired) != 0,
@@ -96,7 +96,7 @@ TimeStatus decodeTimeStatus(std::span<const std::uint8_t, TimeStatus::Size> byte
 
 TimeStatus::Bytes encodeTimeStatus(const TimeStatus& status) {
     TimeStatus::Bytes bytes{};
-    put(bytes, Flags,
+    put(bytes, StatusFlags,
         (status.clockNotValid ? ClockNotValid : 0U) |
             (status.autoClearExpired ? AutoClearExpired : 0U));
     std::ranges::copy(encodeCurrentTime(status.clock),

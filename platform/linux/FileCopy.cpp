@@ -25,7 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t PieceSize = 1U << 18U;
+constexpr std::size_t CopyPieceSize = 1U << 18U;
 constexpr mode_t ProgramMode = 0755;
 constexpr mode_t DataMode = 0644;
 constexpr mode_t FolderMode = 0755;
@@ -90,7 +90,7 @@ bool isProgram(std::string_view beginning) {
 
 /// Copies the bytes and says whether they are a program's; nothing on failure.
 std::optional<bool> copyContents(int from, int to) {
-    std::vector<char> piece(PieceSize);
+    std::vector<char> piece(CopyPieceSize);
     bool program = false;
     for (bool first = true;; first = false) {
         const auto count = readPiece(from, piece);

@@ -14,7 +14,7 @@ namespace zelto::linux_platform {
 
 namespace {
 
-constexpr std::size_t PieceSize = 1U << 18U;
+constexpr std::size_t ReadPieceSize = 1U << 18U;
 
 /// Fills the piece unless the file ends before; nothing on failure.
 std::optional<std::size_t> readFully(int descriptor, std::span<char> piece) {
@@ -40,8 +40,8 @@ bool readsBackAs(int written, int source) {
     if (::lseek(written, 0, SEEK_SET) != 0 || ::lseek(source, 0, SEEK_SET) != 0) {
         return false;
     }
-    std::array<std::vector<char>, 2> pieces{std::vector<char>(PieceSize),
-                                            std::vector<char>(PieceSize)};
+    std::array<std::vector<char>, 2> pieces{std::vector<char>(ReadPieceSize),
+                                            std::vector<char>(ReadPieceSize)};
     while (true) {
         const auto wasWritten = readFully(written, pieces[0]);
         const auto wanted = readFully(source, pieces[1]);

@@ -16,7 +16,6 @@ using namespace simulator;
 using std::chrono::seconds;
 using testing::ElementsAre;
 
-constexpr std::uint64_t DriveSectors = 262144;
 constexpr UsbMatching Zelto{.idVendor = UsbIdentity::Vendor, .idProduct = UsbIdentity::Product};
 
 class VirtualBusTest : public testing::Test {
@@ -72,6 +71,7 @@ protected:
     std::vector<std::unique_ptr<UsbDeviceInterface>> m_handles;
     int m_removals = 0;
     IOObject m_port = 0;
+    static constexpr std::uint64_t DriveSectors = 262144;
     std::shared_ptr<DriveOnBus> m_drive = makeDrive("ZD0000000000A1", DriveSectors);
 };
 

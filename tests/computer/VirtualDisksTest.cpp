@@ -24,8 +24,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
 
-constexpr std::uint64_t DriveSectors = 262144;
-
 class VirtualDisksTest : public testing::Test {
 protected:
     bool erase(const std::string& disk, const std::string& label = "ZELTO TOOL") {
@@ -53,6 +51,7 @@ protected:
     std::map<std::string, RegistryProperties> m_properties;
     VirtualComputer m_computer;
     VirtualDiskTool& m_tool = m_computer.diskTool;
+    static constexpr std::uint64_t DriveSectors = 262144;
     std::shared_ptr<DriveOnBus> m_drive = makeDrive("ZD0000000000A1", DriveSectors);
 };
 

@@ -12,11 +12,12 @@
 #include <vector>
 
 namespace zelto::test {
+
+using Bytes = std::vector<std::uint8_t>;
+
 namespace {
 
 using namespace simulator;
-
-using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::uint64_t Sectors = 4096;
 
@@ -26,6 +27,12 @@ Bytes pattern(std::size_t sectors, std::uint8_t seed) {
         bytes[index] = static_cast<std::uint8_t>(seed + index % 251);
     }
     return bytes;
+}
+
+/// Some of the sectors in `bytes`, counted from 0.
+Bytes sectorsOf(const Bytes& bytes, std::size_t first, std::size_t count) {
+    const auto part = std::span(bytes).subspan(first * SectorSize, count * SectorSize);
+    return {part.begin(), part.end()};
 }
 
 Medium normalMedium() {
@@ -89,15 +96,13 @@ TEST_F(DriveContentsTest, OfASecureAreaComeBackWithTheKeyOnly) {
     const Bytes data = pattern(1200, 1);
     ASSERT_EQ(contents.write(secureMedium(1), 10, data), StorageResult::Done);
     EXPECT_EQ(read(secureMedium(1), 10, 1200), data);
-    EXPECT_EQ(read(secureMedium(1), 700, 2),
-              Bytes(data.begin() + 690 * 512, data.begin() + 692 * 512));
+    EXPECT_EQ(read(secureMedium(1), 700, 2), sectorsOf(data, 690, 2));
 
     const Bytes otherKey = read(secureMedium(2), 10, 1200);
     const Bytes stored = raw(2010, 1200);
     for (std::size_t sector = 0; sector < 1200; ++sector) {
-        const auto at = static_cast<std::ptrdiff_t>(sector * SectorSize);
-        EXPECT_FALSE(std::equal(data.begin() + at, data.begin() + at + 512, otherKey.begin() + at));
-        EXPECT_FALSE(std::equal(data.begin() + at, data.begin() + at + 512, stored.begin() + at));
+        EXPECT_NE(sectorsOf(data, sector, 1), sectorsOf(otherKey, sector, 1));
+        EXPECT_NE(sectorsOf(data, sector, 1), sectorsOf(stored, sector, 1));
     }
 }
 
@@ -163,17 +168,19 @@ TEST_F(DriveContentsTest, ReportAStoreThatFails) {
 
 // --- Stores ------------------------------------------------------------------------------------
 
-void checkStore(SectorStore& store) {
-    const std::uint64_t last = store.sectorCount() - 1;
+void checkMiddle(SectorStore& store) {
     Bytes bytes(300 * SectorSize, 0xEE);
     ASSERT_TRUE(store.read(50, bytes));
     EXPECT_EQ(bytes, Bytes(300 * SectorSize));
     ASSERT_TRUE(store.write(100, pattern(200, 5)));
     ASSERT_TRUE(store.read(50, bytes));
-    EXPECT_EQ(Bytes(bytes.begin() + 50 * 512, bytes.begin() + 250 * 512), pattern(200, 5));
-    EXPECT_EQ(bytes[49 * 512], 0);
-    EXPECT_EQ(bytes[250 * 512], 0);
+    EXPECT_EQ(sectorsOf(bytes, 50, 200), pattern(200, 5));
+    EXPECT_EQ(sectorsOf(bytes, 49, 1), Bytes(SectorSize));
+    EXPECT_EQ(sectorsOf(bytes, 250, 1), Bytes(SectorSize));
+}
 
+void checkEnd(SectorStore& store) {
+    const std::uint64_t last = store.sectorCount() - 1;
     Bytes one = pattern(1, 7);
     EXPECT_TRUE(store.write(last, one));
     EXPECT_FALSE(store.write(last + 1, one));
@@ -192,7 +199,8 @@ void checkStore(SectorStore& store) {
 TEST(MemorySectorStore, KeepsWhatIsWrittenOnDrivesOfAnySize) {
     for (const std::uint64_t sectors : {std::uint64_t{1} << 17, std::uint64_t{1} << 32}) {
         MemorySectorStore store(sectors);
-        checkStore(store);
+        checkMiddle(store);
+        checkEnd(store);
     }
 }
 
@@ -202,7 +210,8 @@ TEST(FileSectorStore, KeepsWhatIsWritten) {
     const auto store =
         FileSectorStore::open(folder.path() / "image", std::uint64_t{1} << 17, error);
     ASSERT_TRUE(store) << error;
-    checkStore(*store);
+    checkMiddle(*store);
+    checkEnd(*store);
 }
 
 TEST(FileSectorStore, OfTwoTerabytesTakesOnlyTheRoomOfWhatWasWritten) {
@@ -236,7 +245,7 @@ TEST(FileSectorStore, CutShortBySomebodyElseFailsInsteadOfInventingSectors) {
     std::string error;
     const auto store = FileSectorStore::open(path, 1000, error);
     ASSERT_TRUE(store);
-    std::filesystem::resize_file(path, 512 * 10);
+    std::filesystem::resize_file(path, std::size_t{512} * 10);
     Bytes bytes(2 * SectorSize);
     EXPECT_TRUE(store->read(8, bytes));
     EXPECT_FALSE(store->read(9, bytes));

@@ -24,29 +24,29 @@ constexpr std::uint32_t AutoClear = 100;
 Bench newDrive() {
     return Bench{};
 }
-Bench lockedDrive() {
+Bench inLocked() {
     Bench bench;
     EXPECT_TRUE(bench.setUpTwoPasswords(5));
     return bench;
 }
-Bench pendingDrive() {
-    Bench bench = lockedDrive();
+Bench inPending() {
+    Bench bench = inLocked();
     EXPECT_TRUE(bench.send(authenticate(1, First)));
     return bench;
 }
-Bench unlockedDrive() {
-    Bench bench = pendingDrive();
+Bench inUnlocked() {
+    Bench bench = inPending();
     EXPECT_TRUE(bench.send(authenticate(0, Second)));
     return bench;
 }
-Bench clearedDrive() {
-    Bench bench = unlockedDrive();
+Bench withoutKey() {
+    Bench bench = inUnlocked();
     EXPECT_TRUE(bench.send(setErasePeriod(AutoClear)));
     bench.pass(std::chrono::seconds{AutoClear});
     return bench;
 }
-Bench clocklessDrive() {
-    Bench bench = unlockedDrive();
+Bench withoutClock() {
+    Bench bench = inUnlocked();
     EXPECT_TRUE(bench.send(setErasePeriod(AutoClear)));
     bench.drive.loseClock();
     return bench;
@@ -60,11 +60,11 @@ struct Situation {
 
 constexpr std::array Situations{
     Situation{"new", newDrive, StateNoPassword},
-    Situation{"locked", lockedDrive, StateLocked},
-    Situation{"second password awaited", pendingDrive, StatePasswordPending},
-    Situation{"unlocked", unlockedDrive, StateUnlocking},
-    Situation{"key gone", clearedDrive, StateFullLock},
-    Situation{"clock lost", clocklessDrive, StateFullLock},
+    Situation{"locked", inLocked, StateLocked},
+    Situation{"second password awaited", inPending, StatePasswordPending},
+    Situation{"unlocked", inUnlocked, StateUnlocking},
+    Situation{"key gone", withoutKey, StateFullLock},
+    Situation{"clock lost", withoutClock, StateFullLock},
 };
 
 struct Row {
@@ -188,7 +188,7 @@ TEST(EveryRequestInEveryState, StallsAndDoesNothingWithoutPower) {
 }
 
 TEST(Sense, OfARefusedRequestStaysUntilAnotherOneSucceeds) {
-    Bench bench = lockedDrive();
+    Bench bench = inLocked();
     EXPECT_FALSE(bench.send(authenticate(1, Wrong)));
     // A status read reports it, and leaves it for the next one who asks.
     EXPECT_EQ(bench.sense(), Refused);
@@ -198,7 +198,7 @@ TEST(Sense, OfARefusedRequestStaysUntilAnotherOneSucceeds) {
 }
 
 TEST(Sense, OfARefusedRequestGivesWayToThatOfTheNext) {
-    Bench bench = lockedDrive();
+    Bench bench = inLocked();
     EXPECT_FALSE(bench.send(authenticate(1, Wrong)));
     EXPECT_FALSE(bench.send(setErasePeriod(0)));
     EXPECT_EQ(bench.sense(), State);
@@ -207,14 +207,14 @@ TEST(Sense, OfARefusedRequestGivesWayToThatOfTheNext) {
 }
 
 TEST(Sense, IsClearedByAPowerCycle) {
-    Bench bench = lockedDrive();
+    Bench bench = inLocked();
     EXPECT_FALSE(bench.send(authenticate(1, Wrong)));
     bench.replug();
     EXPECT_EQ(bench.sense(), Ok);
 }
 
 TEST(Reads, AreCutToTheLengthAskedFor) {
-    Bench bench = lockedDrive();
+    Bench bench = inLocked();
     EXPECT_EQ(bench.read(input(0xC0, 0, 0, 1)).size(), 1U);
     EXPECT_EQ(bench.read(input(0xC0, 0, 0, 34)).size(), 34U);
     EXPECT_EQ(bench.read(input(0xC0, 0, 0, 0xFFFF)).size(), 36U);

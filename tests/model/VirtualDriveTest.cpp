@@ -182,7 +182,7 @@ TEST_F(VirtualDriveTest, FullyLockedByALostClockOpensAgainWithItsContents) {
 bool imageHolds(const std::filesystem::path& folder, const std::string& text) {
     // The areas of these tests are written near the start of the image.
     std::ifstream image(folder / "drive.image", std::ios::binary);
-    std::string start(8 * 1024 * 1024, '\0');
+    std::string start(std::size_t{8} << 20U, '\0');
     image.read(start.data(), static_cast<std::streamsize>(start.size()));
     return start.find(text) != std::string::npos;
 }

@@ -22,10 +22,10 @@ _tagAreaInfosViewData rowsOf(std::uint16_t count, _tagAreaInfoViewData every) {
     return rows;
 }
 
-constexpr std::uint64_t AllOnes = std::numeric_limits<std::uint64_t>::max();
+constexpr std::uint64_t AllSectors = std::numeric_limits<std::uint64_t>::max();
 
 TEST(AreaCellText, ADriveNeverPartitionedShowsOneRow) {
-    const auto rows = rowsOf(1, {.type = 0, .capacity = AllOnes});
+    const auto rows = rowsOf(1, {.type = 0, .capacity = AllSectors});
     EXPECT_EQ(cell(rows, u"ColumnIDDisk", 0), QStringLiteral("Disk1"));
     EXPECT_EQ(cell(rows, u"ColumnIDType", 0), QStringLiteral("IDS_FREE_AREA"));
     EXPECT_EQ(cell(rows, u"ColumnIDCapacity", 0), QStringLiteral("IDS_ALL_SECTORS"));
@@ -47,7 +47,7 @@ TEST(AreaCellText, AnotherTypeIsShownAsItsHexadecimalCode) {
 }
 
 TEST(AreaCellText, AnAreaThatSpansAllIsFreeWhateverItsType) {
-    EXPECT_EQ(cell(rowsOf(1, {.type = 0x40, .capacity = AllOnes}), u"ColumnIDType", 0),
+    EXPECT_EQ(cell(rowsOf(1, {.type = 0x40, .capacity = AllSectors}), u"ColumnIDType", 0),
               QStringLiteral("IDS_FREE_AREA"));
 }
 
@@ -61,7 +61,7 @@ TEST(AreaCellText, RowsAreLabelledByPosition) {
 
 TEST(AreaCellText, CapacitiesOfAnySizeAreWholeMegabytes) {
     EXPECT_EQ(cell(rowsOf(1, {.capacity = 1}), u"ColumnIDCapacity", 0), QStringLiteral("1MB"));
-    EXPECT_EQ(cell(rowsOf(1, {.capacity = AllOnes >> 11}), u"ColumnIDCapacity", 0),
+    EXPECT_EQ(cell(rowsOf(1, {.capacity = AllSectors >> 11}), u"ColumnIDCapacity", 0),
               QStringLiteral("9007199254740991MB"));
 }
 

@@ -134,14 +134,14 @@ TEST(PasswordObstacle, OfAChangeAsksForTheCurrentPasswordsFirst) {
     EXPECT_FALSE(passwordChangeIsComplete(entries));
 }
 
-struct KeyCase {
+struct KeyObstacleCase {
     int line;
     QString text;
     Obstacle expected;
 };
 
 TEST(KeyObstacle, SaysWhatIsWrongWithTheDigits) {
-    const KeyCase cases[] = {
+    const KeyObstacleCase cases[] = {
         {__LINE__, "", {"IDS_HINT_KEY_MISSING"}},
         {__LINE__, "0g", {"IDS_HINT_KEY_DIGITS"}},
         {__LINE__, "0aF", {"IDS_HINT_KEY_ODD"}},
@@ -150,7 +150,7 @@ TEST(KeyObstacle, SaysWhatIsWrongWithTheDigits) {
         {__LINE__, QString(128, u'0'), {}},
         {__LINE__, "0a", {}},
     };
-    for (const KeyCase& row : cases) {
+    for (const KeyObstacleCase& row : cases) {
         EXPECT_EQ(keyObstacle(row.text), row.expected) << "line " << row.line;
         EXPECT_EQ(row.expected.key == nullptr, isValidKeyText(row.text)) << "line " << row.line;
     }

@@ -6,9 +6,6 @@ namespace {
 using namespace simulator;
 using ::testing::ElementsAre;
 
-const Bytes Ready{0x00, 0, 0, 0, 0, 0};
-const Bytes ReadTwo{0x28, 0, 0, 0, 0, 4, 0, 0, 2, 0};
-const Bytes WriteTwo{0x2A, 0, 0, 0, 0, 4, 0, 0, 2, 0};
 constexpr std::uint8_t ToHost = 0x80;
 constexpr std::uint8_t ToDevice = 0x00;
 

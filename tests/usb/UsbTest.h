@@ -13,6 +13,11 @@ using namespace simulator;
 inline constexpr std::uint8_t BulkIn = 1;
 inline constexpr std::uint8_t BulkOut = 2;
 
+// Commands: test unit ready; two blocks from the fourth, read and written.
+inline const Bytes Ready{0x00, 0, 0, 0, 0, 0};
+inline const Bytes ReadTwo{0x28, 0, 0, 0, 0, 4, 0, 0, 2, 0};
+inline const Bytes WriteTwo{0x2A, 0, 0, 0, 0, 4, 0, 0, 2, 0};
+
 /// A command block wrapper, byte by byte.
 inline Bytes commandWrapper(std::uint32_t tag, std::uint32_t length, std::uint8_t flags,
                             std::uint8_t unit, const Bytes& command) {

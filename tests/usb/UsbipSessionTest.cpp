@@ -6,10 +6,6 @@ namespace {
 using namespace simulator;
 using ::testing::ElementsAreArray;
 
-const Bytes Ready{0x00, 0, 0, 0, 0, 0};
-const Bytes ReadTwo{0x28, 0, 0, 0, 0, 4, 0, 0, 2, 0};
-const Bytes WriteTwo{0x2A, 0, 0, 0, 0, 4, 0, 0, 2, 0};
-
 class UsbipOperations : public UsbTest {
 protected:
     Bytes exchange(const Bytes& bytes) {
