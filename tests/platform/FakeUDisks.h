@@ -1,12 +1,11 @@
 #pragma once
 
 #include "platform/linux/UDisksState.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/platform/PrivateBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QProcess>
 #include <QStringList>
 
 #include <deque>
@@ -15,26 +14,6 @@
 #include <optional>
 
 namespace zelto::test {
-
-/// A message bus that nobody but this program knows.
-class PrivateBus {
-public:
-    PrivateBus();
-    PrivateBus(const PrivateBus&) = delete;
-    PrivateBus& operator=(const PrivateBus&) = delete;
-    ~PrivateBus();
-
-    /// A new connection; the same name gives the same connection again.
-    [[nodiscard]] QDBusConnection connection(const QString& name);
-    /// Takes everybody off the bus at once.
-    void breakDown() { m_daemon.kill(); }
-
-private:
-    TemporaryFolder m_folder;
-    QProcess m_daemon;
-    QString m_address;
-    QStringList m_connections;
-};
 
 /// The disk service as far as the disk tool uses it: one drive with a disk /dev/sdb. It obeys like
 /// the real one, unless a test has scripted what the next call of a method gets.
