@@ -144,6 +144,7 @@ QJsonObject describe(const QWidget& widget) {
         {QStringLiteral("class"), QString::fromLatin1(widget.metaObject()->className())},
         {QStringLiteral("visible"), widget.isVisible()},
         {QStringLiteral("enabled"), widget.isEnabled()},
+        {QStringLiteral("focus"), widget.hasFocus()},
         {QStringLiteral("text"), textOf(widget)},
     };
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {

@@ -1,5 +1,6 @@
 """The user: an ordinary account with an active session at the machine's own screen."""
 
+import json
 import os
 import pwd
 import shutil
@@ -57,6 +58,7 @@ class Desktop:
             "HOME": self.home, "USER": USER, "LOGNAME": USER, "SHELL": "/bin/bash",
             "PATH": "/usr/local/bin:/usr/bin:/bin", "LANG": "C.UTF-8",
             "DISPLAY": DISPLAY, "XDG_RUNTIME_DIR": self.runtime, "XDG_SESSION_TYPE": "x11",
+            "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.runtime}/bus",
         }
         variables.update(environment or {})
         return subprocess.Popen(arguments, env=variables, cwd=options.pop("cwd", self.home),
@@ -77,6 +79,16 @@ class Desktop:
                           **options)
         output, _ = tool.communicate()
         return tool.returncode, output.strip()
+
+    @staticmethod
+    def inhibitors(program):
+        """What a program keeps the computer from, and how strictly, as the login service has it."""
+        answer = subprocess.run(
+            ["busctl", "--json=short", "call", "org.freedesktop.login1", "/org/freedesktop/login1",
+             "org.freedesktop.login1.Manager", "ListInhibitors"],
+            capture_output=True, text=True, check=True).stdout
+        return [(what, mode) for what, _, _, mode, _, pid in json.loads(answer)["data"][0]
+                if pid == program.process_id]
 
     def mount(self, device):
         """Mounts a volume as the file manager does; where it is then."""

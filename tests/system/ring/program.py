@@ -155,6 +155,23 @@ class Program:
         self._do("type", widget=widget, text=text)
         self._wait(f"{widget} is filled in", lambda: self.text(widget) == text)
 
+    def press(self, key):
+        """In the window that has the keyboard."""
+        self._do("press", key=key)
+
+    def tab_to(self, widget):
+        """Moves the focus there as a person without a mouse does."""
+        def focused():
+            if not self.has_focus(widget):
+                self.press("Tab")
+            return self.has_focus(widget)
+
+        wait_for(f"{widget} has the focus", focused)
+
+    def has_focus(self, widget):
+        seen = self.look(widget)
+        return seen is not None and seen["focus"]
+
     def switch(self, widget, on):
         """A check box or radio button."""
         self.wait_for_enabled(widget)
@@ -195,7 +212,7 @@ class Program:
             return "error" not in answer
 
         try:
-            wait_for(f"{verb} {request.get('widget') or request.get('button')}", accepted,
+            wait_for(f"{verb} {next(iter(request.values()))}", accepted,
                      patience=30)
         except Failure as failure:
             say(f"refused: {refusals[-1]}")

@@ -62,12 +62,19 @@ def mounts():
         source = fields[fields.index("-") + 2]
         if source.startswith("/dev/"):
             point = re.sub(r"\\(\d{3})", lambda octal: chr(int(octal[1], 8)), fields[4])
-            found[source[len("/dev/"):]] = point
+            # A mapping is mounted by a link that says what it is for.
+            found[os.path.basename(os.path.realpath(source))] = point
     return found
 
 
 def mount_point(device):
     return mounts().get(device)
+
+
+def holders(device):
+    """What is open on top of it: the clear text of an encrypted volume, such as "dm-0"."""
+    folder = f"/sys/class/block/{device}/holders"
+    return sorted(os.listdir(folder)) if os.path.isdir(folder) else []
 
 
 def udev_property(device, name):

@@ -1,6 +1,7 @@
 """What several scenarios do alike."""
 
 import os
+import subprocess
 
 from ring import vendor, volumes
 from ring.checks import expect, wait_for
@@ -52,6 +53,49 @@ def secure_volume(drive):
     disk = volumes.disk(drive.serial, drive.secure_unit)
     wait_for("its volume is recognised", lambda: volumes.file_system(disk) == "vfat")
     return disk
+
+
+PASSPHRASE = "a word of the volume's own"
+
+
+def encrypt_secure_volume(drive):
+    """Puts a LUKS volume with a file system in it on the secure unit, as an administrator would."""
+    disk = volumes.disk(drive.serial, drive.secure_unit)
+    # The passphrase need not resist anybody; an emulated machine takes long over each round.
+    crypt_setup(["luksFormat", "--batch-mode", "--pbkdf", "pbkdf2", "--pbkdf-force-iterations",
+                 "1000", f"/dev/{disk}"])
+    crypt_setup(["open", f"/dev/{disk}", "fresh"])
+    subprocess.run(["mkfs.vfat", "-n", "HIDDEN", "/dev/mapper/fresh"], check=True,
+                   stdout=subprocess.DEVNULL)
+    subprocess.run(["udevadm", "settle"], check=True)
+    subprocess.run(["cryptsetup", "close", "fresh"], check=True)
+
+
+def crypt_setup(arguments):
+    subprocess.run(["cryptsetup", "--key-file", "-", *arguments], input=PASSPHRASE, text=True,
+                   check=True)
+
+
+def open_encrypted_volume(ring, drive):
+    """As the user, through the disk service; the name of the clear text's device."""
+    disk = volumes.disk(drive.serial, drive.secure_unit)
+    wait_for("the encrypted volume is recognised",
+             lambda: volumes.file_system(disk) == "crypto_LUKS")
+    passphrase = f"{ring.desktop.runtime}/passphrase"
+    with open(passphrase, "w", encoding="ascii") as file:
+        file.write(PASSPHRASE)
+    os.chmod(passphrase, 0o644)
+
+    def opened():
+        # The disk service hears of a new volume a while after udev does.
+        if not volumes.holders(disk):
+            ring.desktop.run(["udisksctl", "unlock", "--no-user-interaction", "-b", f"/dev/{disk}",
+                              "--key-file", passphrase])
+        return volumes.holders(disk)
+
+    clear_text = wait_for("the encrypted volume is open", opened)[0]
+    wait_for("the volume in it is recognised", lambda: volumes.file_system(clear_text) == "vfat")
+    return clear_text
 
 
 def log_in_to_settings(ring, drive):

@@ -35,7 +35,7 @@ def files_on_the_secure_volume_come_back_with_the_next_log_in(ring):
 @scenario
 def the_unlocked_drive_is_pictured_for_the_documents(ring):
     drive = ring.set_up_drive()
-    flows.log_in(ring, drive)
+    program = flows.log_in(ring, drive)
     folder = ring.desktop.mount(flows.secure_volume(drive))
     for name in ("contract.txt", "keys.txt", "letter.txt"):
         flows.write_file(ring, folder, name, f"{name}\n" * 40)
@@ -46,6 +46,9 @@ def the_unlocked_drive_is_pictured_for_the_documents(ring):
          "-c", f"lsblk -o NAME,VENDOR,MODEL,SIZE,FSTYPE,MOUNTPOINTS /dev/sd?; echo; "
                f"ls -l {folder}; touch {drawn}; exec sleep 3600"])
     wait_for("the terminal has drawn", lambda: os.path.exists(drawn))
+    # Started anew, its window is in front of the terminal's.
+    program.click("UnlockingCancel")
+    program.wait_for_end()
     program = ring.start_program("UnlockingWindow")
     program.picture("system")
 
@@ -129,6 +132,77 @@ def wrong_second_passwords_lock_the_drive_for_good(ring):
 
     program = flows.open_after_loss(ring)
     program.picture("drive-lost")
+
+
+@scenario
+def a_second_copy_says_who_has_the_drive_and_does_not_disturb_the_first(ring):
+    drive = ring.set_up_drive()
+    first = flows.open_log_in(ring)
+    second = ring.start_program("SelectZeltoWindow")
+    second.wait_for_text("SelectZeltoAccessHint", "IDS_HINT_DRIVE_IN_USE")
+    expect("there is nothing to select", not second.is_enabled("SelectZeltoOK"))
+    second.picture("drive-in-use")
+    # The refusal is the first copy's alone to read.
+    flows.submit_wrong_password(first, "wrong")
+    flows.submit_password(first, flows.FIRST)
+    first.wait_for_window("UnlockingWindow")
+    second.click("SelectZeltoCancel")
+    second.wait_for_end()
+    flows.log_off(first, drive)
+
+
+@scenario
+def settings_that_cannot_be_read_leave_no_program_behind(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    drive.vanish_at(0xC2, obeyed=False)
+    program.click("UnlockingSetup")
+    program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
+    program.wait_for_end()
+    drive.plug()
+    flows.open_log_in(ring)
+
+
+@scenario
+def an_encrypted_volume_on_the_drive_is_closed_before_the_drive_is_locked(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    flows.encrypt_secure_volume(drive)
+    clear_text = flows.open_encrypted_volume(ring, drive)
+    folder = ring.desktop.mount(clear_text)
+    flows.write_file(ring, folder, "secret.txt", SECRET)
+    flows.log_off(program, drive)
+    expect("nothing is mounted from it", not os.path.ismount(folder))
+    expect_equal("what is still open on the drive", volumes.holders(
+        volumes.disk(drive.serial, drive.secure_unit)), [])
+    expect_equal("what was sent", drive.logged_writes(), [0xB3, 0xB4])
+
+    program = flows.log_in(ring, drive)
+    folder = ring.desktop.mount(flows.open_encrypted_volume(ring, drive))
+    expect_equal("the file", flows.read_file(folder, "secret.txt"), SECRET)
+    flows.log_off(program, drive)
+
+
+@scenario
+def a_busy_encrypted_volume_keeps_the_drive_unlocked_and_its_holder_is_named(ring):
+    drive = ring.set_up_drive()
+    program = flows.log_in(ring, drive)
+    flows.encrypt_secure_volume(drive)
+    clear_text = flows.open_encrypted_volume(ring, drive)
+    folder = ring.desktop.mount(clear_text)
+    holder = ring.start_as_user(["tail", "-f", "/dev/null"], cwd=folder)
+    program.click("UnlockingLogOff")
+    detail = program.answer_alert("IDS_ERR_UNMOUNT")
+    expect(f"the holder is named in {detail!r}", "tail" in detail)
+    program.wait_for_end()
+    expect_equal("the drive's state", drive.requests.state(), vendor.UNLOCKED)
+    expect("the volume is still mounted", os.path.ismount(folder))
+    expect_equal("no log-out was sent", drive.logged_writes(), [0xB3])
+
+    holder.kill()
+    holder.wait()
+    program = ring.start_program("UnlockingWindow")
+    flows.log_off(program, drive)
 
 
 @scenario

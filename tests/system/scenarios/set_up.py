@@ -160,3 +160,20 @@ def a_drive_without_a_secure_area_is_set_up_while_the_desktop_mounts_what_appear
     program.click("ZeltoSettingOKButton")
     program.wait_for_end()
     check_tool_area(ring, drive, 3)
+
+
+@scenario
+def the_computer_stays_awake_until_a_set_up_is_done(ring):
+    ring.drive()
+    program = start_on_new_drive(ring)
+    choose_areas(program, [48, 0, 0], secure=1)
+    choose_one_password(program, flows.FIRST)
+    expect_equal("what keeps the computer awake", ring.desktop.inhibitors(program), [])
+    program.click("MainSettingsOKButton")
+    program.wait_for_window("ZeltoSettingWindow")
+    wait_for("the computer is kept awake",
+             lambda: ring.desktop.inhibitors(program) == [("shutdown:sleep", "block")])
+    wait_for_completion(program)
+    wait_for("it may sleep again", lambda: not ring.desktop.inhibitors(program))
+    program.click("ZeltoSettingOKButton")
+    program.wait_for_end()
