@@ -3,6 +3,7 @@
 #include "device/IORegistry.h"
 #include "platform/Computer.h"
 #include "platform/Disks.h"
+#include "session/ForeignText.h"
 #include "settings/AreaPacking.h"
 #include "ui/Strings.h"
 
@@ -13,6 +14,8 @@ namespace {
 
 constexpr const char* ToolVolumeLabel = "ZELTO TOOL";
 constexpr const char* BundleName = "ZeltoAppMac.app";
+/// In characters, where a path is shown.
+constexpr std::size_t LongestPath = 200;
 
 } // namespace
 
@@ -44,8 +47,8 @@ bool AppDelegate::CopyToolFile(const std::string& bsdName) {
         copyFilesBesideBundle(root);
     } else {
         ShowMessage(AlertWeight::Warning,
-                    localized("IDS_ERR_FILE_COPY", QString::fromStdString(source.string()),
-                              QString::fromStdString(destination.string())));
+                    localized("IDS_ERR_FILE_COPY", foreignText(source.native(), LongestPath),
+                              foreignText(destination.native(), LongestPath)));
     }
     return copied;
 }

@@ -3,9 +3,8 @@
 #include "device/IORegistry.h"
 #include "platform/Clock.h"
 #include "platform/Disks.h"
+#include "session/ForeignText.h"
 #include "ui/Strings.h"
-
-#include <QStringList>
 
 namespace zelto {
 
@@ -55,14 +54,9 @@ bool AppDelegate::Confirm(const char* messageKey) {
 }
 
 void AppDelegate::ReportUnmountFailure() {
-    QStringList programs;
-    for (const std::string& program : m_platform.disks.holders(g_BsdNameList)) {
-        programs += QString::fromStdString(program);
-    }
+    const QString programs = foreignNames(m_platform.disks.holders(g_BsdNameList));
     ShowMessage(AlertWeight::Warning, localized("IDS_ERR_UNMOUNT"),
-                programs.isEmpty()
-                    ? QString()
-                    : localized("IDS_HINT_BUSY_PROGRAMS", programs.join(QStringLiteral(", "))));
+                programs.isEmpty() ? QString() : localized("IDS_HINT_BUSY_PROGRAMS", programs));
 }
 
 AlertButton AppDelegate::RunAlertPanel(const AlertPanel& panel) {

@@ -5,6 +5,7 @@
 #include "ui/Window.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -56,6 +57,11 @@ AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
     box.setTextFormat(Qt::PlainText);
     box.setText(panel.message);
     box.setInformativeText(panel.detail);
+    // Both texts name what came from outside, files and programs; the box takes the format for its
+    // first text alone.
+    for (QLabel* label : box.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
 
     QPushButton* const first = addButton(box, panel.defaultButton, QMessageBox::AcceptRole);
     QPushButton* second = nullptr;

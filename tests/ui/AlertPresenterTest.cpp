@@ -2,6 +2,7 @@
 #include "ui/Forms.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -45,12 +46,15 @@ void press(QMessageBox& box, const QString& label) {
 TEST(AlertPresenterTest, ShowsTheTextsAsTheyAre) {
     const AlertPanel panel{.title = QStringLiteral("Title"),
                            .message = QStringLiteral("<b>not bold</b>"),
-                           .detail = QStringLiteral("more"),
+                           .detail = QStringLiteral("<h1>Virus found</h1>"),
                            .defaultButton = QStringLiteral("OK")};
     const AlertButton button = answer(panel, [](QMessageBox& box) {
         EXPECT_EQ(box.text(), QStringLiteral("<b>not bold</b>"));
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
-        EXPECT_EQ(box.informativeText(), QStringLiteral("more"));
+        EXPECT_EQ(box.informativeText(), QStringLiteral("<h1>Virus found</h1>"));
+        for (const QLabel* label : box.findChildren<QLabel*>()) {
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+        }
         EXPECT_EQ(box.windowTitle(), QStringLiteral("Title"));
         EXPECT_EQ(box.buttons().size(), 1);
         box.buttons().constFirst()->click();
