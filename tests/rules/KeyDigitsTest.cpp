@@ -55,7 +55,7 @@ TEST(KeyOfDigits, TakesDigitsOfEitherCase) {
 }
 
 TEST(KeyOfDigits, OneSixtyThreeAndSixtyFourBytes) {
-    const auto nonZero = [](int bytes) {
+    const auto nonZero = [](qsizetype bytes) {
         const auto key = keyOfDigits(QString(bytes * 2, u'1'));
         return std::ranges::count(key, 0x11);
     };

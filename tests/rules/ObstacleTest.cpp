@@ -83,7 +83,7 @@ TEST(AreaObstacle, IsTheFirstThingThatIsWrongWithTheSizes) {
         {__LINE__, {"5", "", ""}, {}},
     };
     for (const AreaCase& row : cases) {
-        const AreaDialogVerdict verdict = judgeAreaDialog(row.texts, 100 * 2048);
+        const AreaDialogVerdict verdict = judgeAreaDialog(row.texts, std::uint64_t{100} * 2048);
         EXPECT_EQ(areaObstacle(row.texts, verdict), row.expected) << "line " << row.line;
         EXPECT_EQ(row.expected.key == nullptr, verdict.isComplete) << "line " << row.line;
     }
