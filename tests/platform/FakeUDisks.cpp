@@ -73,7 +73,7 @@ void FakeUDisks::unlock(const QString& backing, const QString& name,
 
 QString FakeUDisks::clearTextOf(const QString& backing) const {
     for (auto object = objects.begin(); object != objects.end(); ++object) {
-        const auto path = object.key().path();
+        auto path = object.key().path();
         if (get(path, "Block", "CryptoBackingDevice").value<QDBusObjectPath>().path() == backing) {
             return path;
         }

@@ -12,6 +12,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace zelto::test {
 
@@ -47,7 +48,9 @@ public:
 
     /// What a scripted call does. Nothing returned: no answer is ever sent.
     using Script = std::function<std::optional<QDBusMessage>(const QDBusMessage&)>;
-    void script(const QString& method, Script answer) { m_scripts[method].push_back(answer); }
+    void script(const QString& method, Script answer) {
+        m_scripts[method].push_back(std::move(answer));
+    }
     /// The service's own error, "DeviceBusy" say, instead of obeying.
     void refuse(const QString& method, const QString& error, const QString& text = "refused");
     /// What the service does on a call that is not scripted; for scripts that obey as well.

@@ -25,14 +25,17 @@ using ::testing::IsEmpty;
 namespace fs = std::filesystem;
 
 class ComputerTest : public ::testing::Test {
-protected:
+public:
     ComputerTest() {
         if (const char* home = std::getenv("HOME")) {
             m_home = home;
         }
     }
+    ComputerTest(const ComputerTest&) = delete;
+    ComputerTest& operator=(const ComputerTest&) = delete;
     ~ComputerTest() override { ::setenv("HOME", m_home.c_str(), 1); }
 
+protected:
     Waiting waiting;
     LinuxComputer computer{waiting};
     TemporaryFolder folder;

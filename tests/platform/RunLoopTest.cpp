@@ -91,14 +91,17 @@ TEST(LinuxClock, TellsTheSystemsTime) {
 
 /// The zone is the process's; each test gives back the one that it found.
 class Zone : public ::testing::Test {
-protected:
+public:
     Zone() {
         if (const char* zone = std::getenv("TZ")) {
             m_before = zone;
         }
     }
+    Zone(const Zone&) = delete;
+    Zone& operator=(const Zone&) = delete;
     ~Zone() override { ::setenv("TZ", m_before.c_str(), 1); }
 
+protected:
     [[nodiscard]] seconds offsetIn(const char* zone, sys_seconds moment) const {
         ::setenv("TZ", zone, 1);
         return LinuxClock(m_waiting).utcOffset(moment);

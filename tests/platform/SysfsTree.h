@@ -55,7 +55,7 @@ public:
         }
         set(unit, "vendor", "KESTRIN ");
         set(unit, "model", model);
-        const auto disk = unit + "/block/" + name;
+        auto disk = unit + "/block/" + name;
         addDevice(disk, "block");
         m_folder.link("devices/" + disk + "/device", "../../../0:0:0:" + std::to_string(lun));
         set(disk, "size", std::to_string(sectors));
@@ -75,7 +75,7 @@ public:
     std::string addMapping(const std::string& name, const std::string& number,
                            const std::string& mapping,
                            const std::vector<std::string>& standsOn) const {
-        const auto place = "virtual/block/" + name;
+        auto place = "virtual/block/" + name;
         addDevice(place, "block");
         set(place, "size", "100");
         set(place, "dm/name", mapping);
@@ -83,8 +83,8 @@ public:
         for (const auto& below : standsOn) {
             m_folder.link("devices/" + below + "/holders/" + name,
                           (m_folder.path() / "devices" / place).string());
-            m_folder.link("devices/" + place + "/slaves/" +
-                              std::filesystem::path(below).filename().string(),
+            const auto slaves = std::filesystem::path("devices") / place / "slaves";
+            m_folder.link((slaves / std::filesystem::path(below).filename()).string(),
                           (m_folder.path() / "devices" / below).string());
         }
         return place;

@@ -6,6 +6,9 @@ namespace {
 using namespace simulator;
 using ::testing::ElementsAreArray;
 
+/// Where the fourth block of the commands begins in the medium.
+constexpr std::ptrdiff_t Block4 = 4 * 512;
+
 class UsbipOperations : public UsbTest {
 protected:
     Bytes exchange(const Bytes& bytes) {
@@ -104,7 +107,7 @@ TEST_F(UsbipTransfers, RefusedControlTransferStalls) {
 
 TEST_F(UsbipTransfers, WholeCommandInOneBatchIsAnsweredInOneBatch) {
     const Bytes data = pattern(1024, 3);
-    std::ranges::copy(data, storage.contents(0).begin() + 4 * 512);
+    std::ranges::copy(data, storage.contents(0).begin() + Block4);
     Bytes batch = submitOut(1, commandWrapper(5, 1024, 0x80, 0, ReadTwo));
     append(batch, submitIn(2, 1024));
     append(batch, submitIn(3, 13));
@@ -147,7 +150,7 @@ TEST_F(UsbipTransfers, WriteMayArriveByteByByte) {
         append(answer, exchange({byte}));
     }
     EXPECT_EQ(answer.size(), 3U * 48 + 13);
-    EXPECT_TRUE(std::equal(data.begin(), data.end(), storage.contents(0).begin() + 4 * 512));
+    EXPECT_TRUE(std::equal(data.begin(), data.end(), storage.contents(0).begin() + Block4));
 }
 
 TEST_F(UsbipTransfers, StallInTheMiddleTellsWhatMoved) {
@@ -269,7 +272,7 @@ TEST_F(UsbipTransfers, HostThatDoesNotTakeItsAnswersIsNotAskedForMore) {
     }
     put(batch);
     EXPECT_LE(session.toSend().size(), UsbipSession::MaximumTransfer + (std::size_t{1} << 20));
-    EXPECT_EQ(take().size(), 3U * (3 * 48 + 13) + 3 * UsbipSession::MaximumTransfer);
+    EXPECT_EQ(take().size(), 3U * (3 * 48 + 13) + std::size_t{3} * UsbipSession::MaximumTransfer);
 }
 
 } // namespace
