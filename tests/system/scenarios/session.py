@@ -155,7 +155,7 @@ def a_second_copy_says_who_has_the_drive_and_does_not_disturb_the_first(ring):
 def settings_that_cannot_be_read_leave_no_program_behind(ring):
     drive = ring.set_up_drive()
     program = flows.log_in(ring, drive)
-    drive.vanish_at(0xC2, obeyed=False)
+    drive.unplug()
     program.click("UnlockingSetup")
     program.answer_alert("IDS_ERR_NOT_FOUND_ZELTO")
     program.wait_for_end()

@@ -121,7 +121,7 @@ def expect_clock_near_now(drive):
 @scenario
 def auto_clear_takes_the_key_also_while_unlocked(ring):
     drive = ring.set_up_drive(erase_period=600)
-    flows.log_in(ring, drive)
+    program = flows.log_in(ring, drive)
     folder = ring.desktop.mount(flows.secure_volume(drive))
     flows.write_file(ring, folder, "kept.txt", "not for long")
     drive.advance(601)
@@ -129,6 +129,8 @@ def auto_clear_takes_the_key_also_while_unlocked(ring):
              lambda: drive.requests.state() == vendor.FULLY_LOCKED)
     wait_for("the volume is gone",
              lambda: not volumes.has_medium(drive.serial, drive.secure_unit))
+    program.click("UnlockingCancel")
+    program.wait_for_end()
     flows.open_after_loss(ring)
 
 
