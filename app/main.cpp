@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/PrivateMemory.h"
 #include "ui/AlertPresenter.h"
 #include "ui/ProductIcon.h"
 #include "ui/Strings.h"
@@ -38,5 +39,6 @@ int NSApplicationMain(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    zelto::linux_platform::keepMemoryPrivate();
     return NSApplicationMain(argc, argv);
 }

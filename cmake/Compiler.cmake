@@ -6,9 +6,25 @@ include_directories(${PROJECT_SOURCE_DIR})
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
-if(CMAKE_BUILD_TYPE STREQUAL "Release" OR CMAKE_BUILD_TYPE STREQUAL "RelWithDebInfo")
-    add_compile_options(-fstack-protector-strong)
-    add_compile_definitions(_FORTIFY_SOURCE=2)
+# What makes a defect end the program instead of opening it. The sanitizers see more, and have their
+# own ways to see it.
+if(NOT ZELTO_SANITIZE)
+    include(CheckCXXCompilerFlag)
+    include(CheckPIESupported)
+    check_pie_supported()
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+    add_compile_options(-fstack-protector-strong -fstack-clash-protection)
+    # Of x86 alone.
+    check_cxx_compiler_flag(-fcf-protection ZELTO_HAS_CF_PROTECTION)
+    if(ZELTO_HAS_CF_PROTECTION)
+        add_compile_options(-fcf-protection)
+    endif()
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
+    # It needs the optimiser; distributions give a lower level, which is taken back first.
+    if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$")
+        add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+    endif()
+    add_link_options(-Wl,-z,relro,-z,now,-z,noexecstack)
 endif()
 
 if(ZELTO_SANITIZE)

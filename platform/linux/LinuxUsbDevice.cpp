@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxUsbDevice.h"
 
+#include "platform/linux/ControlTransfer.h"
 #include "platform/linux/SysfsEntry.h"
 
 #include <QEventLoop>
@@ -23,8 +24,6 @@ namespace {
 
 /// Never 0, which means for ever.
 constexpr unsigned ControlTimeoutMilliseconds = 5000;
-/// What usbfs carries on endpoint 0.
-constexpr std::uint16_t LongestDataStage = 4096;
 
 bool isRefusal(int error) {
     return error == EACCES || error == EPERM;
@@ -123,9 +122,8 @@ IOReturn LinuxUsbDevice::DeviceRequest(IOUSBDevRequest& request) {
     if (request.wLength > LongestDataStage || (request.wLength > 0 && request.pData == nullptr)) {
         return kIOReturnBadArgument;
     }
-    const int status = libusb_control_transfer(m_handle, request.bmRequestType, request.bRequest,
-                                               request.wValue, request.wIndex, request.pData,
-                                               request.wLength, ControlTimeoutMilliseconds);
+    const int status =
+        controlTransfer(m_context->get(), m_handle, request, ControlTimeoutMilliseconds);
     if (status >= 0) {
         request.wLenDone = static_cast<std::uint32_t>(status);
     }

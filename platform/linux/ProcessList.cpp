@@ -4,6 +4,7 @@
 #include "platform/linux/TextFile.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <charconv>
@@ -65,6 +66,19 @@ std::optional<FileMapping> parseMapping(std::string_view line) {
     return mapping;
 }
 
+/// A line reads: "Uid:", a tab, the real user, and others after further tabs.
+std::optional<uid_t> userOfStatus(const std::string& status) {
+    constexpr std::string_view Label = "\nUid:\t";
+    const auto label = status.find(Label);
+    if (label == std::string::npos) {
+        return std::nullopt;
+    }
+    uid_t user = 0;
+    const auto* const first = status.data() + label + Label.size();
+    const auto [end, error] = std::from_chars(first, status.data() + status.size(), user);
+    return error == std::errc{} && end != first ? std::optional(user) : std::nullopt;
+}
+
 } // namespace
 
 std::string withoutDeletedRemark(std::string path) {
@@ -93,8 +107,22 @@ bool Process::belongsTo(uid_t user) const {
 }
 
 std::optional<std::string> Process::executable() const {
-    auto path = target(m_folder / "exe");
-    return path ? std::optional(withoutDeletedRemark(std::move(*path))) : std::nullopt;
+    if (auto path = target(m_folder / "exe")) {
+        return withoutDeletedRemark(std::move(*path));
+    }
+    return startedAs();
+}
+
+/// A program that keeps its memory to itself, as this one does, hides its file from the programs
+/// of its own user as well. How it was started is there to be read, and as good, since a user's
+/// programs need not fear each other's names; another user's are not believed.
+std::optional<std::string> Process::startedAs() const {
+    if (userOfStatus(readTextFile(m_folder / "status").value_or("")) != ::getuid()) {
+        return std::nullopt;
+    }
+    auto path = readTextFile(m_folder / "cmdline").value_or("");
+    path.resize(std::min(path.find('\0'), path.size()));
+    return path.starts_with('/') ? std::optional(std::move(path)) : std::nullopt;
 }
 
 std::string Process::name() const {

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] std::vector<std::string> heldPaths() const;
 
 private:
+    [[nodiscard]] std::optional<std::string> startedAs() const;
+
     std::filesystem::path m_folder;
 };
 

@@ -110,5 +110,39 @@ TEST(Processes, AreListedByNumberThisOneAmongThem) {
     EXPECT_FALSE(processes("/proc").empty());
 }
 
+/// A process that keeps its memory, and with it the file of its program, to itself.
+class HiddenProgram : public ::testing::Test {
+protected:
+    [[nodiscard]] std::optional<std::string> startedBy(const std::string& user,
+                                                       const std::string& commandLine) const {
+        proc.write("10/status", "Name:\tzelto\nUmask:\t0022\nUid:\t" + user + "\t" + user + "\n");
+        proc.write("10/cmdline", commandLine);
+        return Process(proc / "10").executable();
+    }
+
+    const std::string self = std::to_string(::getuid());
+    TemporaryFolder proc;
+};
+
+TEST_F(HiddenProgram, OfThisUserIsKnownByHowItWasStarted) {
+    EXPECT_EQ(startedBy(self, std::string("/home/a/at/zelto\0--help\0", 24)), "/home/a/at/zelto");
+    EXPECT_EQ(startedBy(self, "/home/a/at/zelto"), "/home/a/at/zelto");
+}
+
+TEST_F(HiddenProgram, OfAnotherUserIsNotBelieved) {
+    EXPECT_EQ(startedBy(std::to_string(::getuid() + 1), "/home/a/at/zelto"), std::nullopt);
+}
+
+TEST_F(HiddenProgram, StartedWithoutAPathIsNotKnown) {
+    EXPECT_EQ(startedBy(self, "zelto"), std::nullopt);
+    EXPECT_EQ(startedBy(self, ""), std::nullopt);
+}
+
+TEST_F(HiddenProgram, WithoutAUserIsNotKnown) {
+    EXPECT_EQ(startedBy("", "/home/a/at/zelto"), std::nullopt);
+    EXPECT_EQ(startedBy("x", "/home/a/at/zelto"), std::nullopt);
+    EXPECT_EQ(Process(proc / "11").executable(), std::nullopt);
+}
+
 } // namespace
 } // namespace zelto::test

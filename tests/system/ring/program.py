@@ -153,7 +153,9 @@ class Program:
     def type(self, widget, text):
         self.wait_for_enabled(widget)
         self._do("type", widget=widget, text=text)
-        self._wait(f"{widget} is filled in", lambda: self.text(widget) == text)
+        # Whoever looks at a password sees bullets.
+        shown = (text, "●" * len(text))
+        self._wait(f"{widget} is filled in", lambda: self.text(widget) in shown)
 
     def press(self, key):
         """In the window that has the keyboard."""

@@ -267,6 +267,8 @@ def the_program_runs_unprivileged_from_where_it_is_installed(ring):
     status = volumes.read(f"/proc/{program.process_id}/status")
     expect("it runs as the user", f"Uid:\t{ring.desktop.uid}\t{ring.desktop.uid}" in status)
     expect("it has no capabilities", "CapEff:\t0000000000000000" in status)
+    readable, _ = ring.desktop.run(["cat", f"/proc/{program.process_id}/maps"])
+    expect("no other program of the user's can read its memory", readable != 0)
     expect_equal("its file", os.readlink(f"/proc/{program.process_id}/exe"), PROGRAM)
     program.click("AuthenticateCancel")
     program.wait_for_end()
