@@ -117,7 +117,7 @@ public:
     void AuthenticateCancelAction();
     /// Writes the digest of a password of at most 32 characters; more is a programming error and
     /// ends the process.
-    void SetPasswordData(const QString& password, PasswordDigest& digest) const;
+    void SetPasswordData(QStringView password, PasswordDigest& digest) const;
 
     // --- Unlocked drive: session/AppDelegate_Unlocked.cpp -------------------------------------
 

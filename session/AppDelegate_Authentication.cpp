@@ -64,14 +64,14 @@ void AppDelegate::controlTextDidChange() {
 
 void AppDelegate::AuthenticateTextDidChange() {
     auto& form = AuthenticateWindow;
-    form.AuthenticateSubmit->setEnabled(isValidPassword(form.AuthenticateTextField->text()));
+    form.AuthenticateSubmit->setEnabled(isValidPassword(form.AuthenticateTextField->secret()));
 }
 
 void AppDelegate::AuthenticateSubmitAction() {
     auto& form = AuthenticateWindow;
     Wiped<AuthPayload> payload{
         {.firstStep = TextInputMode == TextInputModes::AuthenticateFirstStep}};
-    SetPasswordData(form.AuthenticateTextField->text(), payload->digest);
+    SetPasswordData(form.AuthenticateTextField->secret(), payload->digest);
     const IOReturn result = writeAuthPayload(Device(), *payload);
 
     if (result == kIOReturnNoDevice) {
@@ -120,7 +120,7 @@ void AppDelegate::AuthenticateCancelAction() {
     TerminateApplication();
 }
 
-void AppDelegate::SetPasswordData(const QString& password, PasswordDigest& digest) const {
+void AppDelegate::SetPasswordData(QStringView password, PasswordDigest& digest) const {
     const auto length = static_cast<std::size_t>(password.size());
     Wiped<std::array<std::uint8_t, PasswordLimits::LongestPassword>> characters;
     if (length > characters->size()) {
@@ -132,7 +132,8 @@ void AppDelegate::SetPasswordData(const QString& password, PasswordDigest& diges
                 characters->begin());
     wipe(encoded);
     // The digest is of the characters alone, not of the padded buffer.
-    digest = digestOf(std::span(*characters).first(length));
+    const Wiped<PasswordDigest> result{digestOf(std::span(*characters).first(length))};
+    digest = *result;
 }
 
 } // namespace zelto

@@ -2,7 +2,6 @@
 #include "device/DeviceReads.h"
 #include "device/DeviceWrites.h"
 #include "digest/Wipe.h"
-#include "settings/SecretText.h"
 #include "ui/Strings.h"
 
 namespace zelto {
@@ -22,8 +21,7 @@ void AppDelegate::MainSettingsOKAction() {
         showSettingsCues();
         return;
     }
-    wipePasswords(Settings.PasswordSettingsParameters);
-    wipeText(Settings.StrEncryptionKey);
+    Settings.wipeSecrets();
     UpdateUserDefaultsShowRemainingTime();
     if (Settings.InitialSetting) {
         beginSetupProgress();
@@ -93,8 +91,8 @@ bool AppDelegate::changeSecondPassword() {
     const auto& passwords = Settings.PasswordSettingsParameters;
     Wiped<AuthInfo> info{{.kind = AuthInfo::Change,
                           .numberOfTrials = static_cast<std::uint8_t>(passwords.NumberOfTrials)}};
-    SetPasswordData(passwords.strNew2ndPassword, info->slot1);
-    SetPasswordData(passwords.strCurrent2ndPassword, info->slot2);
+    SetPasswordData(passwords.strNew2ndPassword.view(), info->slot1);
+    SetPasswordData(passwords.strCurrent2ndPassword.view(), info->slot2);
     const IOReturn result = writeAuthInfo(Device(), *info, AuthInfoUse::Change);
     if (result != kIOReturnSuccess) {
         reportRefusedChange(result, "IDS_ERR_CURRENT_2ND_PASSWORD_INVALID");
@@ -106,10 +104,10 @@ bool AppDelegate::changeSecondPassword() {
 bool AppDelegate::changeFirstPassword(AuthInfo::Kind kind) {
     const auto& passwords = Settings.PasswordSettingsParameters;
     Wiped<AuthInfo> info{{.kind = kind}};
-    SetPasswordData(passwords.strNew1stPassword, info->slot1);
-    SetPasswordData(passwords.strCurrent1stPassword, info->slot2);
+    SetPasswordData(passwords.strNew1stPassword.view(), info->slot1);
+    SetPasswordData(passwords.strCurrent1stPassword.view(), info->slot2);
     if (kind == AuthInfo::ChangeBoth) {
-        SetPasswordData(passwords.strNew2ndPassword, info->slot3);
+        SetPasswordData(passwords.strNew2ndPassword.view(), info->slot3);
     }
     const IOReturn result = writeAuthInfo(Device(), *info, AuthInfoUse::Change);
     if (result != kIOReturnSuccess) {

@@ -4,7 +4,6 @@
 #include "device/IORegistry.h"
 #include "device/ZELTOctrl.h"
 #include "settings/KeyDigits.h"
-#include "settings/SecretText.h"
 #include "ui/Strings.h"
 
 namespace zelto {
@@ -26,23 +25,22 @@ bool hasKeyToClear(SecurityState state) {
 void AppDelegate::MainSettingsEncryptionKeyAction() {
     auto& form = EncryptionKeyWindow;
     TextInputMode = TextInputModes::EncryptionKey;
-    form.EncryptionKeyText->setText(unsharedCopy(Settings.StrEncryptionKey));
+    form.EncryptionKeyText->setSecret(Settings.StrEncryptionKey.view());
     UpdateEncryptionKeyWindow();
 
     if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
-        wipeText(Settings.StrEncryptionKey);
-        Settings.StrEncryptionKey = unsharedCopy(form.EncryptionKeyText->text());
+        Settings.StrEncryptionKey = form.EncryptionKeyText->secretText();
     }
     TextInputMode = TextInputModes::MainSettings;
     form.orderOut();
-    form.EncryptionKeyText->clear();
+    form.EncryptionKeyText->wipe();
 }
 
 void AppDelegate::UpdateEncryptionKeyWindow() {
     auto& form = EncryptionKeyWindow;
-    const QString text = form.EncryptionKeyText->text();
-    form.EncryptionKeyOKButton->setEnabled(isValidKeyText(text));
-    showObstacle(*form.EncryptionKeyObstacle, keyObstacle(text));
+    const QStringView digits = form.EncryptionKeyText->secret();
+    form.EncryptionKeyOKButton->setEnabled(isValidKeyText(digits));
+    showObstacle(*form.EncryptionKeyObstacle, keyObstacle(digits));
 }
 
 void AppDelegate::EncryptionKeyOKAction() {

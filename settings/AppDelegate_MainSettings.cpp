@@ -1,7 +1,6 @@
 #include "app/AppDelegate.h"
 #include "device/DeviceReads.h"
 #include "settings/AreaPacking.h"
-#include "settings/SecretText.h"
 #include "settings/SettingsCues.h"
 #include "ui/Strings.h"
 
@@ -95,7 +94,7 @@ void AppDelegate::clearMainSettingsWindow() {
 bool AppDelegate::showSecurityOf(SecurityOccasion occasion, const DeviceStatus& status) {
     switch (occasion) {
     case SecurityOccasion::NothingToSecure:
-        wipeText(Settings.StrEncryptionKey);
+        Settings.StrEncryptionKey.clear();
         showSecurity(switchedOff(shownSecurity()));
         return true;
     case SecurityOccasion::FirstSecureAreaLaidOut:

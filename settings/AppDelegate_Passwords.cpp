@@ -1,7 +1,6 @@
 #include "app/AppDelegate.h"
 #include "settings/IntegerValue.h"
 #include "settings/PasswordRules.h"
-#include "settings/SecretText.h"
 #include "ui/Strings.h"
 
 #include <initializer_list>
@@ -26,9 +25,9 @@ void enable(std::initializer_list<QWidget*> controls, bool enabled) {
     }
 }
 
-void show(const QString& password, std::initializer_list<PasswordField*> fields) {
+void show(const SecretText& password, std::initializer_list<PasswordField*> fields) {
     for (PasswordField* field : fields) {
-        field->setText(unsharedCopy(password));
+        field->setSecret(password.view());
     }
 }
 
@@ -37,11 +36,6 @@ void wipeFields(std::initializer_list<PasswordField*> fields) {
     for (PasswordField* field : fields) {
         field->wipe();
     }
-}
-
-void keep(const PasswordField& field, QString& password) {
-    wipeText(password);
-    password = unsharedCopy(field.text());
 }
 
 /// A number not given yet leaves the field with what it shows.
@@ -80,8 +74,8 @@ void AppDelegate::DisplayPasswordSettingsWindow() {
     if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
         Changed.ChangePassword = true;
         parameters.Use1stAnd2ndPassword = meansTwo(*form.PS_1stOnlyOr1stAnd2ndRadioButton);
-        keep(*form.PS_1stPasswordText, parameters.strNew1stPassword);
-        keep(*form.PS_2ndPasswordText, parameters.strNew2ndPassword);
+        parameters.strNew1stPassword = form.PS_1stPasswordText->secretText();
+        parameters.strNew2ndPassword = form.PS_2ndPasswordText->secretText();
         parameters.NumberOfTrials = integerValue32(form.PS_2ndPasswordNumberOfTrials->text());
     }
     TextInputMode = TextInputModes::MainSettings;
@@ -124,10 +118,10 @@ void AppDelegate::keepChangedPasswords() {
     auto& parameters = Settings.PasswordSettingsParameters;
     Changed.ChangePassword = true;
     parameters.Use1stAnd2ndPassword = meansTwo(*form.PC_1stOnlyOr1stAnd2ndRadioButton);
-    keep(*form.PC_Current1stPasswordText, parameters.strCurrent1stPassword);
-    keep(*form.PC_New1stPasswordText, parameters.strNew1stPassword);
-    keep(*form.PC_Current2ndPasswordText, parameters.strCurrent2ndPassword);
-    keep(*form.PC_New2ndPasswordText, parameters.strNew2ndPassword);
+    parameters.strCurrent1stPassword = form.PC_Current1stPasswordText->secretText();
+    parameters.strNew1stPassword = form.PC_New1stPasswordText->secretText();
+    parameters.strCurrent2ndPassword = form.PC_Current2ndPasswordText->secretText();
+    parameters.strNew2ndPassword = form.PC_New2ndPasswordText->secretText();
     parameters.NumberOfTrials = integerValue32(form.PC_2ndPasswordNumberOfTrials->text());
 }
 
@@ -137,16 +131,13 @@ void AppDelegate::UpdatePasswordSettingsWindow() {
     enable(
         {form.PS_2ndPasswordText, form.PS_Again2ndPasswordText, form.PS_2ndPasswordNumberOfTrials},
         two);
-    // The views are into these texts, so the texts outlive the entries.
-    const QString first = form.PS_1stPasswordText->text();
-    const QString firstAgain = form.PS_Again1stPasswordText->text();
-    const QString second = form.PS_2ndPasswordText->text();
-    const QString secondAgain = form.PS_Again2ndPasswordText->text();
+    // The views are into this text, so it outlives the entries.
     const QString trials = form.PS_2ndPasswordNumberOfTrials->text();
-    const PasswordSettingsEntries entries{.firstAndSecond = two,
-                                          .first = {first, firstAgain},
-                                          .second = {second, secondAgain},
-                                          .trials = trials};
+    const PasswordSettingsEntries entries{
+        .firstAndSecond = two,
+        .first = {form.PS_1stPasswordText->secret(), form.PS_Again1stPasswordText->secret()},
+        .second = {form.PS_2ndPasswordText->secret(), form.PS_Again2ndPasswordText->secret()},
+        .trials = trials};
     form.PS_OKButton->setEnabled(passwordSettingsAreComplete(entries));
     showObstacle(*form.PS_Obstacle, passwordSettingsObstacle(entries));
 }
@@ -154,19 +145,16 @@ void AppDelegate::UpdatePasswordSettingsWindow() {
 /// The drive's number of passwords decides, not the radio: it cannot be changed here.
 void AppDelegate::UpdatePasswordChangeWindow() {
     auto& form = PasswordChangeWindow;
-    const QString currentFirst = form.PC_Current1stPasswordText->text();
-    const QString currentSecond = form.PC_Current2ndPasswordText->text();
-    const QString first = form.PC_New1stPasswordText->text();
-    const QString firstAgain = form.PC_AgainNew1stPasswordText->text();
-    const QString second = form.PC_New2ndPasswordText->text();
-    const QString secondAgain = form.PC_AgainNew2ndPasswordText->text();
+    // The views are into this text, so it outlives the entries.
     const QString trials = form.PC_2ndPasswordNumberOfTrials->text();
     const PasswordChangeEntries entries{
-        .currentFirst = currentFirst,
-        .currentSecond = currentSecond,
+        .currentFirst = form.PC_Current1stPasswordText->secret(),
+        .currentSecond = form.PC_Current2ndPasswordText->secret(),
         .renewed = {.firstAndSecond = Settings.PasswordSettingsParameters.Use1stAnd2ndPassword,
-                    .first = {first, firstAgain},
-                    .second = {second, secondAgain},
+                    .first = {form.PC_New1stPasswordText->secret(),
+                              form.PC_AgainNew1stPasswordText->secret()},
+                    .second = {form.PC_New2ndPasswordText->secret(),
+                               form.PC_AgainNew2ndPasswordText->secret()},
                     .trials = trials}};
     form.PC_OKButton->setEnabled(passwordChangeIsComplete(entries));
     showObstacle(*form.PC_Obstacle, passwordChangeObstacle(entries));

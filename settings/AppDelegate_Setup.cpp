@@ -50,22 +50,23 @@ bool AppDelegate::sendAreaInfos() {
 }
 
 bool AppDelegate::sendEncryptionInfo() {
-    Wiped<EncryptionInfo> info{{.automaticKey = shownSecurity().keyOrigin == KeyOrigin::Automatic}};
-    if (!info->automaticKey) {
-        info->key = keyOfDigits(Settings.StrEncryptionKey);
-    }
+    const bool isAutomatic = shownSecurity().keyOrigin == KeyOrigin::Automatic;
+    // The drive makes the key, or it is made here, in its place: a copy would stay behind.
+    const Wiped<EncryptionInfo> info{
+        {.automaticKey = isAutomatic,
+         .key = keyOfDigits(isAutomatic ? QStringView() : Settings.StrEncryptionKey.view())}};
     return !reportIfFailed(writeEncryptionInfo(Device(), *info));
 }
 
 bool AppDelegate::sendFirstPasswords() {
     const auto& passwords = Settings.PasswordSettingsParameters;
     Wiped<PasswordDigest> first;
-    SetPasswordData(passwords.strNew1stPassword, *first);
+    SetPasswordData(passwords.strNew1stPassword.view(), *first);
     if (!passwords.Use1stAnd2ndPassword) {
         return !reportIfFailed(writeFirstPassword(Device(), *first));
     }
     Wiped<PasswordDigest> second;
-    SetPasswordData(passwords.strNew2ndPassword, *second);
+    SetPasswordData(passwords.strNew2ndPassword.view(), *second);
     return !reportIfFailed(writeBothPasswords(Device(), *first, *second,
                                               static_cast<std::uint8_t>(passwords.NumberOfTrials)));
 }

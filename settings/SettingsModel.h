@@ -1,24 +1,22 @@
 #pragma once
 
 #include "device/AreaInfo.h"
-
-#include <QString>
+#include "digest/SecretText.h"
 
 #include <array>
 #include <cstdint>
 
 namespace zelto {
 
-/// The password choices as the dialogs edit them. The strings hold passwords in clear until the
-/// commit has digested them; `wipe` them when they are done with.
+/// The password choices as the dialogs edit them, in clear until the commit has digested them.
 struct _tagPasswordSettingsParameters {
     /// 0: only the first password; 1: first and second.
     bool Use1stAnd2ndPassword = false;
     /// In force now; only a password change asks for them.
-    QString strCurrent1stPassword = QStringLiteral("");
-    QString strCurrent2ndPassword = QStringLiteral("");
-    QString strNew1stPassword = QStringLiteral("");
-    QString strNew2ndPassword = QStringLiteral("");
+    SecretText strCurrent1stPassword;
+    SecretText strCurrent2ndPassword;
+    SecretText strNew1stPassword;
+    SecretText strNew2ndPassword;
     /// Trials allowed for the second password, 1 to 99; 0 when not given yet. Sent as its low byte.
     std::int32_t NumberOfTrials = 0;
 };
@@ -51,13 +49,22 @@ struct SettingsModel {
     std::array<std::uint64_t, 3> AreaSettingsDiskCapacity{};
     _tagPasswordSettingsParameters PasswordSettingsParameters;
     /// The key entered by hand, hexadecimal digits; empty when none.
-    QString StrEncryptionKey = QStringLiteral("");
+    SecretText StrEncryptionKey;
     /// The drive was never set up: the main settings window is in first-time set-up.
     bool InitialSetting = false;
     /// The drive had a secure area when the window opened.
     bool SecureAreaAlreadyExist = false;
     /// The area table as it stands has a secure area.
     bool SecureAreaExist = false;
+
+    /// The choices stay.
+    void wipeSecrets() {
+        PasswordSettingsParameters.strCurrent1stPassword.clear();
+        PasswordSettingsParameters.strCurrent2ndPassword.clear();
+        PasswordSettingsParameters.strNew1stPassword.clear();
+        PasswordSettingsParameters.strNew2ndPassword.clear();
+        StrEncryptionKey.clear();
+    }
 };
 
 /// What the user has touched in the main settings window. Nothing is ever cleared during a run.

@@ -1,7 +1,8 @@
 #include "ui/DigitCountHint.h"
 
+#include "ui/SecretField.h"
+
 #include <QEvent>
-#include <QLineEdit>
 
 namespace zelto {
 
@@ -18,16 +19,16 @@ bool DigitCountHint::event(QEvent* event) {
 }
 
 void DigitCountHint::findField() {
-    m_field = window()->findChild<QLineEdit*>(m_fieldName);
+    m_field = window()->findChild<SecretField*>(m_fieldName);
     if (m_field != nullptr) {
-        connect(m_field, &QLineEdit::textChanged, this, &DigitCountHint::refresh,
+        connect(m_field, &SecretField::secretChanged, this, &DigitCountHint::refresh,
                 Qt::UniqueConnection);
         refresh();
     }
 }
 
 void DigitCountHint::refresh() {
-    const qsizetype digits = m_field->text().size();
+    const qsizetype digits = m_field->secret().size();
     setText(digits % 2 == 0 ? tr("%1 of 128 digits").arg(digits)
                             : tr("%1 of 128 digits, one is missing").arg(digits));
 }

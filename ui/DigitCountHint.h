@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QString>
 
-class QLineEdit;
-
 namespace zelto {
+
+class SecretField;
 
 /// Counts the digits of a hexadecimal field of the window while it is filled. Decoration: it
 /// decides nothing.
@@ -28,7 +28,7 @@ private:
     void refresh();
 
     QString m_fieldName;
-    QLineEdit* m_field = nullptr;
+    SecretField* m_field = nullptr;
 };
 
 } // namespace zelto

@@ -1,19 +1,16 @@
 #pragma once
 
-#include <QLineEdit>
+#include "ui/SecretField.h"
 
 namespace zelto {
 
-/// A line for the digits of a key. Blanks, colons and line breaks between pasted digits are left
-/// out, so the text is the digits alone.
-class KeyField : public QLineEdit {
+/// A line for the digits of a key, which it shows. Blanks, colons and line breaks between the
+/// digits are left out, so the text is the digits alone.
+class KeyField : public SecretField {
     Q_OBJECT
 
 public:
     explicit KeyField(QWidget* parent = nullptr);
-
-private:
-    void keepDigitsTogether();
 };
 
 } // namespace zelto

@@ -1,7 +1,8 @@
 #include "ui/MatchHint.h"
 
+#include "ui/SecretField.h"
+
 #include <QEvent>
-#include <QLineEdit>
 
 #include <algorithm>
 
@@ -28,11 +29,11 @@ bool MatchHint::event(QEvent* event) {
 }
 
 void MatchHint::findFields() {
-    m_first = window()->findChild<QLineEdit*>(m_firstField);
-    m_second = window()->findChild<QLineEdit*>(m_secondField);
-    for (const QLineEdit* field : {m_first, m_second}) {
+    m_first = window()->findChild<SecretField*>(m_firstField);
+    m_second = window()->findChild<SecretField*>(m_secondField);
+    for (const SecretField* field : {m_first, m_second}) {
         if (field != nullptr) {
-            connect(field, &QLineEdit::textChanged, this, &MatchHint::refresh,
+            connect(field, &SecretField::secretChanged, this, &MatchHint::refresh,
                     Qt::UniqueConnection);
         }
     }
@@ -44,11 +45,11 @@ void MatchHint::refresh() {
 }
 
 QString MatchHint::verdict() const {
-    if (m_first == nullptr || m_second == nullptr || m_second->text().isEmpty()) {
+    if (m_first == nullptr || m_second == nullptr || m_second->secret().isEmpty()) {
         return {};
     }
-    return m_first->text() == m_second->text() ? tr("The two entries match.")
-                                               : tr("The two entries differ.");
+    return m_first->secret() == m_second->secret() ? tr("The two entries match.")
+                                                   : tr("The two entries differ.");
 }
 
 } // namespace zelto

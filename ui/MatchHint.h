@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QString>
 
-class QLineEdit;
-
 namespace zelto {
+
+class SecretField;
 
 /// Says whether two fields of the window hold the same text. Decoration: it decides nothing, and
 /// says nothing while the second field is empty or disabled.
@@ -36,8 +36,8 @@ private:
 
     QString m_firstField;
     QString m_secondField;
-    QLineEdit* m_first = nullptr;
-    QLineEdit* m_second = nullptr;
+    SecretField* m_first = nullptr;
+    SecretField* m_second = nullptr;
 };
 
 } // namespace zelto

@@ -9,86 +9,59 @@
 #include <QStyle>
 #include <QToolButton>
 
-#include <algorithm>
-
 namespace zelto {
 
 PasswordField::PasswordField(QWidget* parent)
-    : QLineEdit(parent), m_reveal(new QToolButton(this)), m_capsLockSign(new QLabel(this)) {
-    setDragEnabled(false);
+    : SecretField(isLineBreak, parent),
+      m_reveal(new QToolButton(this)),
+      m_capsLockSign(new QLabel(this)) {
     m_reveal->setFocusPolicy(Qt::NoFocus);
     m_reveal->setAutoRaise(true);
     m_reveal->setCursor(Qt::ArrowCursor);
     m_reveal->setToolTip(tr("Hold to see the password"));
     m_reveal->setAccessibleName(m_reveal->toolTip());
-    connect(m_reveal, &QToolButton::pressed, this, [this] { reveal(Shown::Text); });
-    connect(m_reveal, &QToolButton::released, this, [this] { reveal(Shown::Dots); });
+    connect(m_reveal, &QToolButton::pressed, this, [this] { show(Shown::Text); });
+    connect(m_reveal, &QToolButton::released, this, [this] { show(Shown::Bullets); });
 
     m_capsLockSign->setToolTip(tr("Caps Lock seems to be on"));
     m_capsLockSign->setAccessibleName(m_capsLockSign->toolTip());
     m_capsLockSign->setCursor(Qt::ArrowCursor);
     m_capsLockSign->hide();
 
-    reveal(Shown::Dots);
     renderIcons();
-    connect(this, &QLineEdit::textEdited, this, &PasswordField::dropHistoryAndLineBreaks);
-}
-
-PasswordField::~PasswordField() {
-    // No signals any more: the form's other widgets may be gone already.
-    blockSignals(true);
-    wipe();
 }
 
 void PasswordField::wipe() {
-    overwriteOwnCharacters();
-    setText(QString());
+    SecretField::wipe();
     setCapsLock(false);
-}
-
-// The characters are overwritten in place: writing through a QString would make a second copy
-// first. They are left alone while another QString shares them, whose text would change with them
-// and whose owner has to wipe it; and where they are a constant of the program, which is read-only.
-void PasswordField::overwriteOwnCharacters() {
-    constexpr int FieldAndThisFunction = 2;
-    QString characters = text();
-    auto* const storage = characters.data_ptr().d_ptr();
-    if (storage != nullptr && storage->ref_.loadRelaxed() == FieldAndThisFunction) {
-        std::fill_n(characters.data_ptr().data(), characters.size(), u' ');
-    }
 }
 
 void PasswordField::keyPressEvent(QKeyEvent* event) {
     followCapsLock(*event);
-    // While the text is shown Qt would let it be copied.
-    if (event->matches(QKeySequence::Copy) || event->matches(QKeySequence::Cut)) {
-        event->accept();
-        return;
-    }
-    QLineEdit::keyPressEvent(event);
+    SecretField::keyPressEvent(event);
 }
 
 void PasswordField::contextMenuEvent(QContextMenuEvent* event) {
-    reveal(Shown::Dots);
-    QLineEdit::contextMenuEvent(event);
+    show(Shown::Bullets);
+    SecretField::contextMenuEvent(event);
 }
 
 void PasswordField::focusOutEvent(QFocusEvent* event) {
-    reveal(Shown::Dots);
+    show(Shown::Bullets);
     setCapsLock(false);
-    QLineEdit::focusOutEvent(event);
+    SecretField::focusOutEvent(event);
 }
 
 void PasswordField::hideEvent(QHideEvent* event) {
-    reveal(Shown::Dots);
-    QLineEdit::hideEvent(event);
+    show(Shown::Bullets);
+    SecretField::hideEvent(event);
 }
 
 void PasswordField::changeEvent(QEvent* event) {
-    QLineEdit::changeEvent(event);
+    SecretField::changeEvent(event);
     switch (event->type()) {
     case QEvent::EnabledChange:
-        reveal(Shown::Dots);
+        show(Shown::Bullets);
         break;
     case QEvent::PaletteChange:
     case QEvent::FontChange:
@@ -101,26 +74,8 @@ void PasswordField::changeEvent(QEvent* event) {
 }
 
 void PasswordField::resizeEvent(QResizeEvent* event) {
-    QLineEdit::resizeEvent(event);
+    SecretField::resizeEvent(event);
     placeIcons();
-}
-
-void PasswordField::reveal(Shown shown) {
-    if (shown == Shown::Dots) {
-        deselect();
-    }
-    setEchoMode(shown == Shown::Text ? QLineEdit::Normal : QLineEdit::Password);
-    // Changing the echo mode resets the hints.
-    setInputMethodHints(Qt::ImhHiddenText | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText |
-                        Qt::ImhNoAutoUppercase);
-}
-
-// Setting the text anew forgets how it came about.
-void PasswordField::dropHistoryAndLineBreaks() {
-    const QString entered = text();
-    const qsizetype cursor = withoutLineBreaks(entered.left(cursorPosition())).size();
-    setText(withoutLineBreaks(entered));
-    setCursorPosition(static_cast<int>(cursor));
 }
 
 // Qt can't be asked for the state of Caps Lock, but a letter whose case doesn't go with Shift

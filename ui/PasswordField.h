@@ -1,25 +1,21 @@
 #pragma once
 
-#include <QLineEdit>
+#include "ui/SecretField.h"
 
 class QLabel;
 class QToolButton;
 
 namespace zelto {
 
-/// A line for a password, without line breaks. It shows dots; its eye shows the text only while it
-/// is held down. It warns while letters arrive as with Caps Lock, gives nothing to the clipboard,
-/// and keeps no history of what was typed.
-class PasswordField : public QLineEdit {
+/// A line for a password, without line breaks. It shows bullets; its eye shows the text only while
+/// it is held down. It warns while letters arrive as with Caps Lock.
+class PasswordField : public SecretField {
     Q_OBJECT
 
 public:
     explicit PasswordField(QWidget* parent = nullptr);
-    ~PasswordField() override;
 
-    /// Empties the field and overwrites its characters in memory, unless a QString got from text()
-    /// still shares them. Copies that Qt made on the way here, in events or the input method, are
-    /// out of reach. Silent for textEdited.
+    /// As SecretField, and the warning goes.
     void wipe();
 
     /// Letters arrive as if Caps Lock were on.
@@ -34,11 +30,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    enum class Shown { Dots, Text };
-
-    void reveal(Shown shown);
-    void overwriteOwnCharacters();
-    void dropHistoryAndLineBreaks();
     void followCapsLock(const QKeyEvent& event);
     void setCapsLock(bool on);
     void renderIcons();

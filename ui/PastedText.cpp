@@ -1,7 +1,6 @@
 #include "ui/PastedText.h"
 
 namespace zelto {
-namespace {
 
 bool isLineBreak(QChar character) {
     switch (character.unicode()) {
@@ -18,16 +17,8 @@ bool isLineBreak(QChar character) {
     }
 }
 
-} // namespace
-
-QString withoutLineBreaks(QString text) {
-    return text.removeIf(isLineBreak);
-}
-
-QString withoutDigitSeparators(QString text) {
-    return text.removeIf([](QChar character) {
-        return isLineBreak(character) || character.isSpace() || character == u':';
-    });
+bool isDigitSeparator(QChar character) {
+    return isLineBreak(character) || character.isSpace() || character == u':';
 }
 
 } // namespace zelto

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QString>
+#include <QChar>
 
 namespace zelto {
 
-/// What pasted text brings along unseen, taken out: line breaks of every kind. A line that is
-/// copied from a file or a mail often ends with one.
-[[nodiscard]] QString withoutLineBreaks(QString text);
+/// A line break of whatever kind. A line that is copied from a file or a mail often ends with one,
+/// unseen.
+[[nodiscard]] bool isLineBreak(QChar character);
 
-/// The same, and the blanks and colons that people write between the digits of a key.
-[[nodiscard]] QString withoutDigitSeparators(QString text);
+/// What people write between the digits of a key: blanks, colons, line breaks.
+[[nodiscard]] bool isDigitSeparator(QChar character);
 
 } // namespace zelto

@@ -3,7 +3,6 @@
 #include "simulator/computer/DriveOnBus.h"
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 

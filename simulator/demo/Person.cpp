@@ -1,5 +1,6 @@
 #include "simulator/demo/Person.h"
 
+#include "ui/SecretField.h"
 #include "ui/Window.h"
 
 #include <QAbstractButton>
@@ -137,6 +138,9 @@ QString Person::text(const char* control) const {
     const QWidget* const found = find(control);
     if (const auto* const label = qobject_cast<const QLabel*>(found)) {
         return label->text();
+    }
+    if (const auto* const secret = qobject_cast<const SecretField*>(found)) {
+        return secret->secret().toString();
     }
     if (const auto* const line = qobject_cast<const QLineEdit*>(found)) {
         return line->text();

@@ -141,7 +141,7 @@ TEST_F(DesktopTest, ARefusedPasswordIsSelectedSoThatTypingReplacesIt) {
     const auto& field = *app().AuthenticateWindow.AuthenticateTextField;
     EXPECT_EQ(app().AuthenticateWindow.focusWidget(), &field);
     EXPECT_EQ(field.selectedText().size(), 5);
-    EXPECT_EQ(field.text(), QStringLiteral("wrong"));
+    EXPECT_EQ(field.secret(), QStringLiteral("wrong"));
 }
 
 TEST_F(DesktopTest, NewsHaveTheirWeight) {

@@ -144,7 +144,7 @@ TEST_F(StartTest, EveryFieldStartsZeroOrEmpty) {
     EXPECT_FALSE(delegate.Settings.InitialSetting);
     EXPECT_FALSE(delegate.Settings.PasswordSettingsParameters.Use1stAnd2ndPassword);
     EXPECT_EQ(delegate.Settings.PasswordSettingsParameters.NumberOfTrials, 0);
-    EXPECT_EQ(delegate.Settings.StrEncryptionKey, QString());
+    EXPECT_TRUE(delegate.Settings.StrEncryptionKey.isEmpty());
     EXPECT_EQ(delegate.Setup.InitialSettingState, SetupProgress::NoSetup);
     EXPECT_FALSE(delegate.Changed.ChangePassword);
     EXPECT_FALSE(delegate.TimeStatusInvalid);

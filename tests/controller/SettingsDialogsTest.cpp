@@ -148,7 +148,7 @@ TEST_F(AreaDialog, ASecureAreaOffersTheSecurityControlsOnceAndKeepsThemAfterward
     layOut({.mebibytes = {"10", "0", "0"}, .secureDisk = 1});
     EXPECT_EQ(text("AutoClearText"), QStringLiteral("5"));
     EXPECT_TRUE(isChecked("AutoClearEnabledCheckBox"));
-    EXPECT_EQ(app().Settings.StrEncryptionKey, QStringLiteral("0A"));
+    EXPECT_EQ(app().Settings.StrEncryptionKey.view(), u"0A");
 
     layOut({.secureDisk = 0});
     EXPECT_FALSE(isChecked("AutoClearEnabledCheckBox"));
@@ -227,8 +227,8 @@ TEST_F(PasswordDialog, GoingBackToOnePasswordKeepsTheSecondOnesText) {
     });
     const auto& parameters = app().Settings.PasswordSettingsParameters;
     EXPECT_FALSE(parameters.Use1stAnd2ndPassword);
-    EXPECT_EQ(parameters.strNew1stPassword, QStringLiteral("abc"));
-    EXPECT_EQ(parameters.strNew2ndPassword, QStringLiteral("def"));
+    EXPECT_EQ(parameters.strNew1stPassword.view(), u"abc");
+    EXPECT_EQ(parameters.strNew2ndPassword.view(), u"def");
     EXPECT_EQ(parameters.NumberOfTrials, 7);
     EXPECT_TRUE(okIsEnabled());
 }
@@ -245,9 +245,8 @@ TEST_F(PasswordDialog, OpenedAgainItIsFilledAndOkIsEnabledAtOnce) {
         EXPECT_TRUE(isEnabled("PS_OKButton"));
         type("PS_1stPasswordText", "other");
     });
-    EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew1stPassword, QStringLiteral("first"));
-    EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew2ndPassword,
-              QStringLiteral("second"));
+    EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew1stPassword.view(), u"first");
+    EXPECT_EQ(app().Settings.PasswordSettingsParameters.strNew2ndPassword.view(), u"second");
 }
 
 TEST_F(PasswordDialog, AClosedDialogHoldsNoPassword) {
@@ -316,7 +315,7 @@ TEST_F(KeyDialog, OpenedAgainItShowsTheKeyAsTyped) {
         EXPECT_EQ(text("EncryptionKeyText"), QStringLiteral("0aFF"));
         EXPECT_TRUE(isEnabled("EncryptionKeyOKButton"));
     });
-    EXPECT_EQ(app().Settings.StrEncryptionKey, QStringLiteral("0aFF"));
+    EXPECT_EQ(app().Settings.StrEncryptionKey.view(), u"0aFF");
 }
 
 TEST(AreaSettingsObject, RunsItsWindowAndReturnsZero) {

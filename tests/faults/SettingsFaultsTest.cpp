@@ -141,8 +141,8 @@ TEST_P(SettingsFaults, OfAChangeKeepTheWindowOpenWithTheEntries) {
            .afterFailure =
                [&] {
                    windowStaysWithOkEnabled();
-                   EXPECT_EQ(app().Settings.PasswordSettingsParameters.strCurrent1stPassword,
-                             QStringLiteral("first"));
+                   EXPECT_EQ(app().Settings.PasswordSettingsParameters.strCurrent1stPassword.view(),
+                             u"first");
                },
            .unchecked = afterTheCommit});
 }

@@ -15,29 +15,29 @@ QString saidBy(const Window& form) {
 TEST(MatchHintTest, SaysNothingBeforeTheSecondEntry) {
     Form<Ui::PasswordSettingsWindow> form;
     form.centreAndMakeKeyAndOrderFront();
-    form.PS_1stPasswordText->setText(QStringLiteral("abc"));
+    form.PS_1stPasswordText->setSecret(QStringLiteral("abc"));
     EXPECT_TRUE(saidBy<MatchHint>(form).isEmpty());
 }
 
 TEST(MatchHintTest, TellsMatchingFromDifferingEntries) {
     Form<Ui::PasswordSettingsWindow> form;
     form.centreAndMakeKeyAndOrderFront();
-    form.PS_1stPasswordText->setText(QStringLiteral("abc"));
-    form.PS_Again1stPasswordText->setText(QStringLiteral("abd"));
+    form.PS_1stPasswordText->setSecret(QStringLiteral("abc"));
+    form.PS_Again1stPasswordText->setSecret(QStringLiteral("abd"));
     const QString differs = saidBy<MatchHint>(form);
-    form.PS_Again1stPasswordText->setText(QStringLiteral("abc"));
+    form.PS_Again1stPasswordText->setSecret(QStringLiteral("abc"));
     const QString matches = saidBy<MatchHint>(form);
     EXPECT_FALSE(differs.isEmpty());
     EXPECT_FALSE(matches.isEmpty());
     EXPECT_NE(differs, matches);
-    form.PS_Again1stPasswordText->clear();
+    form.PS_Again1stPasswordText->wipe();
     EXPECT_TRUE(saidBy<MatchHint>(form).isEmpty());
 }
 
 TEST(MatchHintTest, KnowsEntriesThatWereFilledBeforeTheWindowOpened) {
     Form<Ui::PasswordChangeWindow> form;
-    form.PC_New1stPasswordText->setText(QStringLiteral("abc"));
-    form.PC_AgainNew1stPasswordText->setText(QStringLiteral("abc"));
+    form.PC_New1stPasswordText->setSecret(QStringLiteral("abc"));
+    form.PC_AgainNew1stPasswordText->setSecret(QStringLiteral("abc"));
     form.centreAndMakeKeyAndOrderFront();
     EXPECT_FALSE(saidBy<MatchHint>(form).isEmpty());
 }
@@ -45,8 +45,8 @@ TEST(MatchHintTest, KnowsEntriesThatWereFilledBeforeTheWindowOpened) {
 TEST(MatchHintTest, NeverShowsAPassword) {
     Form<Ui::PasswordSettingsWindow> form;
     form.centreAndMakeKeyAndOrderFront();
-    form.PS_1stPasswordText->setText(QStringLiteral("S3cr3t"));
-    form.PS_Again1stPasswordText->setText(QStringLiteral("S3cr3t"));
+    form.PS_1stPasswordText->setSecret(QStringLiteral("S3cr3t"));
+    form.PS_Again1stPasswordText->setSecret(QStringLiteral("S3cr3t"));
     EXPECT_FALSE(saidBy<MatchHint>(form).contains(QStringLiteral("S3cr3t")));
 }
 
@@ -59,9 +59,9 @@ TEST(MatchHintTest, StaysSilentWithoutItsFields) {
 TEST(DigitCountHintTest, CountsAndTellsAHalfByte) {
     Form<Ui::EncryptionKeyWindow> form;
     form.centreAndMakeKeyAndOrderFront();
-    form.EncryptionKeyText->setText(QStringLiteral("0A1"));
+    form.EncryptionKeyText->setSecret(QStringLiteral("0A1"));
     const QString odd = saidBy<DigitCountHint>(form);
-    form.EncryptionKeyText->setText(QStringLiteral("0A1B"));
+    form.EncryptionKeyText->setSecret(QStringLiteral("0A1B"));
     const QString even = saidBy<DigitCountHint>(form);
     EXPECT_TRUE(odd.startsWith(QStringLiteral("3 ")));
     EXPECT_TRUE(even.startsWith(QStringLiteral("4 ")));

@@ -127,7 +127,7 @@ TEST_F(ModalRun, KeepsWhatWasTypedForTheNextRun) {
                   dialog.stopModal(Window::ModalCancel);
               }),
               Window::ModalCancel);
-    EXPECT_EQ(dialog.PS_1stPasswordText->text(), QStringLiteral("abc"));
+    EXPECT_EQ(dialog.PS_1stPasswordText->secret(), QStringLiteral("abc"));
 }
 
 TEST(WindowTest, GrowsWhenAHintAppearsInIt) {
