@@ -238,6 +238,14 @@ void typeText(QWidget& field, const QString& text) {
     }
 }
 
+/// One character more, so that no request ever holds the whole of a secret.
+void typeLetter(QWidget& field, QChar letter) {
+    field.window()->activateWindow();
+    field.setFocus(Qt::TabFocusReason);
+    press(field.window()->windowHandle(), letter.toUpper().unicode(),
+          letter.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, letter);
+}
+
 QJsonObject answerWindows() {
     QJsonArray windows;
     const auto all = visibleWindows();
@@ -325,6 +333,14 @@ QJsonObject answerForWidget(const QString& verb, QWidget& widget, const QJsonObj
     }
     if (verb == QLatin1String("type")) {
         typeText(widget, request.value(QLatin1String("text")).toString());
+        return {};
+    }
+    if (verb == QLatin1String("letter")) {
+        const QString text = request.value(QLatin1String("text")).toString();
+        if (text.size() != 1) {
+            return error(QStringLiteral("that is not one letter"));
+        }
+        typeLetter(widget, text.front());
         return {};
     }
     if (verb == QLatin1String("choose")) {

@@ -157,6 +157,13 @@ class Program:
         shown = (text, "●" * len(text))
         self._wait(f"{widget} is filled in", lambda: self.text(widget) in shown)
 
+    def type_secretly(self, widget, text):
+        """Leaves no copy of the text in the program beside what the program itself makes."""
+        self.wait_for_enabled(widget)
+        for letter in text:
+            self.ask("letter", widget=widget, text=letter)
+        self._wait(f"{widget} is filled in", lambda: self.text(widget) == "●" * len(text))
+
     def press(self, key):
         """In the window that has the keyboard."""
         self._do("press", key=key)
