@@ -201,7 +201,8 @@ void SecretField::mouseReleaseEvent(QMouseEvent* event) {
 void SecretField::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu(this);
     QAction* const pasting = menu.addAction(tr("&Paste"), this, [this] { paste(); });
-    pasting->setEnabled(QApplication::clipboard()->mimeData()->hasText());
+    const QMimeData* const offered = QApplication::clipboard()->mimeData();
+    pasting->setEnabled(offered != nullptr && offered->hasText());
     QAction* const selecting = menu.addAction(tr("Select &All"), this, &QLineEdit::selectAll);
     selecting->setEnabled(!m_secret.isEmpty());
     menu.exec(event->globalPos());
