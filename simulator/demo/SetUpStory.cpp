@@ -3,7 +3,6 @@
 #include "ui/Strings.h"
 #include "ui/Window.h"
 
-
 namespace zelto::simulator {
 
 namespace {

@@ -3,7 +3,6 @@
 #include "device/ZELTOctrl.h"
 #include "simulator/drive/DriveNames.h"
 
-
 namespace zelto::simulator {
 
 namespace {
