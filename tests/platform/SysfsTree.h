@@ -81,9 +81,10 @@ public:
         set(place, "dm/name", mapping);
         addNumber(place, number);
         for (const auto& below : standsOn) {
-            m_folder.link("devices/" + below + "/holders/" + name,
-                          (m_folder.path() / "devices" / place).string());
-            const auto slaves = std::filesystem::path("devices") / place / "slaves";
+            const std::filesystem::path devices("devices");
+            m_folder.link((devices / below / "holders" / name).string(),
+                          (m_folder.path() / devices / place).string());
+            const auto slaves = devices / place / "slaves";
             m_folder.link((slaves / std::filesystem::path(below).filename()).string(),
                           (m_folder.path() / "devices" / below).string());
         }

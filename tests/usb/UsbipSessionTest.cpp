@@ -7,7 +7,7 @@ using namespace simulator;
 using ::testing::ElementsAreArray;
 
 /// Where the fourth block of the commands begins in the medium.
-constexpr std::ptrdiff_t Block4 = 4 * 512;
+constexpr std::ptrdiff_t Block4 = std::ptrdiff_t{4} * 512;
 
 class UsbipOperations : public UsbTest {
 protected:
@@ -272,7 +272,8 @@ TEST_F(UsbipTransfers, HostThatDoesNotTakeItsAnswersIsNotAskedForMore) {
     }
     put(batch);
     EXPECT_LE(session.toSend().size(), UsbipSession::MaximumTransfer + (std::size_t{1} << 20));
-    EXPECT_EQ(take().size(), 3U * (3 * 48 + 13) + std::size_t{3} * UsbipSession::MaximumTransfer);
+    EXPECT_EQ(take().size(),
+              std::size_t{3} * (3 * 48 + 13) + std::size_t{3} * UsbipSession::MaximumTransfer);
 }
 
 } // namespace
