@@ -37,9 +37,7 @@ def a_pasted_password_leaves_no_trace(ring):
     drive = ring.set_up_drive()
     program = flows.open_log_in(ring)
     traces = Traces(program.process_id, flows.FIRST, vendor.digest(flows.FIRST))
-    status, output = ring.desktop.run(
-        ["sh", "-c", 'printf "%s\n" "$1" | xclip -selection clipboard >/dev/null 2>&1', "sh", flows.FIRST])
-    expect(f"it is in the clipboard {output}".strip(), status == 0)
+    offer(ring, "clipboard", flows.FIRST + "\n")
     program.press("Ctrl+V")
     wait_for("it is in its field, without the line break",
              lambda: program.text("AuthenticateTextField") == "●" * len(flows.FIRST))
@@ -47,6 +45,31 @@ def a_pasted_password_leaves_no_trace(ring):
     program.wait_for_window("UnlockingWindow")
     expect_equal("the drive's state", drive.requests.state(), vendor.UNLOCKED)
     expect_no_trace(traces, "after log-in")
+
+
+def offer(ring, selection, text):
+    """As another program does in which something was copied or selected."""
+    status, output = ring.desktop.run(
+        ["sh", "-c", 'printf %s "$1" | xclip -selection "$2" >/dev/null 2>&1', "sh", text,
+         selection])
+    expect(f"something is in the {selection} {output}".strip(), status == 0)
+
+
+@scenario
+def no_key_takes_a_password_out_of_its_field(ring):
+    ring.set_up_drive()
+    program = flows.open_log_in(ring)
+    selections = ("clipboard", "primary")
+    for selection in selections:
+        offer(ring, selection, "before")
+    program.type_secretly("AuthenticateTextField", flows.FIRST)
+    for key in ("Shift+Home", "Ctrl+C", "Ctrl+X", "Ctrl+Ins", "Ctrl+A", "Ctrl+C", "Ctrl+K",
+                "Ctrl+A", "Ctrl+U", "Ctrl+A", "Del"):
+        program.press(key)
+    wait_for("the keys have arrived", lambda: program.text("AuthenticateTextField") == "")
+    for selection in selections:
+        _, output = ring.desktop.run(["xclip", "-o", "-selection", selection])
+        expect_equal(f"what is in the {selection}", output, "before")
 
 
 @scenario
