@@ -33,6 +33,11 @@ if(ZELTO_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(ZELTO_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+    add_link_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(ZELTO_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
     add_link_options(--coverage)
