@@ -1,5 +1,6 @@
 #include "simulator/virtual-drive/Options.h"
 
+#include "simulator/drive/DriveState.h"
 #include "simulator/drive/SectorStore.h"
 
 #include <algorithm>
@@ -69,7 +70,7 @@ constexpr std::array Rows{
 
 std::optional<std::uint64_t> parseSize(std::string_view text) {
     constexpr std::string_view Units = "KMGT";
-    constexpr std::uint64_t Largest = std::uint64_t{1} << 52;
+    constexpr std::uint64_t Largest = MostSectors * SectorSize;
     std::uint64_t value = 0;
     const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc{} || value > Largest) {

@@ -70,11 +70,13 @@ TEST(DriveSizes, AreSectors) {
     EXPECT_EQ(parseSize("64M"), 131072U);
     EXPECT_EQ(parseSize("2G"), 4194304U);
     EXPECT_EQ(parseSize("1T"), std::uint64_t{1} << 31);
+    EXPECT_EQ(parseSize("2T"), std::uint64_t{1} << 32);
 }
 
 TEST(DriveSizes, OfNonsenseAreNone) {
-    for (const char* const text : {"", "0", "0G", "511", "513", "1k", "1GB", "-512", "+512", " 512",
-                                   "M", "99999999999999999999", "18014398509481984", "999999T"}) {
+    for (const char* const text :
+         {"", "0", "0G", "511", "513", "1k", "1GB", "-512", "+512", " 512", "M",
+          "99999999999999999999", "18014398509481984", "3T", "999999T"}) {
         EXPECT_EQ(parseSize(text), std::nullopt) << text;
     }
 }
