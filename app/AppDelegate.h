@@ -103,8 +103,11 @@ public:
     void DisplaySelectZeltoWindow();
     void UpdateAccessHint();
     void SelectZeltoUpdateAction();
+    void SelectZeltoShowRuleAction();
     void SelectZeltoOKAction();
     void SelectZeltoCancelAction();
+    void DeviceRuleCopyAction();
+    void DeviceRuleCloseAction();
 
     // --- Log-in: session/AppDelegate_Authentication.cpp ---------------------------------------
 
@@ -221,6 +224,7 @@ public:
     // --- The windows: their controls are their own members, under the controls' given names ---
 
     Form<Ui::SelectZeltoWindow> SelectZeltoWindow;
+    Form<Ui::DeviceRuleWindow> DeviceRuleWindow;
     Form<Ui::AuthenticateWindow> AuthenticateWindow;
     Form<Ui::UnlockedWindow> UnlockedWindow;
     Form<Ui::UnlockingWindow> UnlockingWindow;

@@ -9,7 +9,11 @@ void AppDelegate::connectSessionWindows() {
     onClick(SelectZeltoWindow.SelectZeltoOK, this, &AppDelegate::SelectZeltoOKAction);
     onClick(SelectZeltoWindow.SelectZeltoUpdate, this, &AppDelegate::SelectZeltoUpdateAction);
     onClick(SelectZeltoWindow.SelectZeltoCancel, this, &AppDelegate::SelectZeltoCancelAction);
+    onClick(SelectZeltoWindow.SelectZeltoShowRule, this, &AppDelegate::SelectZeltoShowRuleAction);
     onClose(SelectZeltoWindow, this, &AppDelegate::SelectZeltoCancelAction);
+
+    onClick(DeviceRuleWindow.DeviceRuleCopy, this, &AppDelegate::DeviceRuleCopyAction);
+    onClick(DeviceRuleWindow.DeviceRuleClose, this, &AppDelegate::DeviceRuleCloseAction);
 
     onClick(AuthenticateWindow.AuthenticateSubmit, this, &AppDelegate::AuthenticateSubmitAction);
     onClick(AuthenticateWindow.AuthenticateCancel, this, &AppDelegate::AuthenticateCancelAction);

@@ -4,7 +4,11 @@
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "session/ClockText.h"
+#include "ui/DeviceRule.h"
 #include "ui/Strings.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <array>
@@ -135,11 +139,29 @@ void AppDelegate::UpdateAccessHint() {
     auto& hint = *SelectZeltoWindow.SelectZeltoAccessHint;
     hint.setText(accessHint(Drives.refusedAccess()));
     hint.setVisible(Drives.refusedAccess() != AttachedDrives::Access::Granted);
+    SelectZeltoWindow.SelectZeltoShowRule->setVisible(Drives.refusedAccess() ==
+                                                      AttachedDrives::Access::RuleMissing);
 }
 
 void AppDelegate::SelectZeltoUpdateAction() {
     TryRefusedDrivesAgain(Drives);
     DisplaySelectZeltoWindow();
+}
+
+/// The text comes from the program that runs here: whatever lies on a drive may have been changed
+/// by whoever had it, and this is obeyed by root.
+void AppDelegate::SelectZeltoShowRuleAction() {
+    DeviceRuleWindow.DeviceRuleCommand->setPlainText(deviceRuleCommand());
+    (void)DeviceRuleWindow.runModal(&SelectZeltoWindow);
+    DeviceRuleWindow.orderOut();
+}
+
+void AppDelegate::DeviceRuleCopyAction() {
+    QGuiApplication::clipboard()->setText(DeviceRuleWindow.DeviceRuleCommand->toPlainText());
+}
+
+void AppDelegate::DeviceRuleCloseAction() {
+    DeviceRuleWindow.stopModal(Window::ModalCancel);
 }
 
 void AppDelegate::SelectZeltoOKAction() {

@@ -4,6 +4,7 @@
 
 #include "ui_AreaSettingsWindow.h"
 #include "ui_AuthenticateWindow.h"
+#include "ui_DeviceRuleWindow.h"
 #include "ui_EncryptionKeyWindow.h"
 #include "ui_MainSettingsWindow.h"
 #include "ui_PasswordChangeWindow.h"

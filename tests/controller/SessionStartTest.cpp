@@ -1,4 +1,8 @@
 #include "tests/controller/SessionBench.h"
+#include "ui/DeviceRule.h"
+
+#include <QClipboard>
+#include <QPlainTextEdit>
 
 namespace zelto::test {
 namespace {
@@ -257,6 +261,27 @@ TEST_F(StartTest, UpdateTakesADriveThatTheOtherCopyHasLetGo) {
 TEST_F(StartTest, NoHintIsShownWithoutADriveThatWasRefused) {
     start();
     EXPECT_FALSE(control("SelectZeltoAccessHint")->isVisible());
+    EXPECT_FALSE(control("SelectZeltoShowRule")->isVisible());
+}
+
+TEST_F(StartTest, TheMissingRuleCanBeSeenAndCopiedWithTheCommandThatAddsIt) {
+    plugPreparedDrive()->describe().openResult = kIOReturnNotPrivileged;
+    start();
+    press("SelectZeltoShowRule", [this] {
+        press("DeviceRuleCopy");
+        const QString copied = QGuiApplication::clipboard()->text();
+        EXPECT_EQ(copied, deviceRuleCommand());
+        EXPECT_EQ(control<QPlainTextEdit>("DeviceRuleCommand")->toPlainText(), copied);
+        press("DeviceRuleClose");
+    });
+    EXPECT_EQ(visibleWindow(), "SelectZeltoWindow");
+}
+
+TEST_F(StartTest, TheRuleIsOfferedOnlyWhereItIsMissing) {
+    plugPreparedDrive()->describe().openResult = kIOReturnNotPermitted;
+    start();
+    EXPECT_TRUE(control("SelectZeltoAccessHint")->isVisible());
+    EXPECT_FALSE(control("SelectZeltoShowRule")->isVisible());
 }
 
 // --- The tool area -----------------------------------------------------------------------------

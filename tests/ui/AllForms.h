@@ -27,6 +27,7 @@ std::unique_ptr<Window> createForm() {
 inline std::vector<FormUnderTest> allForms() {
     return {
         {"SelectZeltoWindow", createForm<Ui::SelectZeltoWindow>},
+        {"DeviceRuleWindow", createForm<Ui::DeviceRuleWindow>},
         {"AuthenticateWindow", createForm<Ui::AuthenticateWindow>},
         {"UnlockedWindow", createForm<Ui::UnlockedWindow>},
         {"UnlockingWindow", createForm<Ui::UnlockingWindow>},

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
@@ -37,6 +38,10 @@ const ControlRow Controls[] = {
     {__LINE__, "SelectZeltoWindow", "SelectZeltoUpdate", Button, true},
     {__LINE__, "SelectZeltoWindow", "SelectZeltoCancel", Button, true},
     {__LINE__, "SelectZeltoWindow", "SelectZeltoAccessHint", Label, true},
+    {__LINE__, "SelectZeltoWindow", "SelectZeltoShowRule", Button, true},
+    {__LINE__, "DeviceRuleWindow", "DeviceRuleCommand", &QPlainTextEdit::staticMetaObject, true},
+    {__LINE__, "DeviceRuleWindow", "DeviceRuleCopy", Button, true},
+    {__LINE__, "DeviceRuleWindow", "DeviceRuleClose", Button, true},
     {__LINE__, "AuthenticateWindow", "AuthenticateMessage", Label, true},
     {__LINE__, "AuthenticateWindow", "AuthenticateTextField", Password, true},
     {__LINE__, "AuthenticateWindow", "AuthenticateSubmit", Button, false},
