@@ -102,6 +102,7 @@ public:
     /// Fills the selection window from the list of drives; does not bring it forward.
     void DisplaySelectZeltoWindow();
     void UpdateAccessHint();
+    void UpdateDriveSign();
     void SelectZeltoUpdateAction();
     void SelectZeltoShowRuleAction();
     void SelectZeltoOKAction();

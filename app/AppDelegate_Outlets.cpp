@@ -10,6 +10,7 @@ void AppDelegate::connectSessionWindows() {
     onClick(SelectZeltoWindow.SelectZeltoUpdate, this, &AppDelegate::SelectZeltoUpdateAction);
     onClick(SelectZeltoWindow.SelectZeltoCancel, this, &AppDelegate::SelectZeltoCancelAction);
     onClick(SelectZeltoWindow.SelectZeltoShowRule, this, &AppDelegate::SelectZeltoShowRuleAction);
+    onChoice(SelectZeltoWindow.SelectZeltoComboBox, this, &AppDelegate::UpdateDriveSign);
     onClose(SelectZeltoWindow, this, &AppDelegate::SelectZeltoCancelAction);
 
     onClick(DeviceRuleWindow.DeviceRuleCopy, this, &AppDelegate::DeviceRuleCopyAction);

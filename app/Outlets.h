@@ -4,6 +4,7 @@
 #include "ui/Window.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QObject>
 
@@ -17,6 +18,12 @@ using Action = void (Delegate::*)();
 template <typename Delegate>
 void onClick(QAbstractButton* button, Delegate* delegate, Action<Delegate> action) {
     QObject::connect(button, &QAbstractButton::clicked, button,
+                     [delegate, action] { (delegate->*action)(); });
+}
+
+template <typename Delegate>
+void onChoice(QComboBox* list, Delegate* delegate, Action<Delegate> action) {
+    QObject::connect(list, &QComboBox::activated, list,
                      [delegate, action] { (delegate->*action)(); });
 }
 

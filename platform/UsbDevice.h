@@ -3,6 +3,7 @@
 #include "platform/Result.h"
 
 #include <cstdint>
+#include <string>
 
 namespace zelto {
 
@@ -38,6 +39,11 @@ public:
     /// The device's stay on the bus: no two devices that are attached have the same number, and a
     /// device gets another one each time it is plugged in. Never blocks, never fails.
     [[nodiscard]] virtual std::uint32_t GetLocationID() const = 0;
+
+    /// The socket that it is plugged into, as people and the system's tools write it: "1-2" is the
+    /// second port of the first bus, "1-2.4" the fourth of a hub there. Empty where that is not
+    /// known. Never blocks, never fails.
+    [[nodiscard]] virtual std::string GetPortName() const = 0;
 
     /// Opens the device for control transfers and for nobody else: kIOReturnExclusiveAccess tells
     /// that another program of this kind has it, and then it is not open here. No interface is

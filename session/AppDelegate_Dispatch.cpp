@@ -4,6 +4,7 @@
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "session/ClockText.h"
+#include "session/DriveSign.h"
 #include "ui/DeviceRule.h"
 #include "ui/Strings.h"
 
@@ -29,6 +30,14 @@ QString accessHint(AttachedDrives::Access access) {
         return localized("IDS_HINT_DRIVE_IN_USE");
     }
     return {};
+}
+
+QString wordsOf(const DriveSign& sign) {
+    if (sign.serial.isEmpty()) {
+        return localized("IDS_DRIVE_PORT", sign.port);
+    }
+    return sign.port.isEmpty() ? localized("IDS_DRIVE_SERIAL", sign.serial)
+                               : localized("IDS_DRIVE_SERIAL_AND_PORT", sign.serial, sign.port);
 }
 
 /// In an idle drive, and in states without a name, there is nothing to show; the program stays.
@@ -131,7 +140,17 @@ void AppDelegate::DisplaySelectZeltoWindow() {
     form.SelectZeltoOK->setEnabled(anyDrive);
     form.SelectZeltoComboBox->setCurrentIndex(0);
 
+    UpdateDriveSign();
     UpdateAccessHint();
+}
+
+/// Below the list, of the drive that is chosen in it.
+void AppDelegate::UpdateDriveSign() {
+    const int chosen = SelectZeltoWindow.SelectZeltoComboBox->currentIndex();
+    auto& line = *SelectZeltoWindow.SelectZeltoSign;
+    line.setText(Drives.DevCnt == 0 ? QString()
+                                    : wordsOf(driveSign(Drives, static_cast<std::size_t>(chosen))));
+    line.setVisible(Drives.DevCnt != 0);
 }
 
 /// Beside the list, of the drives that are attached at this moment.

@@ -166,6 +166,18 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source></source>
         <translation>Whole drive</translation>
     </message>
+    <message id="IDS_DRIVE_SERIAL">
+        <source></source>
+        <translation>Serial number: %1</translation>
+    </message>
+    <message id="IDS_DRIVE_SERIAL_AND_PORT">
+        <source></source>
+        <translation>Serial number: %1, in USB port %2</translation>
+    </message>
+    <message id="IDS_DRIVE_PORT">
+        <source></source>
+        <translation>No serial number, in USB port %1</translation>
+    </message>
     <message id="IDS_HINT_RULE_MISSING">
         <source></source>
         <translation>One ZELTO DISK that is plugged in is not in this list, because this computer does not let you use it yet. Install the program’s package, or ask your administrator to add its device rule, then plug the drive in again.</translation>

@@ -74,6 +74,10 @@ public:
     }
 
     [[nodiscard]] std::uint32_t GetLocationID() const override { return m_announcement.location; }
+    /// sysfs calls the device so.
+    [[nodiscard]] std::string GetPortName() const override {
+        return m_announcement.syspath.substr(m_announcement.syspath.rfind('/') + 1);
+    }
 
     /// Opening an open device changes nothing and succeeds.
     [[nodiscard]] IOReturn USBDeviceOpen() override;

@@ -21,6 +21,7 @@ public:
         return m_device->GetDeviceProduct();
     }
     [[nodiscard]] std::uint32_t GetLocationID() const override { return m_device->GetLocationID(); }
+    [[nodiscard]] std::string GetPortName() const override { return m_device->GetPortName(); }
     [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override {
         return m_device->GetDeviceReleaseNumber();
     }

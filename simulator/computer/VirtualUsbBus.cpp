@@ -36,6 +36,9 @@ public:
         return m_description.bcdDevice;
     }
     [[nodiscard]] std::uint32_t GetLocationID() const override { return m_attachment->location; }
+    [[nodiscard]] std::string GetPortName() const override {
+        return "1-" + std::to_string(m_attachment->location);
+    }
     [[nodiscard]] IOReturn USBDeviceOpen() override {
         if (!m_attachment->isAttached) {
             return kIOReturnNoDevice;

@@ -17,6 +17,7 @@ public:
     [[nodiscard]] std::uint16_t GetDeviceProduct() const override { return 0x0135; }
     [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override { return 0x0102; }
     [[nodiscard]] std::uint32_t GetLocationID() const override { return 9; }
+    [[nodiscard]] std::string GetPortName() const override { return "1-9"; }
     [[nodiscard]] IOReturn USBDeviceOpen() override { return kIOReturnSuccess; }
     [[nodiscard]] std::uint8_t USBGetSerialNumberStringIndex() const override { return 7; }
     [[nodiscard]] IOReturn DeviceRequest(IOUSBDevRequest& request) override {
@@ -57,6 +58,7 @@ TEST_F(FaultyDeviceTest, PassesEverythingOnWithoutAPlan) {
     EXPECT_EQ(m_device.GetDeviceProduct(), 0x0135);
     EXPECT_EQ(m_device.GetDeviceReleaseNumber(), 0x0102);
     EXPECT_EQ(m_device.GetLocationID(), 9U);
+    EXPECT_EQ(m_device.GetPortName(), "1-9");
     EXPECT_EQ(m_device.USBDeviceOpen(), kIOReturnSuccess);
     EXPECT_EQ(m_device.USBGetSerialNumberStringIndex(), 7);
     EXPECT_EQ(read(), kIOReturnSuccess);

@@ -43,6 +43,41 @@ TEST_F(SessionDispatchTest, TwoDrivesAreListedFromNumberZeroAndTheFirstIsChosen)
     EXPECT_FALSE(isEnabled("SelectZeltoUpdate"));
 }
 
+TEST_F(SessionDispatchTest, BelowTheListStandsTheSerialNumberOfTheChosenDrive) {
+    plugPreparedDrive({.serial = "ZD-A"});
+    plugPreparedDrive({.serial = "ZD-B"});
+    start();
+    EXPECT_EQ(text("SelectZeltoSign"), localized("IDS_DRIVE_SERIAL", QStringLiteral("ZD-A")));
+    person.choose("SelectZeltoComboBox", 1);
+    EXPECT_EQ(text("SelectZeltoSign"), localized("IDS_DRIVE_SERIAL", QStringLiteral("ZD-B")));
+}
+
+TEST_F(SessionDispatchTest, DrivesWithOneSerialNumberAreToldApartByTheirPorts) {
+    plugPreparedDrive({.serial = "ZD-A"});
+    plugPreparedDrive({.serial = "ZD-A"});
+    start();
+    const auto shown = [this](const char* port) {
+        return text("SelectZeltoSign") == localized("IDS_DRIVE_SERIAL_AND_PORT",
+                                                    QStringLiteral("ZD-A"),
+                                                    QString::fromLatin1(port));
+    };
+    EXPECT_TRUE(shown("1-1")) << text("SelectZeltoSign").toStdString();
+    person.choose("SelectZeltoComboBox", 1);
+    EXPECT_TRUE(shown("1-2")) << text("SelectZeltoSign").toStdString();
+}
+
+TEST_F(SessionDispatchTest, ADriveWithoutASerialNumberIsKnownByItsPort) {
+    plugPreparedDrive({.serial = ""});
+    plugPreparedDrive({.serial = "ZD-B"});
+    start();
+    EXPECT_EQ(text("SelectZeltoSign"), localized("IDS_DRIVE_PORT", QStringLiteral("1-1")));
+}
+
+TEST_F(SessionDispatchTest, WithoutADriveNoSerialNumberIsShown) {
+    start();
+    EXPECT_FALSE(control<QLabel>("SelectZeltoSign")->isVisible());
+}
+
 TEST_F(SessionDispatchTest, TheChosenDriveIsTheOneThatIsTalkedTo) {
     plugPreparedDrive({.serial = "ZD-A"});
     plugPreparedDrive({.serial = "ZD-B"});

@@ -217,6 +217,14 @@ TEST_F(UsbTest, OpensADriveAndCarriesItsRequests) {
     EXPECT_EQ(serial[10], 0) << "the rest stays as it was";
 }
 
+TEST_F(UsbTest, NamesThePortThatADriveIsIn) {
+    const auto syspath = bed.plug(2);
+    listenForArrivals();
+    const auto drive = services.front()->IOCreatePlugInInterfaceForService();
+    EXPECT_FALSE(drive->GetPortName().empty());
+    EXPECT_TRUE(syspath.ends_with("/" + drive->GetPortName())) << drive->GetPortName();
+}
+
 TEST_F(UsbTest, TellsAStallATimeOutAnOverrunAndABrokenTransferApart) {
     bed.plug(2);
     listenForArrivals();

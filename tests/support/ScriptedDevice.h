@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace zelto::test {
@@ -48,6 +49,7 @@ public:
     std::uint16_t release = 0x0100;
     std::uint8_t serialNumberIndex = 3;
     std::uint32_t location = nextLocation();
+    std::string port = "1-1";
     IOReturn openResult = kIOReturnSuccess;
     /// Answers to the next transfers, in order.
     std::deque<Answer> script;
@@ -62,6 +64,7 @@ public:
     [[nodiscard]] std::uint16_t GetDeviceProduct() const override { return product; }
     [[nodiscard]] std::uint16_t GetDeviceReleaseNumber() const override { return release; }
     [[nodiscard]] std::uint32_t GetLocationID() const override { return location; }
+    [[nodiscard]] std::string GetPortName() const override { return port; }
     [[nodiscard]] IOReturn USBDeviceOpen() override {
         ++timesOpened;
         return openResult;
