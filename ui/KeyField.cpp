@@ -5,7 +5,7 @@
 namespace zelto {
 
 KeyField::KeyField(QWidget* parent) : SecretField(isDigitSeparator, parent) {
-    show(Shown::Text);
+    setShown(Shown::Text);
 }
 
 } // namespace zelto

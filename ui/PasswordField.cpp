@@ -20,8 +20,8 @@ PasswordField::PasswordField(QWidget* parent)
     m_reveal->setCursor(Qt::ArrowCursor);
     m_reveal->setToolTip(tr("Hold to see the password"));
     m_reveal->setAccessibleName(m_reveal->toolTip());
-    connect(m_reveal, &QToolButton::pressed, this, [this] { show(Shown::Text); });
-    connect(m_reveal, &QToolButton::released, this, [this] { show(Shown::Bullets); });
+    connect(m_reveal, &QToolButton::pressed, this, [this] { setShown(Shown::Text); });
+    connect(m_reveal, &QToolButton::released, this, [this] { setShown(Shown::Bullets); });
 
     m_capsLockSign->setToolTip(tr("Caps Lock seems to be on"));
     m_capsLockSign->setAccessibleName(m_capsLockSign->toolTip());
@@ -42,18 +42,18 @@ void PasswordField::keyPressEvent(QKeyEvent* event) {
 }
 
 void PasswordField::contextMenuEvent(QContextMenuEvent* event) {
-    show(Shown::Bullets);
+    setShown(Shown::Bullets);
     SecretField::contextMenuEvent(event);
 }
 
 void PasswordField::focusOutEvent(QFocusEvent* event) {
-    show(Shown::Bullets);
+    setShown(Shown::Bullets);
     setCapsLock(false);
     SecretField::focusOutEvent(event);
 }
 
 void PasswordField::hideEvent(QHideEvent* event) {
-    show(Shown::Bullets);
+    setShown(Shown::Bullets);
     SecretField::hideEvent(event);
 }
 
@@ -61,7 +61,7 @@ void PasswordField::changeEvent(QEvent* event) {
     SecretField::changeEvent(event);
     switch (event->type()) {
     case QEvent::EnabledChange:
-        show(Shown::Bullets);
+        setShown(Shown::Bullets);
         break;
     case QEvent::PaletteChange:
     case QEvent::FontChange:

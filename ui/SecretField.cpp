@@ -1,6 +1,7 @@
 #include "ui/SecretField.h"
 
 #include "digest/Wipe.h"
+#include "ui/TypedText.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -17,22 +18,6 @@ namespace zelto {
 namespace {
 
 constexpr QChar Bullet = u'\u25CF';
-
-/// As the toolkit's own line decides it.
-bool isTyped(const QKeyEvent& press) {
-    const QString text = press.text();
-    if (text.isEmpty()) {
-        return false;
-    }
-    const QChar first = text.front();
-    if (first.category() == QChar::Other_Format || first.isSurrogate() ||
-        first.category() == QChar::Other_PrivateUse) {
-        return true;
-    }
-    const Qt::KeyboardModifiers shortcut = press.modifiers() & ~Qt::ShiftModifier;
-    return first.isPrint() && shortcut != Qt::ControlModifier && shortcut != Qt::AltModifier &&
-           shortcut != Qt::MetaModifier;
-}
 
 /// The toolkit would copy, or bring back, what it has only bullets for.
 bool isForNothing(const QKeyEvent& press) {
@@ -59,11 +44,6 @@ SecretField::SecretField(Separator isSeparator, QWidget* parent)
     connect(this, &QLineEdit::textChanged, this, &SecretField::followBullets);
 }
 
-SecretField::~SecretField() {
-    // The form's other widgets may be gone already.
-    blockSignals(true);
-}
-
 void SecretField::setSecret(QStringView text) {
     m_secret.assign({text.utf16(), static_cast<std::size_t>(text.size())});
     const QScopedValueRollback leading(m_isLeading, true);
@@ -75,7 +55,7 @@ void SecretField::wipe() {
     setSecret({});
 }
 
-void SecretField::show(Shown shown) {
+void SecretField::setShown(Shown shown) {
     if (shown == Shown::Bullets && m_shown == Shown::Text) {
         deselect();
     }
@@ -84,14 +64,7 @@ void SecretField::show(Shown shown) {
 }
 
 void SecretField::insertSecret(QStringView text) {
-    SecretText kept;
-    for (const QChar character : text) {
-        if (!m_isSeparator(character)) {
-            const char16_t unit = character.unicode();
-            (void)kept.insert(kept.size(), {&unit, 1});
-        }
-    }
-    if (kept.isEmpty()) {
+    if (std::ranges::all_of(text, m_isSeparator)) {
         return;
     }
     std::size_t at = place(cursorPosition());
@@ -99,8 +72,13 @@ void SecretField::insertSecret(QStringView text) {
         at = place(selectionStart());
         m_secret.erase(at, place(selectionLength()));
     }
-    const std::size_t count = m_secret.insert(at, kept.view());
-    showBullets(static_cast<int>(at + count));
+    for (const QChar character : text) {
+        if (!m_isSeparator(character)) {
+            const char16_t unit = character.unicode();
+            at += m_secret.insert(at, {&unit, 1});
+        }
+    }
+    showBullets(static_cast<int>(at));
     Q_EMIT secretChanged();
     Q_EMIT textEdited(QLineEdit::text());
 }
@@ -163,7 +141,7 @@ void SecretField::keyPressEvent(QKeyEvent* event) {
     }
     if (event->matches(QKeySequence::Paste)) {
         paste();
-    } else if (isTyped(*event)) {
+    } else if (isTypedText(*event)) {
         insertSecret(event->text());
     } else {
         QLineEdit::keyPressEvent(event);

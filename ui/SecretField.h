@@ -24,8 +24,6 @@ public:
 
     enum class Shown { Bullets, Text };
 
-    ~SecretField() override;
-
     /// Valid until the text changes.
     [[nodiscard]] QStringView secret() const { return m_secret.view(); }
     [[nodiscard]] const SecretText& secretText() const { return m_secret; }
@@ -49,7 +47,7 @@ Q_SIGNALS:
 protected:
     SecretField(Separator isSeparator, QWidget* parent);
 
-    void show(Shown shown);
+    void setShown(Shown shown);
 
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;

@@ -1,5 +1,7 @@
 #include "ui/TypeAhead.h"
 
+#include "ui/TypedText.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QWidget>
@@ -10,21 +12,7 @@ namespace {
 TypeAhead* living = nullptr;
 
 bool isForText(const QKeyEvent& press) {
-    switch (press.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Escape:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-        return false;
-    case Qt::Key_Backspace:
-    case Qt::Key_Delete:
-        return true;
-    default:
-        return !press.text().isEmpty() && press.text().front().isPrint() &&
-               !press.modifiers().testFlag(Qt::AltModifier) &&
-               !press.modifiers().testFlag(Qt::ControlModifier);
-    }
+    return press.key() == Qt::Key_Backspace || press.key() == Qt::Key_Delete || isTypedText(press);
 }
 
 } // namespace

@@ -131,6 +131,13 @@ protected:
                          [] { return QDBusConnection("nowhere"); }, waiting};
 };
 
+class OneProgramInASession : public ::testing::Test {
+protected:
+    PrivateBus bus;
+    Start first{bus, "first"};
+    Start second{bus, "second"};
+};
+
 TEST_F(LinuxDesktopTest, KeepsTheComputerAwakeUntilTheHoldIsGone) {
     FakeLoginService login(bus.connection("login"));
     auto hold = desktop.keepAwake("The drive is being set up");
@@ -165,9 +172,7 @@ TEST_F(LinuxDesktopTest, StartsAlikeWithoutASessionBus) {
     EXPECT_FALSE(gaveWay);
 }
 
-TEST_F(LinuxDesktopTest, ANewStartTakesThePlaceOfACopyThatGivesWayAndWaitsForItsEnd) {
-    Start first(bus, "first");
-    Start second(bus, "second");
+TEST_F(OneProgramInASession, ANewStartTakesThePlaceOfACopyThatGivesWayAndWaitsForItsEnd) {
     first.takePlace();
     first.giveWayToNewStart();
     second.takePlace();
@@ -176,9 +181,7 @@ TEST_F(LinuxDesktopTest, ANewStartTakesThePlaceOfACopyThatGivesWayAndWaitsForIts
     EXPECT_TRUE(second.hasName());
 }
 
-TEST_F(LinuxDesktopTest, ACopyWithAWindowKeepsItsPlace) {
-    Start first(bus, "first");
-    Start second(bus, "second");
+TEST_F(OneProgramInASession, ACopyWithAWindowKeepsItsPlace) {
     first.takePlace();
     second.takePlace();
     EXPECT_EQ(first.timesGivenWay, 0);
@@ -186,18 +189,14 @@ TEST_F(LinuxDesktopTest, ACopyWithAWindowKeepsItsPlace) {
     EXPECT_TRUE(first.hasName());
 }
 
-TEST_F(LinuxDesktopTest, AStartBesideACopyWithAWindowTakesNoPlaceLaterEither) {
-    Start first(bus, "first");
-    Start second(bus, "second");
+TEST_F(OneProgramInASession, AStartBesideACopyWithAWindowTakesNoPlaceLaterEither) {
     first.takePlace();
     second.takePlace();
     first.end();
     EXPECT_FALSE(second.hasName());
 }
 
-TEST_F(LinuxDesktopTest, APlaceLeftByAnEndIsFree) {
-    Start first(bus, "first");
-    Start second(bus, "second");
+TEST_F(OneProgramInASession, APlaceLeftByAnEndIsFree) {
     first.takePlace();
     first.end();
     second.takePlace();
