@@ -21,8 +21,7 @@ constexpr std::size_t LongestPath = 200;
 
 bool AppDelegate::FormatDrive(const std::string& bsdName) {
     const EventGate::Closing closing(m_gate);
-    const auto* const drive = Drives.CurrentUsbIntf;
-    const DiskIdentity toolArea{.location = drive == nullptr ? 0 : drive->GetLocationID(),
+    const DiskIdentity toolArea{.location = Drives.currentLocation(),
                                 .mediaName = mediaName(Setup.ReservedAreaDiskNumber),
                                 .sectorCount = AreaUnits::ToolAreaSectors};
     return m_platform.disks.eraseDisk(bsdName, toolArea, ToolVolumeLabel);

@@ -16,7 +16,8 @@ void AppDelegate::GetBsdNameList(std::uint8_t diskNumber) {
     const ScanTarget target{.vendor = UsbIdentity::Vendor,
                             .product = Drives.FoundPid[Drives.SelectedZeltoIndex],
                             .serial = Drives.UsbSerial[Drives.SelectedZeltoIndex],
-                            .diskNumber = diskNumber};
+                            .diskNumber = diskNumber,
+                            .location = Drives.currentLocation()};
     // A drive that is not found has no volumes.
     (void)IORegistry::Scan_ZELTOusb(m_platform.registry, target, g_BsdNameList);
 }

@@ -33,6 +33,10 @@ struct AttachedDrives {
     std::array<std::uint16_t, Capacity> FoundPid{};
     /// The drive that every command goes to; null until one is chosen.
     UsbDeviceInterface* CurrentUsbIntf = nullptr;
+    /// Where that drive is (UsbDeviceInterface::GetLocationID); 0 while none is chosen.
+    [[nodiscard]] std::uint32_t currentLocation() const {
+        return CurrentUsbIntf == nullptr ? 0 : CurrentUsbIntf->GetLocationID();
+    }
     bool AlwaysUseSelectZeltoWindow = false;
 
     std::array<std::string, Capacity> UsbSerial{};

@@ -117,7 +117,7 @@ void CheckPropertiesUsb(const RegistryEntry& entry, const ScanNames& names, Scan
 
 bool IORegistry::Scan_ZELTOusb(Registry& registry, const ScanTarget& target,
                                std::vector<std::string>& names) {
-    const auto root = registry.IORegistryGetRootEntry();
+    const auto root = registry.IORegistryGetRootEntry({target.location, target.serial});
     if (!root) {
         failAssertion("service");
     }

@@ -18,6 +18,9 @@ struct ScanTarget {
     std::string serial;
     /// 0: the BSD names of every volume of the drive; n: only those of its disk number n.
     std::uint8_t diskNumber = 0;
+    /// Where it is open (UsbDeviceInterface::GetLocationID), so that no other drive of the same
+    /// serial number is taken for it; 0: the first drive that says so of itself.
+    std::uint32_t location = 0;
 };
 
 enum class ScanPhase : std::uint32_t {

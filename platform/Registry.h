@@ -54,6 +54,13 @@ public:
     [[nodiscard]] virtual std::unique_ptr<RegistryEntry> IOIteratorNext() = 0;
 };
 
+/// A device that this program has open, and what it read from it.
+struct OpenedDevice {
+    /// UsbDeviceInterface::GetLocationID; 0 for none.
+    std::uint32_t location = 0;
+    std::string serial;
+};
+
 /// The tree: the root, below it every USB device with its descendants down to disks and
 /// partitions, in the system's order, and after the last device one more entry, so that a walk
 /// always sees the end of the last device's subtree.
@@ -64,8 +71,13 @@ public:
     Registry& operator=(const Registry&) = delete;
     virtual ~Registry() = default;
 
-    /// Null when the system has no registry.
-    [[nodiscard]] virtual std::unique_ptr<RegistryEntry> IORegistryGetRootEntry() = 0;
+    /// The tree as somebody sees it who has opened a device: that device alone shows what it is,
+    /// and with the serial number that was read from it. Another one that says the same of itself
+    /// is still another one, and the system may have read a serial number differently, or not at
+    /// all. With nothing opened, each shows what the system has read. Null when the system has no
+    /// registry.
+    [[nodiscard]] virtual std::unique_ptr<RegistryEntry>
+    IORegistryGetRootEntry(const OpenedDevice& opened) = 0;
 };
 
 } // namespace zelto

@@ -70,7 +70,8 @@ std::string className(SysfsEntry::Kind kind) {
 
 class DeviceEntry final : public RegistryEntry {
 public:
-    explicit DeviceEntry(SysfsEntry device) : m_device(std::move(device)) {}
+    DeviceEntry(SysfsEntry device, const OpenedDevice& opened)
+        : m_device(std::move(device)), m_opened(opened) {}
 
     std::optional<std::string> IORegistryEntryGetNameInPlane(const std::string&) const override {
         return m_device.kind() == SysfsEntry::Kind::Disk ? mediaName(m_device)
@@ -91,7 +92,7 @@ public:
     IORegistryEntryGetChildIterator(const std::string&) const override {
         Entries entries;
         for (auto& child : m_device.children()) {
-            entries.push_back(std::make_unique<DeviceEntry>(std::move(child)));
+            entries.push_back(std::make_unique<DeviceEntry>(std::move(child), m_opened));
         }
         return std::make_unique<EntryList>(std::move(entries));
     }
@@ -103,18 +104,29 @@ private:
         }
     }
 
+    void addIdentity(RegistryProperties& properties) const;
+
     SysfsEntry m_device;
+    OpenedDevice m_opened;
 };
+
+void DeviceEntry::addIdentity(RegistryProperties& properties) const {
+    const bool isOpened = m_opened.location != 0 && m_device.usbLocation() == m_opened.location;
+    if (!isOpened && m_opened.location != 0) {
+        return;
+    }
+    addNumber(properties, "idVendor");
+    addNumber(properties, "idProduct");
+    if (auto serial = isOpened ? m_opened.serial : m_device.attribute("serial")) {
+        properties.emplace_back("USB Serial Number", std::move(*serial));
+    }
+}
 
 std::optional<RegistryProperties> DeviceEntry::IORegistryEntryCreateCFProperties() const {
     RegistryProperties properties;
     switch (m_device.kind()) {
     case SysfsEntry::Kind::UsbDevice:
-        addNumber(properties, "idVendor");
-        addNumber(properties, "idProduct");
-        if (auto serial = m_device.attribute("serial")) {
-            properties.emplace_back("USB Serial Number", std::move(*serial));
-        }
+        addIdentity(properties);
         break;
     case SysfsEntry::Kind::Disk:
     case SysfsEntry::Kind::Partition:
@@ -129,10 +141,10 @@ std::optional<RegistryProperties> DeviceEntry::IORegistryEntryCreateCFProperties
     return properties;
 }
 
-Entries listUsbDevices(const fs::path& sysfs) {
+Entries listUsbDevices(const fs::path& sysfs, const OpenedDevice& opened) {
     Entries entries;
     for (auto& device : usbDevices(sysfs)) {
-        entries.push_back(std::make_unique<DeviceEntry>(std::move(device)));
+        entries.push_back(std::make_unique<DeviceEntry>(std::move(device), opened));
     }
     entries.push_back(std::make_unique<PlainEntry>("End", "IOService", [] { return Entries{}; }));
     return entries;
@@ -140,9 +152,10 @@ Entries listUsbDevices(const fs::path& sysfs) {
 
 } // namespace
 
-std::unique_ptr<RegistryEntry> LinuxRegistry::IORegistryGetRootEntry() {
-    return std::make_unique<PlainEntry>("Root", "IORegistryEntry",
-                                        [sysfs = m_sysfs] { return listUsbDevices(sysfs); });
+std::unique_ptr<RegistryEntry> LinuxRegistry::IORegistryGetRootEntry(const OpenedDevice& opened) {
+    return std::make_unique<PlainEntry>("Root", "IORegistryEntry", [sysfs = m_sysfs, opened] {
+        return listUsbDevices(sysfs, opened);
+    });
 }
 
 } // namespace zelto::linux_platform

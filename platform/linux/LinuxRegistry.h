@@ -20,7 +20,8 @@ public:
     explicit LinuxRegistry(std::filesystem::path sysfs = "/sys") : m_sysfs(std::move(sysfs)) {}
 
     /// Never null: a computer without USB has a root with nothing but the closing entry below.
-    [[nodiscard]] std::unique_ptr<RegistryEntry> IORegistryGetRootEntry() override;
+    [[nodiscard]] std::unique_ptr<RegistryEntry>
+    IORegistryGetRootEntry(const OpenedDevice& opened) override;
 
 private:
     std::filesystem::path m_sysfs;

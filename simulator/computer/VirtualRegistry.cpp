@@ -97,15 +97,17 @@ NodePointer diskNode(const VirtualDisk& disk, const VirtualDisks& disks) {
 
 } // namespace
 
-NodePointer VirtualRegistry::deviceNode(const Attachment& attachment) const {
+NodePointer VirtualRegistry::deviceNode(const Attachment& attachment,
+                                        const OpenedDevice& opened) const {
     const UsbDescription& description = attachment.device->description();
     NodePointer node = makeNode(description.product, "IOUSBDevice");
-    node->properties = {{"sessionID", std::monostate()},
-                        {"idProduct", std::int64_t{description.idProduct}},
-                        {"bcdDevice", std::int64_t{description.bcdDevice}},
-                        {"idVendor", std::int64_t{description.idVendor}}};
-    if (description.iSerialNumber != 0) {
-        node->properties.emplace_back("USB Serial Number", description.serial);
+    const bool isOpened = opened.location == attachment.location;
+    if (isOpened || opened.location == 0) {
+        node->properties = {{"sessionID", std::monostate()},
+                            {"idProduct", std::int64_t{description.idProduct}},
+                            {"bcdDevice", std::int64_t{description.bcdDevice}},
+                            {"idVendor", std::int64_t{description.idVendor}},
+                            {"USB Serial Number", isOpened ? opened.serial : description.serial}};
     }
     const NodePointer interface = makeNode("IOUSBInterface@0", "IOUSBInterface");
     node->children.push_back(interface);
@@ -122,7 +124,7 @@ NodePointer VirtualRegistry::deviceNode(const Attachment& attachment) const {
     return node;
 }
 
-std::unique_ptr<RegistryEntry> VirtualRegistry::IORegistryGetRootEntry() {
+std::unique_ptr<RegistryEntry> VirtualRegistry::IORegistryGetRootEntry(const OpenedDevice& opened) {
     NodePointer root = makeNode("Root", "IORegistryEntry");
     const NodePointer computer = makeNode("VirtualComputer", "IOPlatformExpertDevice");
     root->children.push_back(computer);
@@ -131,7 +133,7 @@ std::unique_ptr<RegistryEntry> VirtualRegistry::IORegistryGetRootEntry() {
     const NodePointer hub = makeNode("Root Hub", "IOUSBHubDevice");
     controller->children.push_back(hub);
     for (const auto& attachment : m_bus.attachments()) {
-        hub->children.push_back(deviceNode(*attachment));
+        hub->children.push_back(deviceNode(*attachment, opened));
     }
     root->children.push_back(makeNode("IOResources", "IOService"));
     return std::make_unique<Entry>(std::move(root));

@@ -16,10 +16,12 @@ public:
     VirtualRegistry(const VirtualUsbBus& bus, const VirtualDisks& disks)
         : m_bus(bus), m_disks(disks) {}
 
-    [[nodiscard]] std::unique_ptr<RegistryEntry> IORegistryGetRootEntry() override;
+    [[nodiscard]] std::unique_ptr<RegistryEntry>
+    IORegistryGetRootEntry(const OpenedDevice& opened) override;
 
 private:
-    [[nodiscard]] std::shared_ptr<RegistryNode> deviceNode(const Attachment& attachment) const;
+    [[nodiscard]] std::shared_ptr<RegistryNode> deviceNode(const Attachment& attachment,
+                                                           const OpenedDevice& opened) const;
 
     const VirtualUsbBus& m_bus;
     const VirtualDisks& m_disks;

@@ -43,7 +43,7 @@ protected:
     }
     std::vector<std::string> walk() {
         std::vector<std::string> names;
-        walk(*m_computer.registry.IORegistryGetRootEntry(), names, m_properties);
+        walk(*m_computer.registry.IORegistryGetRootEntry({}), names, m_properties);
         return names;
     }
 

@@ -11,9 +11,9 @@ using testing::Not;
 /// Another drive, in use and mounted, stands beside the one that is worked on.
 class TwoDrives : public SettingsBench {
 protected:
-    TwoDrives() {
+    explicit TwoDrives(const std::string& otherSerial = OtherSerial) {
         computer.diskTool.setBeforeRun([this](const auto& bsdName) { noteRun(bsdName); });
-        m_other = plugPreparedDrive({.serial = OtherSerial});
+        m_other = plugPreparedDrive({.serial = otherSerial});
         m_remembered = m_other->drive().model().remembered();
         m_mounted = mountedOfOther();
         EXPECT_FALSE(m_mounted.empty());
@@ -126,6 +126,41 @@ TEST_F(TwoDrives, AnotherDriveThatArrivesWhileOneIsAwaitedIsNotTakenForIt) {
     EXPECT_EQ(app().Setup.InitialSettingState, 1);
     EXPECT_TRUE(app().Drives.WaitReconnectZelto);
     EXPECT_THAT(diskToolRuns(), IsEmpty());
+}
+
+/// The other one says of itself just what the one says, and stands before it in every list.
+class TwoDrivesOfOneSerial : public TwoDrives {
+protected:
+    TwoDrivesOfOneSerial() : TwoDrives(Serial) {}
+};
+
+TEST_F(TwoDrivesOfOneSerial, SettingOneUpNeverTouchesTheOther) {
+    begin();
+    fill({});
+    commit();
+    tick(15);
+    EXPECT_EQ(app().Setup.InitialSettingState, 4);
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_THAT(m_touchedDevices, Not(IsEmpty()));
+    expectOtherUntouched();
+}
+
+TEST_F(TwoDrivesOfOneSerial, LoggingOffOneLeavesTheVolumesOfTheOther) {
+    beginWithSettingsOf({});
+    app().MainSettingsWindow.orderOut();
+    app().DisplayUnlockedWindow();
+    press("UnlockedLogOff");
+    EXPECT_TRUE(hasQuit());
+    EXPECT_EQ(driveState(), SecurityState::StateLocked);
+    expectOtherUntouched();
+}
+
+TEST_F(TwoDrivesOfOneSerial, ClearingOneNeverTouchesTheOther) {
+    beginWithSettingsOf({});
+    pressAndConfirm("MainSettingsClearAllButton");
+    EXPECT_TRUE(hasQuit());
+    EXPECT_THAT(m_touchedDevices, Not(IsEmpty()));
+    expectOtherUntouched();
 }
 
 } // namespace

@@ -33,17 +33,18 @@ void outline(const RegistryEntry& entry, const std::string& indent,
 std::vector<std::string> outlineOf(const SysfsTree& tree) {
     std::vector<std::string> lines;
     LinuxRegistry registry(tree.path());
-    outline(*registry.IORegistryGetRootEntry(), "", lines);
+    outline(*registry.IORegistryGetRootEntry({}), "", lines);
     return lines;
 }
 
 /// What a walk of the whole tree finds; nothing when the walk says that it is not complete.
 std::optional<std::vector<std::string>> scan(const SysfsTree& tree, std::uint8_t diskNumber,
-                                             const std::string& serial = Serial) {
+                                             const std::string& serial = Serial,
+                                             std::uint32_t location = 0) {
     LinuxRegistry registry(tree.path());
     std::vector<std::string> names;
     const bool complete =
-        IORegistry::Scan_ZELTOusb(registry, {0x07f7, 0x0135, serial, diskNumber}, names);
+        IORegistry::Scan_ZELTOusb(registry, {0x07f7, 0x0135, serial, diskNumber, location}, names);
     return complete ? std::optional(names) : std::nullopt;
 }
 
@@ -58,6 +59,8 @@ protected:
 
     SysfsTree tree;
     const std::string place = "pci/usb1/1-1/1-1.2";
+    /// Bus 1, device 5.
+    static constexpr std::uint32_t Location = (1U << 16U) | 5U;
 };
 
 TEST_F(Drive, AppearsOnceBesideTheHubThatItHangsOn) {
@@ -79,7 +82,7 @@ TEST_F(Drive, ShowsDisksAndPartitionsInTheOrderOfItsUnits) {
 TEST_F(Drive, HasItsIdentifiersAsNumbersAndItsSerialAsText) {
     const SysfsEntry entry(tree.path() / "devices" / place);
     LinuxRegistry registry(tree.path());
-    const auto root = registry.IORegistryGetRootEntry();
+    const auto root = registry.IORegistryGetRootEntry({});
     const auto devices = root->IORegistryEntryGetChildIterator("IOService");
     const auto rootHub = devices->IOIteratorNext();
     const auto hub = devices->IOIteratorNext();
@@ -123,6 +126,38 @@ TEST_F(Drive, DoesNotMixWithADriveThatArrivedEarlierOnALaterPort) {
     tree.addDisk(other, 0, "sdd", "ZELTO DISK1     ", 2048);
     EXPECT_EQ(scan(tree, 0), std::vector<std::string>{"sdb"});
     EXPECT_EQ(scan(tree, 1, "ZDOTHER"), std::vector<std::string>{"sdd"});
+}
+
+TEST_F(Drive, IsTheOneThatIsOpenWhereAnotherSaysTheSameOfItself) {
+    for (const std::string& serial : {std::string(Serial), std::string()}) {
+        SysfsTree twins;
+        const std::string other = "pci/usb1/1-2";
+        twins.addUsbDevice(other, 1, 4, "07f7", "0135", serial);
+        twins.addUsbDevice(place, 1, 5, "07f7", "0135", serial);
+        twins.addDisk(other, 0, "sdb", "ZELTO DISK1     ", 2048);
+        twins.addDisk(place, 0, "sdc", "ZELTO DISK1     ", 2048);
+        EXPECT_EQ(scan(twins, 0, serial, Location), std::vector<std::string>{"sdc"});
+        EXPECT_EQ(scan(twins, 0, serial, Location - 1), std::vector<std::string>{"sdb"});
+    }
+}
+
+TEST_F(Drive, IsNotFoundOnceItHasLeftWhereAnotherSaysTheSameOfItself) {
+    tree.addDisk(place, 0, "sdb", "ZELTO DISK1     ", 2048);
+    EXPECT_EQ(scan(tree, 0, Serial, Location + 1), std::nullopt);
+}
+
+// The program keeps 63 characters of a serial number, and the low byte of each.
+TEST_F(Drive, IsFoundByItsPlaceWhateverTheKernelMakesOfItsSerialNumber) {
+    tree.addDisk(place, 0, "sdb", "ZELTO DISK1     ", 2048);
+    for (const std::string& kernels : {std::string(126, 'Z'), std::string("Z\u00d6LT\u014d")}) {
+        tree.set(place, "serial", kernels);
+        EXPECT_EQ(scan(tree, 0, std::string(63, 'Z'), Location), std::vector<std::string>{"sdb"});
+    }
+}
+
+TEST_F(Drive, IsNotTakenForAnotherProductThatHasItsPlace) {
+    tree.set(place, "idProduct", "0136");
+    EXPECT_EQ(scan(tree, 0, Serial, Location), std::nullopt);
 }
 
 TEST_F(Drive, HasNoDiskWhereTheUnitHasNoMedium) {
@@ -204,7 +239,7 @@ TEST_F(Drive, ReadsAsEmptyOnceItHasLeftInTheMiddleOfAWalk) {
     tree.addDisk(place, 0, "sdb", "ZELTO DISK1     ", 2048);
     LinuxRegistry registry(tree.path());
     const auto devices =
-        registry.IORegistryGetRootEntry()->IORegistryEntryGetChildIterator("IOService");
+        registry.IORegistryGetRootEntry({})->IORegistryEntryGetChildIterator("IOService");
     static_cast<void>(devices->IOIteratorNext());
     static_cast<void>(devices->IOIteratorNext());
     const auto drive = devices->IOIteratorNext();

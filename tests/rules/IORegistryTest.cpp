@@ -285,7 +285,7 @@ TEST(ScanState, AReservedFieldThatIsSetKeepsEntriesFromBeingExamined) {
     ScriptedRegistry registry(root);
     ScanState state;
     state.reserved = 1;
-    const auto entry = registry.IORegistryGetRootEntry();
+    const auto entry = registry.IORegistryGetRootEntry({});
     IORegistry::Scan(*entry, false, 0, state, {}, targetOf(AllDisks));
     EXPECT_EQ(state.phase, ScanPhase::Looking);
     EXPECT_EQ(registry.entriesTaken(), 16U);

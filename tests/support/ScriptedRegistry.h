@@ -40,7 +40,8 @@ public:
     /// A computer without a registry.
     ScriptedRegistry() = default;
 
-    [[nodiscard]] std::unique_ptr<RegistryEntry> IORegistryGetRootEntry() override {
+    [[nodiscard]] std::unique_ptr<RegistryEntry>
+    IORegistryGetRootEntry(const OpenedDevice& /*opened*/) override {
         return m_root == nullptr ? nullptr : std::make_unique<Entry>(*m_root, m_entriesTaken);
     }
 

@@ -42,16 +42,17 @@ protected:
         startWithDrive();
     }
 
-    /// Starts the program and chooses the drive, if there is anything to choose from.
+    /// Starts the program and chooses the drive, if there is anything to choose from: the one that
+    /// came last, where several have its serial number.
     void startWithDrive() {
         start();
         if (!app().SelectZeltoWindow.isVisible()) {
             return;
         }
         const auto& serials = app().Drives.UsbSerial;
-        const auto found = std::ranges::find(serials, Serial);
-        ASSERT_NE(found, serials.end());
-        person.choose("SelectZeltoComboBox", static_cast<int>(found - serials.begin()));
+        const auto found = std::find(serials.rbegin(), serials.rend(), Serial);
+        ASSERT_NE(found, serials.rend());
+        person.choose("SelectZeltoComboBox", static_cast<int>(serials.rend() - found) - 1);
         press("SelectZeltoOK");
     }
 
