@@ -24,7 +24,7 @@ void AppDelegate::GetBsdNameList(std::uint8_t diskNumber) {
 
 bool AppDelegate::UnmountVolume(const std::vector<std::string>& bsdNames, std::uint8_t eject) {
     const Desktop::Hold awake =
-        m_platform.desktop.keepAwake("The drive's volumes are being released");
+        m_platform.desktop.keepAwake(localized("IDS_AWAKE_RELEASE").toStdString());
     bool allSucceeded = true;
     for (const std::string& name : bsdNames) {
         // Read afresh for each name: ejecting a disk has unmounted its partitions too.

@@ -54,7 +54,8 @@ bool AppDelegate::Confirm(const char* messageKey) {
 }
 
 void AppDelegate::ReportUnmountFailure() {
-    const QString programs = foreignNames(m_platform.disks.holders(g_BsdNameList));
+    const QString programs =
+        foreignNames(m_platform.disks.holders(g_BsdNameList), localized("IDS_LIST_SEPARATOR"));
     ShowMessage(AlertWeight::Warning, localized("IDS_ERR_UNMOUNT"),
                 programs.isEmpty() ? QString() : localized("IDS_HINT_BUSY_PROGRAMS", programs));
 }

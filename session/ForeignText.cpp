@@ -49,7 +49,7 @@ QString foreignText(std::string_view text, std::size_t longest) {
     return shown;
 }
 
-QString foreignNames(const std::vector<std::string>& names) {
+QString foreignNames(const std::vector<std::string>& names, const QString& separator) {
     QStringList shown;
     for (std::size_t index = 0; index < std::min(names.size(), MostNames); ++index) {
         shown += foreignText(names[index], LongestName);
@@ -57,7 +57,7 @@ QString foreignNames(const std::vector<std::string>& names) {
     if (names.size() > MostNames) {
         shown += Ellipsis;
     }
-    return shown.join(QStringLiteral(", "));
+    return shown.join(separator);
 }
 
 } // namespace zelto

@@ -14,7 +14,8 @@ namespace zelto {
 /// an ellipsis where it was cut. Plain text: it is no markup, whatever it looks like.
 [[nodiscard]] QString foreignText(std::string_view text, std::size_t longest);
 
-/// Several such names, joined by commas; an ellipsis stands for what would be too many to read.
-[[nodiscard]] QString foreignNames(const std::vector<std::string>& names);
+/// Several such names with the separator between them; an ellipsis stands for what would be too
+/// many to read.
+[[nodiscard]] QString foreignNames(const std::vector<std::string>& names, const QString& separator);
 
 } // namespace zelto

@@ -79,7 +79,8 @@ bool AppDelegate::ZeltoChangeSettings() {
 }
 
 bool AppDelegate::changePasswords() {
-    const Desktop::Hold awake = m_platform.desktop.keepAwake("The passwords are being changed");
+    const Desktop::Hold awake =
+        m_platform.desktop.keepAwake(localized("IDS_AWAKE_PASSWORDS").toStdString());
     if (!Settings.PasswordSettingsParameters.Use1stAnd2ndPassword) {
         return changeFirstPassword(AuthInfo::Change);
     }

@@ -80,7 +80,7 @@ bool AppDelegate::sendPeriods() {
 
 /// From here on the timer leads: it waits for the drive, then for its tool area, and finishes.
 void AppDelegate::beginSetupProgress() {
-    m_awakeForSetup = m_platform.desktop.keepAwake("The drive is being set up");
+    m_awakeForSetup = m_platform.desktop.keepAwake(localized("IDS_AWAKE_SETUP").toStdString());
     Drives.WaitReconnectZelto = true;
     Setup.InitialSettingState = SetupProgress::WaitingForReconnect;
     Setup.WaitCount = SetupProgress::WaitTicks;

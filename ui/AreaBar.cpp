@@ -1,6 +1,7 @@
 #include "ui/AreaBar.h"
 
 #include "ui/Glyph.h"
+#include "ui/Strings.h"
 
 #include <QHelpEvent>
 #include <QLocale>
@@ -26,24 +27,24 @@ QString shortSize(std::uint64_t mebibytes) {
                                   1);
     };
     if (mebibytes >= Terabyte) {
-        return AreaBar::tr("%1 TB").arg(tenths(Terabyte));
+        return localized("IDS_SIZE_TB", tenths(Terabyte));
     }
     if (mebibytes >= 10 * Gigabyte) {
-        return AreaBar::tr("%1 GB").arg(tenths(Gigabyte));
+        return localized("IDS_SIZE_GB", tenths(Gigabyte));
     }
-    return AreaBar::tr("%1 MB").arg(mebibytes);
+    return localized("IDS_SIZE_MB", mebibytes);
 }
 
 QString kindWord(AreaBar::Kind kind) {
     switch (kind) {
     case AreaBar::Kind::Normal:
-        return AreaBar::tr("normal area");
+        return localized("IDS_BAR_NORMAL");
     case AreaBar::Kind::Secure:
-        return AreaBar::tr("secure area");
+        return localized("IDS_BAR_SECURE");
     case AreaBar::Kind::Tool:
-        return AreaBar::tr("tool area");
+        return localized("IDS_BAR_TOOL");
     case AreaBar::Kind::Free:
-        return AreaBar::tr("not used");
+        return localized("IDS_BAR_FREE");
     }
     return {};
 }
@@ -51,8 +52,8 @@ QString kindWord(AreaBar::Kind kind) {
 QString spoken(const AreaBar::Segment& segment) {
     const QString size = shortSize(segment.mebibytes);
     const QString kind = kindWord(segment.kind);
-    return segment.name.isEmpty() ? QStringLiteral("%1, %2").arg(kind, size)
-                                  : QStringLiteral("%1, %2, %3").arg(segment.name, kind, size);
+    return segment.name.isEmpty() ? localized("IDS_BAR_UNNAMED", kind, size)
+                                  : localized("IDS_BAR_NAMED", segment.name, kind, size);
 }
 
 QColor fillOf(AreaBar::Kind kind, const QPalette& palette) {
@@ -87,9 +88,9 @@ void AreaBar::setSegments(std::vector<Segment> segments, Fit fit) {
         description.append(spoken(segment));
     }
     if (m_fit == Fit::TooLarge) {
-        description.append(tr("together more than the drive can hold"));
+        description.append(localized("IDS_BAR_TOO_LARGE"));
     }
-    setAccessibleDescription(description.join(QStringLiteral("; ")));
+    setAccessibleDescription(description.join(localized("IDS_BAR_SEPARATOR")));
     update();
 }
 

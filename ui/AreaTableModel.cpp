@@ -1,5 +1,7 @@
 #include "ui/AreaTableModel.h"
 
+#include "ui/Strings.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -14,9 +16,9 @@ struct Column {
 };
 
 constexpr std::array<Column, 3> Columns{{
-    {"ColumnIDDisk", QT_TRANSLATE_NOOP("zelto::AreaTableModel", "Area"), Qt::AlignLeading},
-    {"ColumnIDType", QT_TRANSLATE_NOOP("zelto::AreaTableModel", "Kind"), Qt::AlignLeading},
-    {"ColumnIDCapacity", QT_TRANSLATE_NOOP("zelto::AreaTableModel", "Capacity"), Qt::AlignTrailing},
+    {"ColumnIDDisk", "IDS_TABLE_AREA", Qt::AlignLeading},
+    {"ColumnIDType", "IDS_TABLE_KIND", Qt::AlignLeading},
+    {"ColumnIDCapacity", "IDS_TABLE_CAPACITY", Qt::AlignTrailing},
 }};
 
 const Column& columnAt(int section) {
@@ -65,7 +67,7 @@ QVariant AreaTableModel::headerData(int section, Qt::Orientation orientation, in
         return {};
     }
     if (role == Qt::DisplayRole) {
-        return tr(columnAt(section).title);
+        return localized(columnAt(section).title);
     }
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(columnAt(section).alignment | Qt::AlignVCenter);

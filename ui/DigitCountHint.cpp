@@ -1,6 +1,7 @@
 #include "ui/DigitCountHint.h"
 
 #include "ui/SecretField.h"
+#include "ui/Strings.h"
 
 #include <QEvent>
 
@@ -29,8 +30,7 @@ void DigitCountHint::findField() {
 
 void DigitCountHint::refresh() {
     const qsizetype digits = m_field->secret().size();
-    setText(digits % 2 == 0 ? tr("%1 of 128 digits").arg(digits)
-                            : tr("%1 of 128 digits, one is missing").arg(digits));
+    setText(localized(digits % 2 == 0 ? "IDS_FIELD_DIGITS" : "IDS_FIELD_DIGITS_ODD", digits));
 }
 
 } // namespace zelto

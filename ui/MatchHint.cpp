@@ -1,6 +1,7 @@
 #include "ui/MatchHint.h"
 
 #include "ui/SecretField.h"
+#include "ui/Strings.h"
 
 #include <QEvent>
 
@@ -15,8 +16,8 @@ MatchHint::MatchHint(QWidget* parent) : QLabel(parent) {
 // As large as its longest text, so that typing doesn't move the window.
 QSize MatchHint::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
-    const int width = std::max(metrics.horizontalAdvance(tr("The two entries match.")),
-                               metrics.horizontalAdvance(tr("The two entries differ.")));
+    const int width = std::max(metrics.horizontalAdvance(localized("IDS_FIELD_ENTRIES_MATCH")),
+                               metrics.horizontalAdvance(localized("IDS_FIELD_ENTRIES_DIFFER")));
     return {width + metrics.averageCharWidth(), metrics.height()};
 }
 
@@ -48,8 +49,8 @@ QString MatchHint::verdict() const {
     if (m_first == nullptr || m_second == nullptr || m_second->secret().isEmpty()) {
         return {};
     }
-    return m_first->secret() == m_second->secret() ? tr("The two entries match.")
-                                                   : tr("The two entries differ.");
+    return m_first->secret() == m_second->secret() ? localized("IDS_FIELD_ENTRIES_MATCH")
+                                                   : localized("IDS_FIELD_ENTRIES_DIFFER");
 }
 
 } // namespace zelto

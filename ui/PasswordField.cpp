@@ -2,6 +2,7 @@
 
 #include "ui/Glyph.h"
 #include "ui/PastedText.h"
+#include "ui/Strings.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -18,12 +19,12 @@ PasswordField::PasswordField(QWidget* parent)
     m_reveal->setFocusPolicy(Qt::NoFocus);
     m_reveal->setAutoRaise(true);
     m_reveal->setCursor(Qt::ArrowCursor);
-    m_reveal->setToolTip(tr("Hold to see the password"));
+    m_reveal->setToolTip(localized("IDS_FIELD_REVEAL"));
     m_reveal->setAccessibleName(m_reveal->toolTip());
     connect(m_reveal, &QToolButton::pressed, this, [this] { setShown(Shown::Text); });
     connect(m_reveal, &QToolButton::released, this, [this] { setShown(Shown::Bullets); });
 
-    m_capsLockSign->setToolTip(tr("Caps Lock seems to be on"));
+    m_capsLockSign->setToolTip(localized("IDS_FIELD_CAPS_LOCK"));
     m_capsLockSign->setAccessibleName(m_capsLockSign->toolTip());
     m_capsLockSign->setCursor(Qt::ArrowCursor);
     m_capsLockSign->hide();

@@ -1,6 +1,7 @@
 #include "ui/SecretField.h"
 
 #include "digest/Wipe.h"
+#include "ui/Strings.h"
 #include "ui/TypedText.h"
 
 #include <QApplication>
@@ -178,10 +179,12 @@ void SecretField::mouseReleaseEvent(QMouseEvent* event) {
 
 void SecretField::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu(this);
-    QAction* const pasting = menu.addAction(tr("&Paste"), this, [this] { paste(); });
+    QAction* const pasting =
+        menu.addAction(localized("IDS_FIELD_PASTE"), this, [this] { paste(); });
     const QMimeData* const offered = QApplication::clipboard()->mimeData();
     pasting->setEnabled(offered != nullptr && offered->hasText());
-    QAction* const selecting = menu.addAction(tr("Select &All"), this, &QLineEdit::selectAll);
+    QAction* const selecting =
+        menu.addAction(localized("IDS_FIELD_SELECT_ALL"), this, &QLineEdit::selectAll);
     selecting->setEnabled(!m_secret.isEmpty());
     menu.exec(event->globalPos());
 }

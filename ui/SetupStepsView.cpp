@@ -1,6 +1,7 @@
 #include "ui/SetupStepsView.h"
 
 #include "ui/Glyph.h"
+#include "ui/Strings.h"
 
 #include <QPainter>
 
@@ -11,17 +12,13 @@ namespace zelto {
 namespace {
 
 constexpr std::array<const char*, 5> Titles{
-    QT_TRANSLATE_NOOP("zelto::SetupStepsView", "The settings are on the drive"),
-    QT_TRANSLATE_NOOP("zelto::SetupStepsView", "The drive starts anew"),
-    QT_TRANSLATE_NOOP("zelto::SetupStepsView", "The tool area appears"),
-    QT_TRANSLATE_NOOP("zelto::SetupStepsView",
-                      "The tool area is formatted and this program copied"),
-    QT_TRANSLATE_NOOP("zelto::SetupStepsView", "Finished"),
+    "IDS_STEP_SETTINGS", "IDS_STEP_RESTART",  "IDS_STEP_TOOL_AREA",
+    "IDS_STEP_COPY",     "IDS_STEP_FINISHED",
 };
 constexpr int StepCount = static_cast<int>(Titles.size());
 
 QString titleOf(int step) {
-    return SetupStepsView::tr(Titles[static_cast<std::size_t>(step)]);
+    return localized(Titles[static_cast<std::size_t>(step)]);
 }
 
 } // namespace
@@ -53,9 +50,8 @@ SetupStepsView::State SetupStepsView::stateOf(int step) const {
 }
 
 void SetupStepsView::describe() {
-    const QString words = m_failed ? tr("Step %1 of %2 failed: %3") : tr("Step %1 of %2: %3");
-    setAccessibleDescription(
-        words.arg(QString::number(m_current + 1), QString::number(StepCount), titleOf(m_current)));
+    setAccessibleDescription(localized(m_failed ? "IDS_STEP_FAILED" : "IDS_STEP_CURRENT",
+                                       m_current + 1, StepCount, titleOf(m_current)));
     update();
 }
 

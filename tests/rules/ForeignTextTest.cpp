@@ -41,17 +41,20 @@ TEST(ForeignText, CountsACharacterOfSeveralBytesOnce) {
     EXPECT_EQ(foreignText("\U0001F511\U0001F511\U0001F511", 2), u"\U0001F511\U0001F511\u2026");
 }
 
+const QString Comma = QStringLiteral(", ");
+
 TEST(ForeignNames, StandBesideEachOther) {
-    EXPECT_EQ(foreignNames({}), u"");
-    EXPECT_EQ(foreignNames({"tail"}), u"tail");
-    EXPECT_EQ(foreignNames({"bash", "tail\n"}), u"bash, tail[U+000A]");
+    EXPECT_EQ(foreignNames({}, Comma), u"");
+    EXPECT_EQ(foreignNames({"tail"}, Comma), u"tail");
+    EXPECT_EQ(foreignNames({"bash", "tail\n"}, Comma), u"bash, tail[U+000A]");
 }
 
 TEST(ForeignNames, AreCutWhereTheyAreTooMany) {
-    EXPECT_EQ(foreignNames({"1", "2", "3", "4", "5", "6", "7", "8"}), u"1, 2, 3, 4, 5, 6, 7, 8");
-    EXPECT_EQ(foreignNames({"1", "2", "3", "4", "5", "6", "7", "8", "9"}),
+    EXPECT_EQ(foreignNames({"1", "2", "3", "4", "5", "6", "7", "8"}, Comma),
+              u"1, 2, 3, 4, 5, 6, 7, 8");
+    EXPECT_EQ(foreignNames({"1", "2", "3", "4", "5", "6", "7", "8", "9"}, Comma),
               u"1, 2, 3, 4, 5, 6, 7, 8, \u2026");
-    EXPECT_EQ(foreignNames({std::string(41, 'a')}), QString(40, u'a') + QChar(u'\u2026'));
+    EXPECT_EQ(foreignNames({std::string(41, 'a')}, Comma), QString(40, u'a') + QChar(u'\u2026'));
 }
 
 } // namespace

