@@ -4,6 +4,7 @@ from ring import vendor
 from ring.checks import expect, expect_equal, wait_for
 from ring.memory import Traces
 from ring.runner import scenario
+from ring.screen_reader import ScreenReader
 from scenarios import flows, set_up
 
 KEY = "9f3a71c05be8d246"
@@ -30,6 +31,24 @@ def a_typed_password_leaves_no_trace(ring):
     program.wait_for_window("UnlockingWindow")
     expect_equal("the drive's state", drive.requests.state(), vendor.UNLOCKED)
     expect_no_trace(traces, "after log-in")
+
+
+@scenario
+def a_screen_reader_hears_dots_and_nothing_of_a_password_stays(ring):
+    ring.set_up_drive()
+    reader = ScreenReader(ring)
+    program = flows.open_log_in(ring)
+    processes = [program.process_id, *reader.services()]
+    secrets = (flows.FIRST, vendor.digest(flows.FIRST))
+    all_traces = [Traces(process, *secrets) for process in processes]
+    program.type_secretly("AuthenticateTextField", flows.FIRST)
+    expect_a_trace(all_traces[0], "while it stands in its field")
+    wait_for("each key was heard", lambda: len(reader.typed()) >= len(flows.FIRST))
+    expect_equal("what was heard of them", set("".join(reader.typed())), {"●"})
+    program.click("AuthenticateSubmit")
+    program.wait_for_window("UnlockingWindow")
+    for traces in all_traces:
+        expect_no_trace(traces, "after log-in")
 
 
 @scenario
