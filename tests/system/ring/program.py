@@ -21,7 +21,7 @@ def texts():
     """The message texts by their keys."""
     table = {}
     for message in xml.etree.ElementTree.parse(TEXTS).iter("message"):
-        table[message.get("id")] = message.findtext("translation")
+        table[message.get("id")] = message.findtext("source")
     return table
 
 
