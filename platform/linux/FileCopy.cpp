@@ -110,7 +110,8 @@ std::optional<bool> copyContents(int from, int to) {
 
 bool copyFile(const fs::path& source, const fs::path& destination) {
     // O_NONBLOCK: a fifo would otherwise wait for its other end before it can be told from a file.
-    const FileDescriptor from(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor from(
+        ::open(source.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK));
     const auto status = from.isOpen() ? statusOf(from.get()) : std::nullopt;
     if (!status || !S_ISREG(status->st_mode)) {
         return false;
@@ -132,11 +133,12 @@ bool copyFile(const fs::path& source, const fs::path& destination) {
 
 bool copyFolder(const fs::path& source, const fs::path& destination, int depth);
 
-bool copyEntry(const fs::directory_entry& entry, const fs::path& destination, int depth) {
+/// A link is neither: a volume's maker could have laid one to anything of the user's.
+bool copyFileOrFolder(const fs::path& source, const fs::path& destination, int depth) {
     std::error_code error;
-    return entry.symlink_status(error).type() == fs::file_type::directory
-               ? copyFolder(entry.path(), destination, depth)
-               : copyFile(entry.path(), destination);
+    return fs::symlink_status(source, error).type() == fs::file_type::directory
+               ? copyFolder(source, destination, depth)
+               : copyFile(source, destination);
 }
 
 bool copyFolder(const fs::path& source, const fs::path& destination, int depth) {
@@ -146,7 +148,7 @@ bool copyFolder(const fs::path& source, const fs::path& destination, int depth) 
     std::error_code error;
     fs::directory_iterator at(source, error);
     for (const fs::directory_iterator end; !error && at != end; at.increment(error)) {
-        if (!copyEntry(*at, destination / at->path().filename(), depth + 1)) {
+        if (!copyFileOrFolder(at->path(), destination / at->path().filename(), depth + 1)) {
             return false;
         }
     }
@@ -321,11 +323,8 @@ bool copyItem(const fs::path& source, const fs::path& destination) {
     if (!workplace.isThere()) {
         return false;
     }
-    std::error_code error;
-    const bool isFolder = fs::is_directory(source, error);
-    const bool copied = isFolder ? copyFolder(source, workplace.written(), 0)
-                                 : copyFile(source, workplace.written());
-    return copied && takePlace(workplace, destination) && flushFolder(folder);
+    return copyFileOrFolder(source, workplace.written(), 0) && takePlace(workplace, destination) &&
+           flushFolder(folder);
 }
 
 std::optional<std::chrono::sys_seconds> modificationDate(const fs::path& path) {

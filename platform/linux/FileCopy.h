@@ -15,8 +15,8 @@ namespace zelto::linux_platform {
 ///
 /// Modification dates are kept. Permissions are not: FAT knows none, so a program that comes from
 /// there could not be started; in the copy, programs (files that the source lets anybody execute,
-/// ELF files and scripts) may be executed by all, and the owner may write everything. Links to
-/// files become files, as FAT has no links; other links and special files make the copy fail.
+/// ELF files and scripts) may be executed by all, and the owner may write everything. Links are not
+/// followed, and a bundle has none, as FAT has none: they and special files make the copy fail.
 ///
 /// The destination's folder is made if only that one folder is missing. Blocks; touches nothing
 /// of the program's own state, so it may run in a thread of its own.

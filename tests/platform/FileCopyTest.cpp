@@ -144,11 +144,13 @@ TEST_F(FileCopy, FailsWithoutASource) {
     EXPECT_THAT(namesIn(folder / "to"), IsEmpty());
 }
 
-TEST_F(FileCopy, TurnsLinksToFilesIntoFiles) {
-    folder.link("from/Zelto Ü.app/libQt.so.6", "lib/data.bin");
-    ASSERT_TRUE(copyItem(source, destination));
-    EXPECT_FALSE(fs::is_symlink(destination / "libQt.so.6"));
-    EXPECT_EQ(folder.read("to/Zelto Ü.app/libQt.so.6"), "data");
+TEST_F(FileCopy, FailsOnALinkInsteadOfBringingWhatItLeadsTo) {
+    folder.write("elsewhere/precious", "mine");
+    folder.link("from/Zelto Ü.app/lib/licence.txt", (folder / "elsewhere/precious").string());
+    EXPECT_FALSE(copyItem(source, destination));
+    folder.link("from/Linked.app", source.string());
+    EXPECT_FALSE(copyItem(folder / "from/Linked.app", destination));
+    EXPECT_THAT(namesIn(folder / "to"), IsEmpty());
 }
 
 TEST_F(FileCopy, FailsOnLinksThatWouldGoRoundInCircles) {
