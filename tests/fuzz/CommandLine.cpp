@@ -19,6 +19,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string error;
     const auto options = parseOptions(arguments, error);
     require(options.has_value() == error.empty(), "what makes no sense is said");
+    require(!options || !options->wantsHelp || !helpText().empty(), "there is help");
     if (options && options->sectors) {
         require(*options->sectors >= 1 && *options->sectors <= MostSectors,
                 "a drive has that size");

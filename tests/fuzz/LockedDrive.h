@@ -5,35 +5,36 @@
 #include "tests/model/DriveBench.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace zelto::test {
 
-/// A whole drive with a secure area, a key and one password, locked; and what must stay so.
-class LockedDrive {
-public:
-    static constexpr Moment Now = Start;
+inline constexpr Moment Now = Start;
 
-    LockedDrive() {
-        drive.plug(Now);
-        for (const Sent& sent :
-             {setSecureAreas(), setAutomaticKey(), setFirst(First), reconnect()}) {
-            require(!drive.control(sent.setup, sent.data, Now).stalled, "the drive is set up");
-        }
-        drive.unplug(Now);
-        drive.plug(Now);
-        require(drive.state(Now) == SecurityState::StateLocked, "the drive starts locked");
+/// A whole drive with a secure area, a key and one password; plugged in, and locked.
+inline std::unique_ptr<VirtualDrive> makeLockedDrive() {
+    auto drive =
+        std::make_unique<VirtualDrive>(Manufactured{.totalSectors = SmallDrive, .keySeed = 7});
+    drive->plug(Now);
+    for (const Sent& sent : {setSecureAreas(), setAutomaticKey(), setFirst(First), reconnect()}) {
+        require(!drive->control(sent.setup, sent.data, Now).stalled, "the drive is set up");
     }
+    drive->unplug(Now);
+    drive->plug(Now);
+    require(drive->state(Now) == SecurityState::StateLocked, "the drive starts locked");
+    return drive;
+}
 
-    /// Without its password it never opens, whatever was said to it.
-    void check(std::span<const std::uint8_t> said) {
-        const Bytes password = digest(First);
-        const bool wasTold =
-            std::search(said.begin(), said.end(), password.begin(), password.end()) != said.end();
-        require(wasTold || drive.state(Now) != SecurityState::StateUnlocking,
-                "a locked drive does not open without its password");
-    }
+/// Whether somebody who said this knew its password.
+inline bool isPasswordIn(std::span<const std::uint8_t> said) {
+    const Bytes password = digest(First);
+    return std::search(said.begin(), said.end(), password.begin(), password.end()) != said.end();
+}
 
-    VirtualDrive drive{Manufactured{.totalSectors = SmallDrive, .keySeed = 7}};
-};
+/// Without it the drive never opens, whatever was said to it.
+inline void checkIsShut(VirtualDrive& drive, std::span<const std::uint8_t> said, Moment now = Now) {
+    require(isPasswordIn(said) || drive.state(now) != SecurityState::StateUnlocking,
+            "a locked drive does not open without its password");
+}
 
 } // namespace zelto::test

@@ -39,6 +39,58 @@ void checkAreaTable(std::span<const std::uint8_t> bytes) {
     require(table.entryCount() <= AreaInfoTable::Capacity, "appending stays within the table");
 }
 
+/// What the utility alone encodes is where the drive looks for it.
+void checkSentRecords(std::span<const std::uint8_t> bytes) {
+    constexpr std::array Kinds{AuthInfo::Set, AuthInfo::SetBoth, AuthInfo::Change,
+                               AuthInfo::ChangeBoth};
+    Input input(bytes.data(), bytes.size());
+    AuthInfo info{.kind = Kinds.at(input.takeByte() % Kinds.size()),
+                  .numberOfTrials = input.takeByte()};
+    info.slot3 = padded<32>(input.rest());
+    const auto sent = encodeAuthInfo(info);
+    require(record::get<std::uint8_t>(sent, AuthInfoField::Kind) == info.kind &&
+                record::get<std::uint8_t>(sent, AuthInfoField::NumberOfTrials) ==
+                    info.numberOfTrials,
+            "a password record says what it is");
+    require(info.kind == AuthInfo::ChangeBoth ||
+                std::ranges::count(std::span(sent).subspan(AuthInfo::ShortSize), 0) == 32,
+            "a third password travels in the long form only");
+    const EncryptionInfo key{.automaticKey = (info.numberOfTrials & 1U) != 0,
+                             .key = padded<EncryptionInfo::KeySize>(input.rest())};
+    const auto encoded = encodeEncryptionInfo(key);
+    const auto place = std::span(encoded).subspan(EncryptionInfoField::Key.offset);
+    require(std::ranges::equal(place, key.key) != key.automaticKey ||
+                key.key == EncryptionInfo{}.key,
+            "a key travels when it was entered by hand");
+}
+
+void checkLayout(std::span<const std::uint8_t> bytes) {
+    Input input(bytes.data(), bytes.size());
+    AreaChoice choice;
+    for (std::size_t disk = 0; disk < choice.mebibytes.size(); ++disk) {
+        choice.secure.at(disk) = (input.takeByte() & 1U) != 0;
+        choice.mebibytes.at(disk) = input.takeWord();
+    }
+    const std::uint64_t sectors = sectorsOfMebibytes(input.takeWord());
+    AreaInfoTable table = encodeAreaInfoTable(sectors, {});
+    rebuildUserAreas(table, choice);
+    std::uint64_t next = 0;
+    for (std::size_t index = 0; index < table.storedCount(); ++index) {
+        require(table.entry(index).firstSector == next, "each area follows the one before");
+        next += table.entry(index).sectorCount;
+    }
+    const bool fits = leftMebibytes(sectors, choice.mebibytes) >= 0;
+    require(fits == (next <= sectors), "areas that fit are on the drive");
+    require(sectorsBesideToolArea(sectors) <= sectors, "the tool area takes room");
+    require(!isNeverPartitioned(table), "a drive with areas is not new");
+    const auto toolArea = appendToolArea(table);
+    require(toolArea && *toolArea == table.storedCount() &&
+                table.entry(*toolArea - 1U).firstSector == next,
+            "the tool area is the last");
+    require(storedEntries(table).size() == table.storedCount() * AreaInfoEntry::Size,
+            "every area travels");
+}
+
 } // namespace
 } // namespace zelto::test
 
@@ -57,5 +109,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
                 "a moment and its date are the same");
     }
     checkAreaTable(bytes);
+    checkSentRecords(bytes);
+    checkLayout(bytes);
     return 0;
 }

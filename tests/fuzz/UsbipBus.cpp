@@ -13,19 +13,19 @@ namespace {
 
 class Port final : public UsbipExport {
 public:
+    Port() { m_device.powerUp(); }
     [[nodiscard]] std::optional<UsbipDevice> offered() const override { return UsbipDevice{}; }
     [[nodiscard]] bool isTaken() const override { return false; }
     [[nodiscard]] StorageDevice& device() override { return m_device; }
     [[nodiscard]] bool isLeaving() const override { return false; }
 
-    LockedDrive locked;
+    const std::unique_ptr<VirtualDrive> drive = makeLockedDrive();
 
 private:
-    DriveUnits m_units{locked.drive, [] { return LockedDrive::Now; }};
+    DriveUnits m_units{*drive, [] { return Now; }};
     StorageDevice m_device{"ZD0123456789ABCD",
                            [this](const SetupPacket& setup, std::span<const std::uint8_t> sent) {
-                               return std::optional(
-                                   locked.drive.control(setup, sent, LockedDrive::Now));
+                               return std::optional(drive->control(setup, sent, Now));
                            },
                            m_units};
 };
@@ -56,6 +56,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     UsbipSession session(port, (shape & 1U) != 0 ? UsbipSession::Start::Operations
                                                  : UsbipSession::Start::Imported);
     converse(session, input, std::size_t{1} + (shape >> 1U) * std::size_t{16});
-    port.locked.check({data, size});
+    checkIsShut(*port.drive, {data, size});
     return 0;
 }
