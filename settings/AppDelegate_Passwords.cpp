@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "settings/IntegerValue.h"
 #include "settings/PasswordRules.h"
+#include "settings/PasswordStrength.h"
 #include "ui/Strings.h"
 
 #include <initializer_list>
@@ -43,6 +44,14 @@ void showTrials(std::int32_t numberOfTrials, QLineEdit& field) {
     if (numberOfTrials != 0) {
         field.setText(QString::number(numberOfTrials));
     }
+}
+
+/// Beside the field, and as its description.
+void showStrength(StrengthHint& hint, PasswordField& field) {
+    const PasswordStrength strength =
+        field.isEnabled() ? passwordStrength(field.secret()) : PasswordStrength::None;
+    hint.setStrength(static_cast<int>(strength));
+    field.setAccessibleDescription(hint.text());
 }
 
 } // namespace
@@ -140,6 +149,8 @@ void AppDelegate::UpdatePasswordSettingsWindow() {
         .trials = trials};
     form.PS_OKButton->setEnabled(passwordSettingsAreComplete(entries));
     showObstacle(*form.PS_Obstacle, passwordSettingsObstacle(entries));
+    showStrength(*form.PS_1stStrength, *form.PS_1stPasswordText);
+    showStrength(*form.PS_2ndStrength, *form.PS_2ndPasswordText);
 }
 
 /// The drive's number of passwords decides, not the radio: it cannot be changed here.
@@ -158,6 +169,8 @@ void AppDelegate::UpdatePasswordChangeWindow() {
                     .trials = trials}};
     form.PC_OKButton->setEnabled(passwordChangeIsComplete(entries));
     showObstacle(*form.PC_Obstacle, passwordChangeObstacle(entries));
+    showStrength(*form.PC_New1stStrength, *form.PC_New1stPasswordText);
+    showStrength(*form.PC_New2ndStrength, *form.PC_New2ndPasswordText);
 }
 
 void AppDelegate::PasswordSettingsUse1stAction() {

@@ -213,6 +213,30 @@ TEST_F(PasswordDialog, TwoPasswordsNeedTrialsOfOneTo99) {
     });
 }
 
+TEST_F(PasswordDialog, AWeakPasswordIsCalledSoAndMayBeUsed) {
+    inPasswordDialog([&] {
+        EXPECT_EQ(text("PS_1stStrength"), QString());
+        type("PS_1stPasswordText", "password");
+        EXPECT_EQ(text("PS_1stStrength"), localized("IDS_STRENGTH_WEAK"));
+        EXPECT_EQ(control("PS_1stPasswordText")->accessibleDescription(),
+                  localized("IDS_STRENGTH_WEAK"));
+        type("PS_Again1stPasswordText", "password");
+        EXPECT_TRUE(isEnabled("PS_OKButton"));
+        type("PS_1stPasswordText", "x7#kQ9!vLm2pZ");
+        EXPECT_EQ(text("PS_1stStrength"), localized("IDS_STRENGTH_STRONG"));
+    });
+}
+
+TEST_F(PasswordDialog, NothingIsSaidAboutASecondPasswordThatIsNotUsed) {
+    inPasswordDialog([&] {
+        press("PS_1stAnd2ndCell");
+        type("PS_2ndPasswordText", "password");
+        EXPECT_EQ(text("PS_2ndStrength"), localized("IDS_STRENGTH_WEAK"));
+        press("PS_1stOnlyCell");
+        EXPECT_EQ(text("PS_2ndStrength"), QString());
+    });
+}
+
 TEST_F(PasswordDialog, GoingBackToOnePasswordKeepsTheSecondOnesText) {
     inPasswordDialog([&] {
         type("PS_1stPasswordText", "abc");
@@ -268,6 +292,7 @@ TEST_F(PasswordDialog, TheChangeDialogIgnoresTheSecondPasswordOfADriveWithOne) {
         EXPECT_FALSE(isEnabled("PC_2ndPasswordNumberOfTrials"));
         type("PC_New1stPasswordText", "same");
         type("PC_AgainNew1stPasswordText", "same");
+        EXPECT_EQ(text("PC_New1stStrength"), localized("IDS_STRENGTH_WEAK"));
         EXPECT_FALSE(isEnabled("PC_OKButton"));
         type("PC_Current1stPasswordText", "same");
         EXPECT_TRUE(isEnabled("PC_OKButton"));

@@ -1,4 +1,5 @@
 #include "ui/Forms.h"
+#include "ui/Strings.h"
 
 #include <QApplication>
 
@@ -54,6 +55,57 @@ TEST(MatchHintTest, StaysSilentWithoutItsFields) {
     MatchHint orphan;
     orphan.show();
     EXPECT_TRUE(orphan.text().isEmpty());
+}
+
+TEST(StrengthHintTest, SaysEachStrengthInWordsOfItsOwnAndNothingAtNone) {
+    ASSERT_TRUE(installStrings());
+    StrengthHint hint;
+    QStringList said;
+    for (int strength = 1; strength <= StrengthHint::Strongest; ++strength) {
+        hint.setStrength(strength);
+        EXPECT_FALSE(hint.text().isEmpty()) << strength;
+        EXPECT_FALSE(said.contains(hint.text())) << strength;
+        said += hint.text();
+    }
+    hint.setStrength(0);
+    EXPECT_TRUE(hint.text().isEmpty());
+}
+
+TEST(StrengthHintTest, KeepsItsSizeWhateverItSays) {
+    ASSERT_TRUE(installStrings());
+    StrengthHint hint;
+    const QSize silent = hint.sizeHint();
+    for (int strength = 1; strength <= StrengthHint::Strongest; ++strength) {
+        hint.setStrength(strength);
+        EXPECT_EQ(hint.sizeHint(), silent);
+        EXPECT_GE(silent.width(), hint.QLabel::sizeHint().width()) << strength;
+    }
+}
+
+TEST(StrengthHintTest, TheBarGrowsWithTheStrengthFromTheSideThatIsReadFirst) {
+    ASSERT_TRUE(installStrings());
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        StrengthHint hint;
+        hint.setLayoutDirection(direction);
+        hint.resize(hint.sizeHint());
+        const QColor full = hint.palette().color(QPalette::Highlight);
+        int before = 0;
+        for (int strength = 1; strength <= StrengthHint::Strongest; ++strength) {
+            hint.setStrength(strength);
+            const QImage picture = hint.grab().toImage();
+            int filled = 0;
+            int onTheFirstSide = 0;
+            for (int x = 0; x < picture.width(); ++x) {
+                const bool isFull = picture.pixelColor(x, picture.height() / 2) == full;
+                filled += isFull ? 1 : 0;
+                const bool isLeft = x < picture.width() / 2;
+                onTheFirstSide += isFull && isLeft == (direction == Qt::LeftToRight) ? 1 : 0;
+            }
+            EXPECT_GT(filled, before) << strength;
+            EXPECT_EQ(onTheFirstSide, filled) << strength;
+            before = filled;
+        }
+    }
 }
 
 TEST(DigitCountHintTest, CountsAndTellsAHalfByte) {

@@ -89,6 +89,10 @@ constexpr KeyRow Catalogue[] = {
     {"IDS_HINT_PERIOD_ZERO"},
     {"IDS_HINT_SECURE_CHOICE_DROPPED"},
     {"IDS_HINT_TRIALS_ERASE"},
+    {"IDS_STRENGTH_WEAK"},
+    {"IDS_STRENGTH_FAIR"},
+    {"IDS_STRENGTH_GOOD"},
+    {"IDS_STRENGTH_STRONG"},
 };
 
 class StringsTest : public ::testing::Test {

@@ -649,7 +649,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_CHANGE_EXPLANATION">
-        <source>A password has 1 to 32 letters, digits or signs, without accents. A forgotten password can not be recovered.</source>
+        <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_CHANGE_NUMBER_NAME">
@@ -725,7 +725,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_PASSWORDS_EXPLANATION">
-        <source>A password has 1 to 32 letters, digits or signs, without accents. A forgotten password can not be recovered.</source>
+        <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_PASSWORDS_NUMBER_NAME">
@@ -1096,6 +1096,23 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_DRIVE_PORT">
         <source>No serial number, in USB port %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="IDS_STRENGTH_WEAK">
+        <source>Strength: weak</source>
+        <extracomment>Of a new password; a bar of four parts stands before it</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="IDS_STRENGTH_FAIR">
+        <source>Strength: fair</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="IDS_STRENGTH_GOOD">
+        <source>Strength: good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="IDS_STRENGTH_STRONG">
+        <source>Strength: strong</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
