@@ -17,6 +17,7 @@ AppDelegate::AppDelegate(const Platform& platform)
                   }} {
     connectSessionWindows();
     connectSettingsWindows();
+    connectHelp();
 }
 
 AppDelegate::~AppDelegate() {

@@ -153,6 +153,9 @@ public:
     /// Reports a failed command, by its result code and the drive's sense data. Shows an alert.
     void ErrorMessageBox(IOReturn result);
 
+    /// Shows a page of the manual, "logging-in" say; an alert when that is not possible.
+    void ShowHelp(const QString& page);
+
     // --- First-time set-up: settings/AppDelegate_Setup.cpp ------------------------------------
 
     /// Sends everything that a new drive needs. Reports failure itself; nothing is undone.
@@ -239,6 +242,7 @@ public:
 private:
     // app/AppDelegate_Outlets.cpp: which control calls which operation.
     void connectSessionWindows();
+    void connectHelp();
     // settings/AppDelegate_SettingsOutlets.cpp
     void connectSettingsWindows();
     void connectMainSettingsWindow();

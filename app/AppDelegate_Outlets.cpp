@@ -1,6 +1,8 @@
 #include "app/AppDelegate.h"
 #include "app/Outlets.h"
 
+#include <initializer_list>
+
 namespace zelto {
 
 using namespace outlets;
@@ -34,6 +36,18 @@ void AppDelegate::connectSessionWindows() {
     onClick(ZeltoSettingWindow.ZeltoSettingOKButton, this, &AppDelegate::ZeltoSettingOKAction);
     // The last window: closing it is a request to quit, refused while set-up is under way.
     onClose(ZeltoSettingWindow, this, &AppDelegate::TerminateApplication);
+}
+
+void AppDelegate::connectHelp() {
+    const std::initializer_list<const HelpButton*> buttons{
+        SelectZeltoWindow.Help,    DeviceRuleWindow.Help,   AuthenticateWindow.Help,
+        UnlockedWindow.Help,       UnlockingWindow.Help,    ZeltoSettingWindow.Help,
+        MainSettingsWindow.Help,   AreaSettingsWindow.Help, PasswordSettingsWindow.Help,
+        PasswordChangeWindow.Help, EncryptionKeyWindow.Help};
+    for (const HelpButton* const button : buttons) {
+        QObject::connect(button, &QPushButton::clicked, button,
+                         [this, button] { ShowHelp(button->page()); });
+    }
 }
 
 } // namespace zelto

@@ -3,12 +3,15 @@
 #include "platform/linux/PrivateMemory.h"
 #include "ui/AlertPresenter.h"
 #include "ui/ProductIcon.h"
+#include "ui/ProductVersion.h"
 #include "ui/Strings.h"
 #include "ui/WorkIndicator.h"
 
 #include <QApplication>
 
+#include <cstdio>
 #include <memory>
+#include <string_view>
 
 namespace {
 
@@ -39,6 +42,10 @@ int NSApplicationMain(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    if (argc == 2 && std::string_view(argv[1]) == "--version") {
+        std::puts(qPrintable(QStringLiteral("zelto ") + zelto::productVersion()));
+        return 0;
+    }
     zelto::linux_platform::keepMemoryPrivate();
     return NSApplicationMain(argc, argv);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -29,6 +30,10 @@ public:
     virtual void takePlace(const std::function<void()>& /*giveWay*/) {}
     /// From now on a new start takes this copy's place.
     virtual void giveWayToNewStart() {}
+
+    /// Shows a file in the program that the user reads such files with; does not wait for it. False
+    /// when there is none.
+    [[nodiscard]] virtual bool openDocument(const std::filesystem::path& /*file*/) { return false; }
 
     /// `mayEnd` is asked when the session is about to end; false asks the desktop to wait.
     virtual void setSessionEndHandler(const std::function<bool()>& /*mayEnd*/) {}

@@ -1,9 +1,12 @@
 #include "app/AppDelegate.h"
+#include "app/Manual.h"
 #include "device/DeviceReads.h"
 #include "device/IORegistry.h"
 #include "platform/Clock.h"
+#include "platform/Desktop.h"
 #include "platform/Disks.h"
 #include "session/ForeignText.h"
+#include "ui/ProductVersion.h"
 #include "ui/Strings.h"
 
 namespace zelto {
@@ -25,15 +28,18 @@ bool AppDelegate::reportIfFailed(IOReturn result) {
 }
 
 void AppDelegate::reportSense() {
+    // Whoever asks for help with one of these is asked for it.
+    const QString version = localized("IDS_HINT_VERSION", productVersion());
     const auto status = readDeviceStatus(Device(), StatusRequest::Plain);
     if (status.failed()) {
-        ShowMessage(AlertWeight::Warning, localized("IDS_COMMAND_FAIL"));
+        ShowMessage(AlertWeight::Warning, localized("IDS_COMMAND_FAIL"), version);
         return;
     }
     const Sense& sense = status.record.sense;
     ShowMessage(AlertWeight::Warning,
                 localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", QString::number(sense.key),
-                          QString::number(sense.additionalCode), QString::number(sense.qualifier)));
+                          QString::number(sense.additionalCode), QString::number(sense.qualifier)),
+                version);
 }
 
 void AppDelegate::ShowMessage(AlertWeight weight, const QString& message, const QString& detail) {
@@ -58,6 +64,13 @@ void AppDelegate::ReportUnmountFailure() {
         foreignNames(m_platform.disks.holders(g_BsdNameList), localized("IDS_LIST_SEPARATOR"));
     ShowMessage(AlertWeight::Warning, localized("IDS_ERR_UNMOUNT"),
                 programs.isEmpty() ? QString() : localized("IDS_HINT_BUSY_PROGRAMS", programs));
+}
+
+void AppDelegate::ShowHelp(const QString& page) {
+    const auto file = manualPage(m_platform.computer, page.toStdString());
+    if (!file || !m_platform.desktop.openDocument(*file)) {
+        ShowMessage(AlertWeight::Warning, localized("IDS_HINT_NO_MANUAL"));
+    }
 }
 
 AlertButton AppDelegate::RunAlertPanel(const AlertPanel& panel) {

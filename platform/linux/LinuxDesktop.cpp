@@ -5,10 +5,12 @@
 #include <QDBusReply>
 #include <QDBusServiceWatcher>
 #include <QDBusUnixFileDescriptor>
+#include <QDesktopServices>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QSessionManager>
 #include <QTimer>
+#include <QUrl>
 
 #include <utility>
 
@@ -90,6 +92,10 @@ void LinuxDesktop::giveWayToNewStart() {
         (void)bus->registerService(ProgramName, QDBusConnectionInterface::DontQueueService,
                                    QDBusConnectionInterface::AllowReplacement);
     }
+}
+
+bool LinuxDesktop::openDocument(const std::filesystem::path& file) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.native())));
 }
 
 void LinuxDesktop::setSessionEndHandler(const std::function<bool()>& mayEnd) {

@@ -23,6 +23,7 @@ public:
     [[nodiscard]] Hold keepAwake(const std::string& why) override;
     void takePlace(const std::function<void()>& giveWay) override;
     void giveWayToNewStart() override;
+    [[nodiscard]] bool openDocument(const std::filesystem::path& file) override;
     void setSessionEndHandler(const std::function<bool()>& mayEnd) override;
 
 private:

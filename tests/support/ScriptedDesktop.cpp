@@ -12,6 +12,11 @@ void ScriptedDesktop::takePlace(const std::function<void()>& giveWay) {
     m_givesWay = false;
 }
 
+bool ScriptedDesktop::openDocument(const std::filesystem::path& file) {
+    m_opened.push_back(file);
+    return !m_opensNothing;
+}
+
 void ScriptedDesktop::setSessionEndHandler(const std::function<bool()>& mayEnd) {
     m_mayEnd = mayEnd;
 }

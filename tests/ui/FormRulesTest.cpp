@@ -237,6 +237,19 @@ TEST_P(FormRules, EscapeAsksToCloseAndLeavesTheWindowToTheController) {
     EXPECT_TRUE(form->isVisible());
 }
 
+TEST_P(FormRules, F1AsksForHelpWhateverHasTheFocus) {
+    enableEverything(*form);
+    show();
+    const auto* const help = form->findChild<HelpButton*>();
+    ASSERT_NE(help, nullptr);
+    for (QWidget* stop : tabStopsOf(*form)) {
+        const QSignalSpy asked(help, &QPushButton::clicked);
+        stop->setFocus();
+        QTest::keyClick(stop, Qt::Key_F1);
+        EXPECT_EQ(asked.count(), 1) << stop->objectName().toStdString();
+    }
+}
+
 TEST_P(FormRules, NothingHasAFixedSize) {
     for (const QWidget* widget : controlsOf(*form)) {
         const std::string name = widget->objectName().toStdString();

@@ -1115,5 +1115,23 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source>Strength: strong</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="IDS_HELP_BUTTON">
+        <source>&amp;Help</source>
+        <extracomment>In every window; no other button there may have its underlined letter</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="IDS_HELP_DESCRIPTION">
+        <source>Opens the manual’s page about this window (F1). This is version %1 of the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="IDS_HINT_NO_MANUAL">
+        <source>The manual could not be opened: it was not found beside the program, or this computer has nothing to show it with.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="IDS_HINT_VERSION">
+        <source>Version %1 of the program.</source>
+        <extracomment>Below messages that support is asked about</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>
