@@ -62,7 +62,10 @@ public:
         require(m_host->listen("127.0.0.1:0", error), "there is a port");
         const std::uint8_t shape = m_input.takeByte();
         if ((shape & 1U) != 0) {
-            (void)m_host->attachToKernel(m_controller.path(), error);
+            constexpr std::array<std::string_view, 4> Controllers{"free", "full", "none", "none"};
+            const auto name = Controllers.at(shape >> 2U & 3U);
+            require(m_host->attachToKernel(m_controllers.path() / name, error) == (name != "none"),
+                    "there is a controller or there is none");
         }
         if ((shape & 2U) != 0) {
             require(m_host->plug(), "it can be plugged in");
@@ -165,8 +168,10 @@ private:
     std::span<const std::uint8_t> m_said;
     EventLoop::Clock::time_point m_time{};
     EventLoop m_loop{[this] { return m_time; }};
-    const DescribedFolder m_controller{"status=hs  0001 004 000 00000000 000000 0-0\n"
-                                       "attach=\ndetach="};
+    /// The kernel's, as it would look with a free port and without.
+    const DescribedFolder m_controllers{
+        "free/status=hs  0001 004 000 00000000 000000 0-0\nfree/attach=\nfree/detach=\n"
+        "full/status=hs  0001 006 000 00000000 000000 1-1\nfull/attach=\n"};
     FileDescriptor m_typed;
     FileDescriptor m_terminal;
     std::vector<FileDescriptor> m_computers;

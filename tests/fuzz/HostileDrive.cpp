@@ -246,34 +246,39 @@ private:
         if (choice >= Controls) {
             happen(choice);
         } else if (Window* const window = m_person.visibleWindow()) {
-            use(*window, choice);
+            use(*window);
         }
         m_computer.settle();
         checkWindow();
     }
 
     void happen(std::uint8_t choice) {
+        constexpr std::array Verbs{DiskVerb::Umount, DiskVerb::Eject, DiskVerb::EraseDisk};
         m_episode = {};
+        const unsigned which = choice >> 2U & 0xFU;
         switch (choice & 0x3U) {
         case 0:
             return m_computer.unplug(m_drive);
         case 1:
             return m_computer.plug(m_drive);
         case 2:
-            return m_computer.replug(m_drive);
+            return m_computer.diskTool.setBehaviour(Verbs.at(which % Verbs.size()),
+                                                    ToolBehaviour::Fails);
         default:
-            return m_computer.advance(std::chrono::seconds(1 + (choice >> 2U & 0xFU)));
+            return m_computer.advance(std::chrono::seconds(1 + which));
         }
     }
 
-    void use(Window& window, std::uint8_t choice) {
+    void use(Window& window) {
+        const std::uint16_t wanted = m_input.takeWord();
         QList<QWidget*> controls = window.findChildren<QWidget*>();
         controls.removeIf([](const QWidget* control) { return !isOfUse(*control); });
         if (controls.isEmpty()) {
             return;
         }
-        std::ranges::sort(controls, {}, &QObject::objectName);
-        QWidget& control = *controls[choice % controls.size()];
+        QWidget& control = **std::ranges::min_element(controls, {}, [&](const QWidget* candidate) {
+            return static_cast<std::uint16_t>(signOf(*candidate) - wanted);
+        });
         const QByteArray name = control.objectName().toLatin1();
         if (qobject_cast<QLineEdit*>(&control) != nullptr) {
             m_person.type(name, text());
@@ -282,6 +287,15 @@ private:
         } else {
             press(name);
         }
+    }
+
+    /// A number that stands for a control, whatever others there are.
+    [[nodiscard]] static std::uint16_t signOf(const QWidget& control) {
+        std::uint32_t sign = 0;
+        for (const char letter : control.objectName().toLatin1()) {
+            sign = sign * 31U + static_cast<std::uint8_t>(letter);
+        }
+        return static_cast<std::uint16_t>(sign);
     }
 
     [[nodiscard]] static bool isOfUse(const QWidget& control) {
