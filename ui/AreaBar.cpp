@@ -23,8 +23,9 @@ QString shortSize(std::uint64_t mebibytes) {
     constexpr std::uint64_t Gigabyte = 1024;
     constexpr std::uint64_t Terabyte = Gigabyte * 1024;
     const auto tenths = [mebibytes](std::uint64_t unit) {
-        return QLocale().toString(static_cast<double>(mebibytes) / static_cast<double>(unit), 'f',
-                                  1);
+        // All other numbers are in the digits that are typed, 0 to 9, whatever the language.
+        const QLocale locale = QLocale().zeroDigit() == u"0" ? QLocale() : QLocale::c();
+        return locale.toString(static_cast<double>(mebibytes) / static_cast<double>(unit), 'f', 1);
     };
     if (mebibytes >= Terabyte) {
         return localized("IDS_SIZE_TB", tenths(Terabyte));

@@ -1,25 +1,58 @@
 #include "ui/Strings.h"
 
-#include "ui/Resources.h"
+#include "ui/Languages.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 
 namespace zelto {
+namespace {
 
-bool installStrings() {
-    initResources();
-    const QString name = QStringLiteral("zelto_texts");
-    if (QCoreApplication::instance()->findChild<QTranslator*>(name) != nullptr) {
-        return true;
-    }
-    auto* translator = new QTranslator(QCoreApplication::instance());
-    translator->setObjectName(name);
-    if (!translator->load(QStringLiteral(":/zelto/strings/zelto_en.qm"))) {
+constexpr auto Language = "zeltoTextLanguage";
+const QString English = QStringLiteral("en");
+const QString TranslatorName = QStringLiteral("zelto_texts");
+
+// What is installed last is searched first.
+bool install(const QString& file, const QString& folder) {
+    auto* const translator = new QTranslator(QCoreApplication::instance());
+    translator->setObjectName(TranslatorName);
+    if (!translator->load(file, folder)) {
         delete translator;
         return false;
     }
     return QCoreApplication::installTranslator(translator);
+}
+
+bool installTexts(const QString& language) {
+    return install(QStringLiteral("zelto_") + language, QStringLiteral(":/zelto/strings"));
+}
+
+} // namespace
+
+bool installStrings() {
+    return installStrings(languageFor(desktopLanguages(), textLanguages()));
+}
+
+bool installStrings(const QString& language) {
+    QCoreApplication& application = *QCoreApplication::instance();
+    if (application.property(Language).toString() == language) {
+        return true;
+    }
+    if (!textLanguages().contains(language)) {
+        return false;
+    }
+    qDeleteAll(application.findChildren<QTranslator*>(TranslatorName));
+    // What the toolkit says by itself, in the menu of a field for example, where the system has it.
+    (void)install(QStringLiteral("qtbase_") + language,
+                  QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    if (!installTexts(English) || (language != English && !installTexts(language))) {
+        return false;
+    }
+    QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
+    application.setProperty(Language, language);
+    return true;
 }
 
 QString localized(const char* key) {

@@ -6,9 +6,14 @@
 
 namespace zelto {
 
-/// Loads the texts that are linked into the program into the running QCoreApplication, once. False
-/// when they are damaged; every text is then its own key.
+/// Loads the texts that are linked into the program into the running application, in the language
+/// that the desktop's user reads, and turns the windows the way it is read. False when they are
+/// damaged; every text is then its own key.
 bool installStrings();
+
+/// The same in this language, one of textLanguages(), instead of any that was loaded before. A text
+/// that it lacks is English. Windows that exist keep their texts.
+bool installStrings(const QString& language);
 
 /// The text of the key. A key without a text is shown as it is.
 [[nodiscard]] QString localized(const char* key);

@@ -8,7 +8,7 @@ namespace zelto::test {
 
 ControllerBench::ControllerBench()
     : person([](const std::string& what) { ADD_FAILURE() << what; }) {
-    installStrings();
+    installStrings(QStringLiteral("en"));
     computer.usb.addHandleLayer(
         [forgeries = m_forgeries](std::unique_ptr<UsbDeviceInterface> handle) {
             return std::make_unique<ForgedReplies>(std::move(handle), forgeries);

@@ -12,6 +12,6 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     zelto::initResources();
-    zelto::installStrings();
+    zelto::installStrings(QStringLiteral("en"));
     return RUN_ALL_TESTS();
 }

@@ -1,4 +1,6 @@
 #include "tests/ui/AllForms.h"
+#include "ui/Languages.h"
+#include "ui/Strings.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -83,11 +85,30 @@ void setFontScale(double scale) {
 class FormRules : public ::testing::TestWithParam<FormUnderTest> {
 protected:
     void SetUp() override { form = GetParam().create(); }
-    void TearDown() override { setFontScale(1); }
+    void TearDown() override {
+        setFontScale(1);
+        installStrings(QStringLiteral("en"));
+    }
 
     void show() {
         form->centreAndMakeKeyAndOrderFront();
         QApplication::processEvents();
+    }
+
+    void expectMnemonicsOnce() {
+        std::map<QString, std::string> owners;
+        for (const QWidget* widget : controlsOf(*form)) {
+            const QString text = mnemonicTextOf(*widget);
+            const QString key = QKeySequence::mnemonic(text).toString();
+            const std::string name = widget->objectName().toStdString();
+            if (qobject_cast<const QAbstractButton*>(widget) != nullptr) {
+                EXPECT_FALSE(key.isEmpty()) << name << " has no mnemonic";
+            }
+            if (!key.isEmpty()) {
+                const auto [owner, isNew] = owners.emplace(key, name);
+                EXPECT_TRUE(isNew) << key.toStdString() << ": " << owner->second << ", " << name;
+            }
+        }
     }
 
     void expectEverythingFits() {
@@ -122,19 +143,7 @@ TEST_P(FormRules, EveryControlHasANameForAssistiveTechnology) {
 }
 
 TEST_P(FormRules, EveryButtonHasAMnemonicAndNoneIsUsedTwice) {
-    std::map<QString, std::string> owners;
-    for (const QWidget* widget : controlsOf(*form)) {
-        const QString text = mnemonicTextOf(*widget);
-        const QString key = QKeySequence::mnemonic(text).toString();
-        const std::string name = widget->objectName().toStdString();
-        if (qobject_cast<const QAbstractButton*>(widget) != nullptr) {
-            EXPECT_FALSE(key.isEmpty()) << name << " has no mnemonic";
-        }
-        if (!key.isEmpty()) {
-            const auto [owner, isNew] = owners.emplace(key, name);
-            EXPECT_TRUE(isNew) << key.toStdString() << ": " << owner->second << ", " << name;
-        }
-    }
+    expectMnemonicsOnce();
 }
 
 TEST_P(FormRules, EveryFieldIsReachedByAMnemonicOrStandsBesideACheckBox) {
@@ -276,6 +285,23 @@ TEST_P(FormRules, EverythingStillFitsWhenTheFontGrowsWhileTheWindowIsOpen) {
     form->centreAndMakeKeyAndOrderFront();
     QApplication::processEvents();
     expectEverythingFits();
+}
+
+TEST_P(FormRules, EveryLanguageHasItsMnemonicsOnceAndFitsBothWaysRoundAtEveryFontSize) {
+    for (const QString& language : textLanguages()) {
+        ASSERT_TRUE(installStrings(language));
+        for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+            SCOPED_TRACE(language.toStdString() + " " + std::to_string(scale));
+            setFontScale(scale);
+            form = GetParam().create();
+            expectMnemonicsOnce();
+            show();
+            expectEverythingFits();
+            form->setLayoutDirection(form->isRightToLeft() ? Qt::LeftToRight : Qt::RightToLeft);
+            QApplication::processEvents();
+            expectEverythingFits();
+        }
+    }
 }
 
 TEST_P(FormRules, EveryTextIsShownAsPlainText) {

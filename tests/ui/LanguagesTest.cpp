@@ -1,0 +1,134 @@
+#include "ui/Languages.h"
+#include "tests/ui/TextsFile.h"
+#include "ui/Strings.h"
+
+#include <QApplication>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+
+namespace zelto::test {
+namespace {
+
+// What a text must take along into every language: its arguments, and what the drive is given.
+QStringList keptParts(const QString& text) {
+    static const QRegularExpression kept(QStringLiteral("%[0-9n]|ZELTO DISK|Disk&?[1-3]|USB|F1"));
+    QStringList parts;
+    for (auto match = kept.globalMatch(text); match.hasNext();) {
+        parts.append(match.next().captured().remove(u'&'));
+    }
+    parts.sort();
+    return parts;
+}
+
+class EveryLanguage : public ::testing::Test {
+protected:
+    void TearDown() override { installStrings(QStringLiteral("en")); }
+};
+
+TEST_F(EveryLanguage, KeepsArgumentsAndNames) {
+    for (const QString& language : textLanguages()) {
+        if (language == QStringLiteral("en")) {
+            continue;
+        }
+        SCOPED_TRACE(language.toStdString());
+        for (const auto& [id, message] : textsOf(language)) {
+            if (!message.isFinished) {
+                continue;
+            }
+            EXPECT_EQ(keptParts(message.translation), keptParts(message.source))
+                << id.toStdString() << ": " << message.translation.toStdString();
+            EXPECT_EQ(message.translation.contains(u'&'), message.source.contains(u'&'))
+                << id.toStdString() << ": " << message.translation.toStdString();
+        }
+    }
+}
+
+TEST_F(EveryLanguage, IsLinkedInAndReadItsOwnWay) {
+    for (const QString& language : textLanguages()) {
+        ASSERT_TRUE(installStrings(language)) << language.toStdString();
+        const bool isArabic = language == QStringLiteral("ar");
+        EXPECT_EQ(QApplication::isRightToLeft(), isArabic) << language.toStdString();
+        const QString id = QStringLiteral("IDS_SETTINGS_TITLE");
+        const TextMessage message = textsOf(language).at(id);
+        EXPECT_EQ(localized("IDS_SETTINGS_TITLE"),
+                  message.isFinished ? message.translation : message.source);
+    }
+}
+
+TEST_F(EveryLanguage, GivesWayToTheNextOneAndToEnglishAgain) {
+    ASSERT_TRUE(installStrings(QStringLiteral("ar")));
+    ASSERT_TRUE(installStrings(QStringLiteral("de")));
+    EXPECT_EQ(localized("IDS_CANCEL_BUTTON"), QStringLiteral("Abbrechen"));
+    EXPECT_FALSE(QApplication::isRightToLeft());
+    ASSERT_TRUE(installStrings(QStringLiteral("en")));
+    EXPECT_EQ(localized("IDS_CANCEL_BUTTON"), QStringLiteral("Cancel"));
+}
+
+TEST_F(EveryLanguage, ThatIsNotThereIsRefusedAndEnglishStays) {
+    EXPECT_FALSE(installStrings(QStringLiteral("xx")));
+    EXPECT_EQ(localized("IDS_CANCEL_BUTTON"), QStringLiteral("Cancel"));
+}
+
+// "&Erase Key...", as it reads.
+QString nameOfButton(const char* id) {
+    static const QRegularExpression added(QStringLiteral("\\(&\\w\\)|&|\u2026"));
+    return localized(id).remove(added).trimmed();
+}
+
+TEST_F(EveryLanguage, CallsAButtonInSentencesWhatTheWindowCallsIt) {
+    constexpr std::pair<const char*, const char*> SentencesAndButtons[] = {
+        {"IDS_HINT_CLOSES", "IDS_SETTINGS_OK"},
+        {"IDS_HINT_CLOSES", "IDS_SETTINGS_CANCEL"},
+        {"IDS_HINT_CLOSES", "IDS_SETTINGS_ERASE_KEY"},
+        {"IDS_HINT_CLOSES", "IDS_SETTINGS_CLEAR_ALL"},
+        {"IDS_HINT_SETUP_ERASES", "IDS_SETTINGS_OK"},
+        {"IDS_HINT_PERIOD_ZERO", "IDS_SETTINGS_OK"},
+        {"IDS_ERR_ZELTO_DRIVE_LOST", "IDS_SETTINGS_CLEAR_ALL"},
+    };
+    for (const QString& language : textLanguages()) {
+        ASSERT_TRUE(installStrings(language));
+        for (const auto& [sentence, button] : SentencesAndButtons) {
+            EXPECT_TRUE(localized(sentence).contains(nameOfButton(button)))
+                << language.toStdString() << " " << sentence << ": "
+                << nameOfButton(button).toStdString();
+        }
+    }
+}
+
+struct ChoiceRow {
+    const char* name;
+    QStringList wanted;
+    const char* chosen;
+};
+
+std::ostream& operator<<(std::ostream& stream, const ChoiceRow& row) {
+    return stream << row.name;
+}
+
+const QStringList There{"ar", "de", "en", "pt_BR", "zh_CN"};
+
+class LanguageChoice : public ::testing::TestWithParam<ChoiceRow> {};
+
+TEST_P(LanguageChoice, IsTheFirstThatThereIs) {
+    EXPECT_EQ(languageFor(GetParam().wanted, There).toStdString(), GetParam().chosen);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Desktops, LanguageChoice,
+    ::testing::Values(ChoiceRow{"TheFirst", {"de-DE", "en"}, "de"},
+                      ChoiceRow{"TheNextWhereTheFirstIsMissing", {"fi-FI", "ar", "de"}, "ar"},
+                      ChoiceRow{"EnglishWhereItIsWantedBefore", {"en-GB", "de"}, "en"},
+                      ChoiceRow{"EnglishAtTheEnd", {"fi"}, "en"},
+                      ChoiceRow{"EnglishForNone", {}, "en"}, ChoiceRow{"EnglishForC", {"C"}, "en"},
+                      ChoiceRow{"WhateverTheCountry", {"de-CH"}, "de"},
+                      ChoiceRow{"WhateverTheCountryOfOurs", {"pt-PT"}, "pt_BR"},
+                      ChoiceRow{"TheScriptThatIsRead", {"zh-Hans-SG"}, "zh_CN"},
+                      ChoiceRow{"NotAnotherScript", {"zh-TW"}, "en"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+} // namespace
+} // namespace zelto::test

@@ -1,0 +1,1152 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="OK">
+        <source>OK</source>
+        <extracomment>A button</extracomment>
+        <translation>Aceptar</translation>
+    </message>
+    <message id="IDS_APP_TITLE">
+        <source>ZELTO DISK</source>
+        <extracomment>The product’s name: never translated</extracomment>
+        <translation>ZELTO DISK</translation>
+    </message>
+    <message id="IDS_CANCEL_BUTTON">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="IDS_ERR_NOT_FOUND_ZELTO">
+        <source>No ZELTO DISK is ready for use. Plug it in, then start this program again.</source>
+        <translation>No hay ningún ZELTO DISK listo para usar. Conéctelo y vuelva a iniciar este programa.</translation>
+    </message>
+    <message id="IDS_ENTER_1ST_PASSWORD">
+        <source>Enter the password; the first one if the drive has two.</source>
+        <translation>Introduzca la contraseña; la primera si la unidad tiene dos.</translation>
+    </message>
+    <message id="IDS_ENTER_2ND_PASSWORD">
+        <source>Enter the second password.</source>
+        <translation>Introduzca la segunda contraseña.</translation>
+    </message>
+    <message id="IDS_FULLLOCK_TIME_STATUS_INVALID">
+        <source>The drive’s clock has stopped, so the drive has locked itself.
+
+Set the drive’s clock to this computer’s time, %1? Check first that this time is right. If the drive still has its key, you can log in to it afterwards.</source>
+        <extracomment>%1 is a date and time</extracomment>
+        <translation>El reloj de la unidad se ha parado, así que la unidad se ha bloqueado.
+
+¿Poner el reloj de la unidad a la hora de este equipo, %1? Compruebe antes que esta hora es correcta. Si la unidad conserva su clave, después podrá iniciar sesión en ella.</translation>
+    </message>
+    <message id="IDS_SET_CURRENT_YIME">
+        <source>The drive’s clock has been set. The program now closes. Start it again: it then says whether you can log in.</source>
+        <translation>Se ha puesto en hora el reloj de la unidad. El programa se cerrará ahora. Vuelva a iniciarlo: le dirá si puede iniciar sesión.</translation>
+    </message>
+    <message id="IDS_ERR_ZELTO_DRIVE_LOST">
+        <source>The drive has locked itself for good and its key is gone: after too many wrong passwords, because its time ran out, or because the key was erased. What was in the secure area cannot be read any more, by anyone.
+
+To use the drive again, start this program if it has closed, choose “Clear All” in the settings, then plug the drive out and in and start the program once more to set it up.</source>
+        <translation>La unidad se ha bloqueado definitivamente y su clave se ha perdido: tras demasiadas contraseñas incorrectas, porque se agotó su plazo o porque se borró la clave. Nadie podrá volver a leer lo que había en el área segura.
+
+Para volver a usar la unidad, inicie este programa si se ha cerrado, elija «Borrar todo» en los ajustes, desconecte y vuelva a conectar la unidad e inicie el programa una vez más para configurarla.</translation>
+    </message>
+    <message id="IDS_ERR_AUTHENTICATE_FAILED">
+        <source>This password is not right. Check Caps Lock and try again; the drive may allow only a few tries.</source>
+        <translation>Esta contraseña no es correcta. Compruebe Bloq Mayús e inténtelo de nuevo; puede que la unidad solo permita unos pocos intentos.</translation>
+    </message>
+    <message id="IDS_ERR_UNMOUNT">
+        <source>The drive’s volumes could not be released; most often a program still uses a file on them. Nothing else was done: a drive that was unlocked is still unlocked.
+
+Close all files and windows that show the drive, then try again. Start this program again if it has closed.</source>
+        <translation>No se han podido desmontar los volúmenes de la unidad; lo más frecuente es que un programa siga usando un archivo de ellos. No se ha hecho nada más: una unidad que estaba desbloqueada sigue desbloqueada.
+
+Cierre todos los archivos y ventanas que muestren la unidad e inténtelo de nuevo. Vuelva a iniciar este programa si se ha cerrado.</translation>
+    </message>
+    <message id="IDS_COMMAND_FAIL_WITH_SENSE_INFO">
+        <source>The drive did not carry out this step. If it happens again, close this program, plug the drive out and in, and start the program again.
+
+For support: sense key %1, code %2, qualifier %3.</source>
+        <extracomment>Numbers that identify an error</extracomment>
+        <translation>La unidad no ha realizado este paso. Si vuelve a ocurrir, cierre este programa, desconecte y vuelva a conectar la unidad e inicie el programa de nuevo.
+
+Para soporte técnico: clave de detección %1, código %2, calificador %3.</translation>
+    </message>
+    <message id="IDS_COMMAND_FAIL">
+        <source>The drive does not answer. Close this program, plug the drive out and in, and start the program again.</source>
+        <translation>La unidad no responde. Cierre este programa, desconecte y vuelva a conectar la unidad e inicie el programa de nuevo.</translation>
+    </message>
+    <message id="IDS_ERR_TIME_STATUS_INVALID">
+        <source>not set</source>
+        <extracomment>In place of the time, after “Drive’s clock:”</extracomment>
+        <translation>sin ajustar</translation>
+    </message>
+    <message id="IDS_EXPIRED">
+        <source>The time has run out</source>
+        <extracomment>In place of the remaining time, after “Key erased in:”</extracomment>
+        <translation>El plazo se ha agotado</translation>
+    </message>
+    <message id="IDS_DAYS">
+        <source>d</source>
+        <extracomment>After a number: 12 d 5 h 30 min</extracomment>
+        <translation>d</translation>
+    </message>
+    <message id="IDS_HOURS">
+        <source>h</source>
+        <extracomment>After a number</extracomment>
+        <translation>h</translation>
+    </message>
+    <message id="IDS_MIN">
+        <source>min</source>
+        <extracomment>After a number</extracomment>
+        <translation>min</translation>
+    </message>
+    <message id="IDS_TIME_SYNC_COMPLETE">
+        <source>The drive’s clock has been set to this computer’s time. The program now closes; start it again to go on.</source>
+        <translation>El reloj de la unidad se ha puesto a la hora de este equipo. El programa se cerrará ahora; vuelva a iniciarlo para continuar.</translation>
+    </message>
+    <message id="IDS_NOW_SETTING">
+        <source>Setting up the drive. Please do not unplug it.</source>
+        <extracomment>Blinks while the drive is set up</extracomment>
+        <translation>Configurando la unidad. No la desconecte.</translation>
+    </message>
+    <message id="IDS_SETTING_COMPLETE">
+        <source>The drive is set up. Its areas are still blank: format each once before you use it, a secure one after you have logged in.</source>
+        <translation>La unidad está configurada. Sus áreas aún están vacías: formatee cada una antes de usarla; un área segura, después de iniciar sesión.</translation>
+    </message>
+    <message id="IDS_ERR_FORMAT">
+        <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
+        <translation>La unidad está configurada y se puede usar. Solo no se ha podido formatear su área de herramientas, así que la unidad no lleva este programa: úsela con el programa de este equipo.</translation>
+    </message>
+    <message id="IDS_ERR_FILE_COPY">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
+
+From: %1
+To: %2</source>
+        <extracomment>%1 and %2 are names of files</extracomment>
+        <translation>La unidad está configurada y se puede usar. Solo no se ha podido copiar este programa a su área de herramientas: úsela con el programa de este equipo.
+
+Desde: %1
+A: %2</translation>
+    </message>
+    <message id="IDS_ERR_SPINUP">
+        <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
+        <translation>La unidad no ha llegado a estar lista, así que no se ha cambiado nada en ella. El programa se cerrará ahora. Desconecte y vuelva a conectar la unidad e inicie el programa de nuevo.</translation>
+    </message>
+    <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
+        <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
+        <translation>Ha elegido introducir la clave de cifrado manualmente, pero aún no hay ninguna. Introduzca una clave o deje que la unidad la genere.</translation>
+    </message>
+    <message id="IDS_ERR_CURRENT_1ST_PASSWORD_INVALID">
+        <source>The current first password is not right, so the first password was not changed. If you are changing two passwords, the second one has been changed already: from now on its current password is the new one. Check Caps Lock and enter the passwords again.</source>
+        <translation>La primera contraseña actual no es correcta, así que no se ha cambiado la primera contraseña. Si está cambiando dos contraseñas, la segunda ya se ha cambiado: desde ahora su contraseña actual es la nueva. Compruebe Bloq Mayús e introduzca las contraseñas de nuevo.</translation>
+    </message>
+    <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
+        <source>The current second password is not right, so no password was changed. Check Caps Lock and enter it again.</source>
+        <translation>La segunda contraseña actual no es correcta, así que no se ha cambiado ninguna contraseña. Compruebe Bloq Mayús e introdúzcala de nuevo.</translation>
+    </message>
+    <message id="IDS_ERR_ZELTO_NOT_UNLOCKING">
+        <source>The drive is locked. Log in to it first, then try again.</source>
+        <translation>La unidad está bloqueada. Inicie sesión primero e inténtelo de nuevo.</translation>
+    </message>
+    <message id="IDS_CLEAR_ALL_CONFIRM">
+        <source>Clear everything on this drive?
+
+All areas with all their files, all passwords and all settings will be gone. This cannot be undone.</source>
+        <translation>¿Borrar todo en esta unidad?
+
+Se perderán todas las áreas con todos sus archivos, todas las contraseñas y todos los ajustes. Esto no se puede deshacer.</translation>
+    </message>
+    <message id="IDS_ERASE_ENCRYPTION_KEY_CONFIRM">
+        <source>Erase the encryption key of this drive?
+
+Everything in the secure area becomes unreadable for good, even with the right password. This cannot be undone.</source>
+        <translation>¿Borrar la clave de cifrado de esta unidad?
+
+Todo lo que hay en el área segura quedará ilegible para siempre, incluso con la contraseña correcta. Esto no se puede deshacer.</translation>
+    </message>
+    <message id="IDS_TOTAL_CAPACITY">
+        <source>Total: %1 MB</source>
+        <extracomment>%1 is a whole number of MB</extracomment>
+        <translation>Total: %1 MB</translation>
+    </message>
+    <message id="IDS_FREE_CAPACITY">
+        <source>Free: %1 MB</source>
+        <extracomment>%1 is a whole number of MB</extracomment>
+        <translation>Libre: %1 MB</translation>
+    </message>
+    <message id="IDS_CAPACITY_OVER">
+        <source>The areas are larger than the drive.</source>
+        <translation>Las áreas son mayores que la unidad.</translation>
+    </message>
+    <message id="IDS_NORMAL_AREA">
+        <source>Normal</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Normal</translation>
+    </message>
+    <message id="IDS_SECURE_AREA">
+        <source>Secure</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Segura</translation>
+    </message>
+    <message id="IDS_FREE_AREA">
+        <source>Not used yet</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Aún sin usar</translation>
+    </message>
+    <message id="IDS_ALL_SECTORS">
+        <source>Whole drive</source>
+        <extracomment>In place of an area’s capacity: the area takes it all</extracomment>
+        <translation>Unidad completa</translation>
+    </message>
+    <message id="IDS_HINT_RULE_MISSING">
+        <source>One ZELTO DISK that is plugged in is not in this list, because this computer does not let you use it yet. Install the program’s package, or ask your administrator to add its device rule, then plug the drive in again.</source>
+        <translation>Un ZELTO DISK conectado no está en esta lista porque este equipo aún no le permite usarlo. Instale el paquete del programa o pida a su administrador que añada su regla de dispositivo y vuelva a conectar la unidad.</translation>
+    </message>
+    <message id="IDS_HINT_OTHER_SESSION">
+        <source>One ZELTO DISK that is plugged in is not in this list, because it belongs to another user’s session on this computer. Use it from that session, or log in at this computer’s own screen and plug it in again.</source>
+        <translation>Un ZELTO DISK conectado no está en esta lista porque pertenece a la sesión de otro usuario de este equipo. Úselo desde esa sesión, o inicie sesión directamente en este equipo y vuelva a conectarlo.</translation>
+    </message>
+    <message id="IDS_HINT_DRIVE_IN_USE">
+        <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
+        <translation>Un ZELTO DISK conectado no está en esta lista porque otra copia de este programa lo está usando. Cierre esa copia y vuelva a iniciar este programa.</translation>
+    </message>
+    <message id="IDS_HINT_BUSY_PROGRAMS">
+        <source>Still using the drive: %1</source>
+        <extracomment>%1 is a list of programs</extracomment>
+        <translation>Aún usan la unidad: %1</translation>
+    </message>
+    <message id="IDS_HINT_NEXT_AREAS">
+        <source>Next: lay out the areas.</source>
+        <translation>Siguiente paso: distribuir las áreas.</translation>
+    </message>
+    <message id="IDS_HINT_NEXT_PASSWORDS">
+        <source>Next: choose the passwords.</source>
+        <translation>Siguiente paso: elegir las contraseñas.</translation>
+    </message>
+    <message id="IDS_HINT_NOTHING_CHANGED">
+        <source>Nothing has been changed yet.</source>
+        <translation>Aún no se ha cambiado nada.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_CLEAR_DAYS">
+        <source>Erase the key after: enter 1 to 9999 days.</source>
+        <translation>Borrar la clave tras: introduzca de 1 a 9999 días.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_CLEAR_MINUTES">
+        <source>Erase the key after: enter 1 to 999 minutes.</source>
+        <translation>Borrar la clave tras: introduzca de 1 a 999 minutos.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_LOG_OFF_MINUTES">
+        <source>Log off after: enter 1 to 999 minutes.</source>
+        <translation>Cerrar sesión tras: introduzca de 1 a 999 minutos.</translation>
+    </message>
+    <message id="IDS_HINT_AREA_DIGITS">
+        <source>Sizes are whole numbers of MB.</source>
+        <translation>Los tamaños son números enteros de MB.</translation>
+    </message>
+    <message id="IDS_HINT_AREA_DISK1">
+        <source>Next: enter a size for Disk1.</source>
+        <translation>Siguiente paso: introducir un tamaño para Disk1.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_MISSING">
+        <source>Next: enter the first password.</source>
+        <translation>Siguiente paso: introducir la primera contraseña.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_AGAIN">
+        <source>Next: enter the first password again.</source>
+        <translation>Siguiente paso: repetir la primera contraseña.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_DIFFERS">
+        <source>The two entries of the first password differ.</source>
+        <translation>Las dos entradas de la primera contraseña son distintas.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_MISSING">
+        <source>Next: enter the second password.</source>
+        <translation>Siguiente paso: introducir la segunda contraseña.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_AGAIN">
+        <source>Next: enter the second password again.</source>
+        <translation>Siguiente paso: repetir la segunda contraseña.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_DIFFERS">
+        <source>The two entries of the second password differ.</source>
+        <translation>Las dos entradas de la segunda contraseña son distintas.</translation>
+    </message>
+    <message id="IDS_HINT_CURRENT_FIRST_MISSING">
+        <source>Next: enter the current first password.</source>
+        <translation>Siguiente paso: introducir la primera contraseña actual.</translation>
+    </message>
+    <message id="IDS_HINT_CURRENT_SECOND_MISSING">
+        <source>Next: enter the current second password.</source>
+        <translation>Siguiente paso: introducir la segunda contraseña actual.</translation>
+    </message>
+    <message id="IDS_HINT_PASSWORD_ACCENTS">
+        <source>Letters with accents cannot be used in a password.</source>
+        <translation>En una contraseña no se pueden usar letras con tilde ni la eñe.</translation>
+    </message>
+    <message id="IDS_HINT_PASSWORD_TOO_LONG">
+        <source>A password has 32 characters at most.</source>
+        <translation>Una contraseña tiene 32 caracteres como máximo.</translation>
+    </message>
+    <message id="IDS_HINT_TRIALS">
+        <source>Next: enter how many tries are allowed, 1 to 99.</source>
+        <translation>Siguiente paso: introducir cuántos intentos se permiten, de 1 a 99.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_MISSING">
+        <source>Next: enter the digits of the key.</source>
+        <translation>Siguiente paso: introducir los dígitos de la clave.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_DIGITS">
+        <source>Only the digits 0 to 9 and A to F can be used.</source>
+        <translation>Solo se pueden usar los dígitos de 0 a 9 y de A a F.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_ODD">
+        <source>One digit is missing.</source>
+        <translation>Falta un dígito.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_TOO_LONG">
+        <source>%1 of 128 digits: that is too many.</source>
+        <translation>%1 de 128 dígitos: son demasiados.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_ERASES">
+        <source>OK erases everything on this drive and closes this window.</source>
+        <extracomment>Names the button OK</extracomment>
+        <translation>Aceptar borra todo en esta unidad y cierra esta ventana.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_OPEN">
+        <source>No secure area: anyone can read this drive. Passwords and a key that were entered are not used.</source>
+        <translation>Sin área segura: cualquiera puede leer esta unidad. No se usan las contraseñas ni la clave introducidas.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_RETRY">
+        <source>Before you try again, open the areas and confirm them once more.</source>
+        <translation>Antes de volver a intentarlo, abra las áreas y confírmelas otra vez.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_TABLE_FULL">
+        <source>There is no room for one more attempt in the list of areas. Open the areas, confirm them once more, then try again.</source>
+        <translation>No hay sitio para otro intento en la lista de áreas. Abra las áreas, confírmelas otra vez e inténtelo de nuevo.</translation>
+    </message>
+    <message id="IDS_HINT_CLOSES">
+        <source>OK, Cancel, Erase Key and Clear All close the program.</source>
+        <extracomment>Names the buttons of the window as they are called there</extracomment>
+        <translation>Aceptar, Cancelar, Borrar clave y Borrar todo cierran el programa.</translation>
+    </message>
+    <message id="IDS_HINT_SET_CLOCK_CLOSES">
+        <source>Setting the clock closes the program; what was entered is lost.</source>
+        <translation>Al poner el reloj en hora se cierra el programa; se pierde lo introducido.</translation>
+    </message>
+    <message id="IDS_HINT_PERIOD_ZERO">
+        <source>A period that shows 0 is switched off by OK.</source>
+        <extracomment>Names the button OK</extracomment>
+        <translation>Un plazo que muestra 0 se desactiva con Aceptar.</translation>
+    </message>
+    <message id="IDS_HINT_SECURE_CHOICE_DROPPED">
+        <source>Only Disk1 keeps its choice when this window opens. To make Disk2 or Disk3 secure, choose it again.</source>
+        <translation>Solo Disk1 conserva su elección cuando se abre esta ventana. Para que Disk2 o Disk3 sea segura, elíjala de nuevo.</translation>
+    </message>
+    <message id="IDS_HINT_TRIALS_ERASE">
+        <source>After that many wrong second passwords the drive erases its key for good.</source>
+        <translation>Tras ese número de segundas contraseñas incorrectas, la unidad borra su clave para siempre.</translation>
+    </message>
+    <message id="IDS_AREAS_TITLE">
+        <source>ZELTO DISK: Areas</source>
+        <translation>ZELTO DISK: áreas</translation>
+    </message>
+    <message id="IDS_AREAS_HEADING">
+        <source>Divide the drive into areas.</source>
+        <translation>Divida la unidad en áreas.</translation>
+    </message>
+    <message id="IDS_AREAS_EXPLANATION">
+        <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
+        <translation>Hasta tres áreas; deje en 0 MB las que no necesite. Una de ellas puede ser segura: permanece oculta hasta que inicie sesión.</translation>
+    </message>
+    <message id="IDS_AREAS_BAR_NAME">
+        <source>The areas in proportion</source>
+        <translation>Las áreas en proporción</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1">
+        <source>Disk&amp;1:</source>
+        <extracomment>Disk1, Disk2 and Disk3 are given names: never translated</extracomment>
+        <translation>Disk&amp;1:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_UNIT">
+        <source>MB</source>
+        <extracomment>Stands after a field with a number</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_SECURE">
+        <source>&amp;Secure area</source>
+        <translation>Ár&amp;ea segura</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_SECURE_NAME">
+        <source>Disk1 is a secure area</source>
+        <translation>Disk1 es un área segura</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2">
+        <source>Disk&amp;2:</source>
+        <translation>Disk&amp;2:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_UNIT">
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_SECURE">
+        <source>S&amp;ecure area</source>
+        <translation>Á&amp;rea segura</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_SECURE_NAME">
+        <source>Disk2 is a secure area</source>
+        <translation>Disk2 es un área segura</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3">
+        <source>Disk&amp;3:</source>
+        <translation>Disk&amp;3:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_UNIT">
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_SECURE">
+        <source>Secure &amp;area</source>
+        <translation>Área &amp;segura</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_SECURE_NAME">
+        <source>Disk3 is a secure area</source>
+        <translation>Disk3 es un área segura</translation>
+    </message>
+    <message id="IDS_AREAS_LEFT_NAME">
+        <source>Capacity that is left</source>
+        <translation>Capacidad restante</translation>
+    </message>
+    <message id="IDS_AREAS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>Ca&amp;ncelar</translation>
+    </message>
+    <message id="IDS_AREAS_OK">
+        <source>&amp;OK</source>
+        <translation>A&amp;ceptar</translation>
+    </message>
+    <message id="IDS_LOGIN_TITLE">
+        <source>ZELTO DISK: Log In</source>
+        <translation>ZELTO DISK: iniciar sesión</translation>
+    </message>
+    <message id="IDS_LOGIN_MESSAGE">
+        <source>Enter the password of your drive.</source>
+        <translation>Introduzca la contraseña de su unidad.</translation>
+    </message>
+    <message id="IDS_LOGIN_PASSWORD">
+        <source>&amp;Password:</source>
+        <translation>C&amp;ontraseña:</translation>
+    </message>
+    <message id="IDS_LOGIN_CLOCK">
+        <source>Drive’s clock:</source>
+        <translation>Reloj de la unidad:</translation>
+    </message>
+    <message id="IDS_LOGIN_CLOCK_NAME">
+        <source>Drive’s clock</source>
+        <translation>Reloj de la unidad</translation>
+    </message>
+    <message id="IDS_LOGIN_TIME_LEFT">
+        <source>Key erased in:</source>
+        <extracomment>A time follows: 12 d 5 h 30 min</extracomment>
+        <translation>La clave se borra en:</translation>
+    </message>
+    <message id="IDS_LOGIN_TIME_LEFT_NAME">
+        <source>Time left until the drive erases its key</source>
+        <translation>Tiempo que falta para que la unidad borre su clave</translation>
+    </message>
+    <message id="IDS_LOGIN_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message id="IDS_LOGIN_SUBMIT">
+        <source>&amp;Log In</source>
+        <translation>&amp;Iniciar sesión</translation>
+    </message>
+    <message id="IDS_KEY_TITLE">
+        <source>ZELTO DISK: Encryption Key</source>
+        <translation>ZELTO DISK: clave de cifrado</translation>
+    </message>
+    <message id="IDS_KEY_HEADING">
+        <source>Enter the encryption key.</source>
+        <translation>Introduzca la clave de cifrado.</translation>
+    </message>
+    <message id="IDS_KEY_EXPLANATION">
+        <source>An even number of hexadecimal digits, 0 to 9 and A to F, 128 at the most. Keep a copy in a safe place.</source>
+        <translation>Un número par de dígitos hexadecimales, de 0 a 9 y de A a F, 128 como máximo. Guarde una copia en un lugar seguro.</translation>
+    </message>
+    <message id="IDS_KEY_KEY">
+        <source>&amp;Key:</source>
+        <extracomment>The encryption key; a field follows</extracomment>
+        <translation>C&amp;lave:</translation>
+    </message>
+    <message id="IDS_KEY_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>Ca&amp;ncelar</translation>
+    </message>
+    <message id="IDS_KEY_OK">
+        <source>&amp;OK</source>
+        <translation>A&amp;ceptar</translation>
+    </message>
+    <message id="IDS_SETTINGS_TITLE">
+        <source>ZELTO DISK: Settings</source>
+        <translation>ZELTO DISK: ajustes</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_GROUP">
+        <source>Drive</source>
+        <extracomment>Title of a group: the USB drive as a whole</extracomment>
+        <translation>Unidad</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE">
+        <source>Dri&amp;ve:</source>
+        <translation>&amp;Unidad:</translation>
+    </message>
+    <message id="IDS_SETTINGS_COMPUTER_CLOCK">
+        <source>Computer’s clock:</source>
+        <translation>Reloj del equipo:</translation>
+    </message>
+    <message id="IDS_SETTINGS_COMPUTER_CLOCK_NAME">
+        <source>Computer’s clock</source>
+        <translation>Reloj del equipo</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_CLOCK">
+        <source>Drive’s clock:</source>
+        <translation>Reloj de la unidad:</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_CLOCK_NAME">
+        <source>Drive’s clock</source>
+        <translation>Reloj de la unidad</translation>
+    </message>
+    <message id="IDS_SETTINGS_SET_CLOCK">
+        <source>&amp;Set Clock</source>
+        <translation>Poner en &amp;hora</translation>
+    </message>
+    <message id="IDS_SETTINGS_SET_CLOCK_DESCRIPTION">
+        <source>Sets the drive’s clock to the computer’s time</source>
+        <translation>Pone el reloj de la unidad a la hora del equipo</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREAS_GROUP">
+        <source>Areas</source>
+        <translation>Áreas</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREA_BAR_NAME">
+        <source>The drive’s areas in proportion</source>
+        <translation>Las áreas de la unidad en proporción</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREA_TABLE_NAME">
+        <source>The drive’s areas</source>
+        <translation>Las áreas de la unidad</translation>
+    </message>
+    <message id="IDS_SETTINGS_TOTAL_CAPACITY_NAME">
+        <source>Total capacity</source>
+        <translation>Capacidad total</translation>
+    </message>
+    <message id="IDS_SETTINGS_FREE_CAPACITY_NAME">
+        <source>Free capacity</source>
+        <translation>Capacidad libre</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREAS">
+        <source>&amp;Areas…</source>
+        <translation>Á&amp;reas…</translation>
+    </message>
+    <message id="IDS_SETTINGS_PROTECTION_GROUP">
+        <source>Protection of the secure area</source>
+        <translation>Protección del área segura</translation>
+    </message>
+    <message id="IDS_SETTINGS_PASSWORDS_LABEL">
+        <source>Passwords for log-in:</source>
+        <translation>Contraseñas de inicio de sesión:</translation>
+    </message>
+    <message id="IDS_SETTINGS_PASSWORDS">
+        <source>&amp;Passwords…</source>
+        <translation>C&amp;ontraseñas…</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_LABEL">
+        <source>Encryption key:</source>
+        <translation>Clave de cifrado:</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_ORIGIN_NAME">
+        <source>Encryption key</source>
+        <translation>Clave de cifrado</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_BY_DRIVE">
+        <source>&amp;Made by the drive</source>
+        <extracomment>The encryption key</extracomment>
+        <translation>&amp;Generada por la unidad</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_BY_HAND">
+        <source>&amp;Entered by hand</source>
+        <extracomment>The encryption key</extracomment>
+        <translation>Introducida &amp;manualmente</translation>
+    </message>
+    <message id="IDS_SETTINGS_ENTER_KEY">
+        <source>Enter &amp;Key…</source>
+        <translation>&amp;Introducir clave…</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTOMATIC_GROUP">
+        <source>Automatic protection</source>
+        <translation>Protección automática</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR">
+        <source>Erase the key af&amp;ter</source>
+        <extracomment>Reads on: [12] (•) days ( ) minutes</extracomment>
+        <translation>Borrar &amp;la clave tras</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_PERIOD_NAME">
+        <source>Period until the key is erased</source>
+        <translation>Plazo hasta que se borra la clave</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_UNIT_NAME">
+        <source>Unit of the period until the key is erased</source>
+        <translation>Unidad del plazo hasta que se borra la clave</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_DAYS">
+        <source>&amp;days</source>
+        <extracomment>Ends the line “Erase the key after [12]”</extracomment>
+        <translation>&amp;días</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_MINUTES">
+        <source>m&amp;inutes</source>
+        <extracomment>Ends the line “Erase the key after [12]”</extracomment>
+        <translation>mi&amp;nutos</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF">
+        <source>Lo&amp;g off after</source>
+        <extracomment>Reads on: [12] minutes without use</extracomment>
+        <translation>Cerrar &amp;sesión tras</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
+        <source>Minutes without use until the drive logs off</source>
+        <translation>Minutos sin uso hasta que la unidad cierra la sesión</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF_UNIT">
+        <source>minutes without use</source>
+        <extracomment>Ends the line “Log off after [12]”</extracomment>
+        <translation>minutos sin uso</translation>
+    </message>
+    <message id="IDS_SETTINGS_SHOW_REMAINING_TIME">
+        <source>Show the &amp;remaining time at log-in</source>
+        <translation>Mostrar &amp;el tiempo restante al iniciar sesión</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_GROUP">
+        <source>Erase</source>
+        <extracomment>Title of a group</extracomment>
+        <translation>Borrado</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_KEY_EXPLANATION">
+        <source>Without its key the secure area can never be read again.</source>
+        <translation>Sin su clave, el área segura no se podrá volver a leer nunca.</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_KEY">
+        <source>Erase Ke&amp;y…</source>
+        <translation>&amp;Borrar clave…</translation>
+    </message>
+    <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
+        <source>Clearing removes every area, password and setting.</source>
+        <translation>Elimina todas las áreas, contraseñas y ajustes.</translation>
+    </message>
+    <message id="IDS_SETTINGS_CLEAR_ALL">
+        <source>Clear A&amp;ll…</source>
+        <translation>Borrar &amp;todo…</translation>
+    </message>
+    <message id="IDS_SETTINGS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message id="IDS_SETTINGS_OK">
+        <source>&amp;OK</source>
+        <translation>Ace&amp;ptar</translation>
+    </message>
+    <message id="IDS_CHANGE_TITLE">
+        <source>ZELTO DISK: Change Passwords</source>
+        <translation>ZELTO DISK: cambiar contraseñas</translation>
+    </message>
+    <message id="IDS_CHANGE_HEADING">
+        <source>Change the passwords of the secure area.</source>
+        <translation>Cambie las contraseñas del área segura.</translation>
+    </message>
+    <message id="IDS_CHANGE_EXPLANATION">
+        <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
+        <translation>Una contraseña tiene de 1 a 32 letras sin tilde ni eñe, dígitos o signos. La unidad permite cualquier número de intentos con la primera, así que elija una difícil de adivinar. Una contraseña olvidada no se puede recuperar.</translation>
+    </message>
+    <message id="IDS_CHANGE_NUMBER_NAME">
+        <source>Number of passwords</source>
+        <translation>Número de contraseñas</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_ONLY">
+        <source>First password &amp;only</source>
+        <translation>&amp;Solo la primera contraseña</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_AND_SECOND">
+        <source>First &amp;and second password</source>
+        <translation>&amp;Primera y segunda contraseña</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_GROUP">
+        <source>First password</source>
+        <translation>Primera contraseña</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_CURRENT">
+        <source>&amp;Current:</source>
+        <extracomment>The current first password</extracomment>
+        <translation>Act&amp;ual:</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_NEW">
+        <source>&amp;New:</source>
+        <extracomment>The new first password</extracomment>
+        <translation>Nue&amp;va:</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_AGAIN">
+        <source>New a&amp;gain:</source>
+        <extracomment>The new first password again</extracomment>
+        <translation>Repetir &amp;la nueva:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_GROUP">
+        <source>Second password</source>
+        <translation>Segunda contraseña</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_CURRENT">
+        <source>C&amp;urrent:</source>
+        <translation>Ac&amp;tual:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_NEW">
+        <source>N&amp;ew:</source>
+        <translation>&amp;Nueva:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_AGAIN">
+        <source>New aga&amp;in:</source>
+        <translation>&amp;Repetir la nueva:</translation>
+    </message>
+    <message id="IDS_CHANGE_TRIES">
+        <source>&amp;Tries allowed:</source>
+        <extracomment>How often a wrong second password may be entered</extracomment>
+        <translation>&amp;Intentos permitidos:</translation>
+    </message>
+    <message id="IDS_CHANGE_TRIES_PLACEHOLDER">
+        <source>1–99</source>
+        <translation>1–99</translation>
+    </message>
+    <message id="IDS_CHANGE_CANCEL">
+        <source>Cance&amp;l</source>
+        <translation>Canc&amp;elar</translation>
+    </message>
+    <message id="IDS_CHANGE_OK">
+        <source>O&amp;K</source>
+        <translation>A&amp;ceptar</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TITLE">
+        <source>ZELTO DISK: Passwords</source>
+        <translation>ZELTO DISK: contraseñas</translation>
+    </message>
+    <message id="IDS_PASSWORDS_HEADING">
+        <source>Choose the passwords of the secure area.</source>
+        <translation>Elija las contraseñas del área segura.</translation>
+    </message>
+    <message id="IDS_PASSWORDS_EXPLANATION">
+        <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
+        <translation>Una contraseña tiene de 1 a 32 letras sin tilde ni eñe, dígitos o signos. La unidad permite cualquier número de intentos con la primera, así que elija una difícil de adivinar. Una contraseña olvidada no se puede recuperar.</translation>
+    </message>
+    <message id="IDS_PASSWORDS_NUMBER_NAME">
+        <source>Number of passwords</source>
+        <translation>Número de contraseñas</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_ONLY">
+        <source>First password &amp;only</source>
+        <translation>&amp;Solo la primera contraseña</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_AND_SECOND">
+        <source>First &amp;and second password</source>
+        <translation>Primera &amp;y segunda contraseña</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_GROUP">
+        <source>First password</source>
+        <translation>Primera contraseña</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST">
+        <source>&amp;Password:</source>
+        <translation>Co&amp;ntraseña:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_AGAIN">
+        <source>A&amp;gain:</source>
+        <extracomment>The password again</extracomment>
+        <translation>&amp;Repetir:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND_GROUP">
+        <source>Second password</source>
+        <translation>Segunda contraseña</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND">
+        <source>Pass&amp;word:</source>
+        <translation>C&amp;ontraseña:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND_AGAIN">
+        <source>Aga&amp;in:</source>
+        <translation>Re&amp;petir:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TRIES">
+        <source>&amp;Tries allowed:</source>
+        <translation>&amp;Intentos permitidos:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TRIES_PLACEHOLDER">
+        <source>1–99</source>
+        <translation>1–99</translation>
+    </message>
+    <message id="IDS_PASSWORDS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message id="IDS_PASSWORDS_OK">
+        <source>O&amp;K</source>
+        <translation>Ac&amp;eptar</translation>
+    </message>
+    <message id="IDS_SELECT_TITLE">
+        <source>ZELTO DISK</source>
+        <translation>ZELTO DISK</translation>
+    </message>
+    <message id="IDS_SELECT_HEADING">
+        <source>Which drive do you want to use?</source>
+        <translation>¿Qué unidad quiere usar?</translation>
+    </message>
+    <message id="IDS_SELECT_EXPLANATION">
+        <source>These drives are plugged in. For one that is missing, start the program again.</source>
+        <translation>Estas unidades están conectadas. Si falta alguna, vuelva a iniciar el programa.</translation>
+    </message>
+    <message id="IDS_SELECT_DRIVE">
+        <source>&amp;Drive:</source>
+        <extracomment>The USB drive as a whole: a list follows</extracomment>
+        <translation>&amp;Unidad:</translation>
+    </message>
+    <message id="IDS_SELECT_LOOK_AGAIN">
+        <source>&amp;Look Again</source>
+        <translation>&amp;Buscar de nuevo</translation>
+    </message>
+    <message id="IDS_SELECT_LOOK_AGAIN_DESCRIPTION">
+        <source>Looks again for drives that were plugged in meanwhile</source>
+        <translation>Busca de nuevo unidades que se hayan conectado entretanto</translation>
+    </message>
+    <message id="IDS_SELECT_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>Ca&amp;ncelar</translation>
+    </message>
+    <message id="IDS_SELECT_OK">
+        <source>&amp;OK</source>
+        <translation>A&amp;ceptar</translation>
+    </message>
+    <message id="IDS_UNLOCKED_TITLE">
+        <source>ZELTO DISK: Unlocked</source>
+        <translation>ZELTO DISK: desbloqueada</translation>
+    </message>
+    <message id="IDS_UNLOCKED_HEADING">
+        <source>Your drive is unlocked.</source>
+        <translation>Su unidad está desbloqueada.</translation>
+    </message>
+    <message id="IDS_UNLOCKED_EXPLANATION">
+        <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off before you unplug the drive or leave the computer.</source>
+        <translation>El área segura está abierta y aparece junto a sus otros discos. Una nueva está vacía: formatéela una vez. Cierre la sesión antes de desconectar la unidad o dejar el equipo.</translation>
+    </message>
+    <message id="IDS_UNLOCKED_SETTINGS">
+        <source>&amp;Settings…</source>
+        <extracomment>Opens the settings of the drive</extracomment>
+        <translation>A&amp;justes…</translation>
+    </message>
+    <message id="IDS_UNLOCKED_LOG_OFF">
+        <source>&amp;Log Off</source>
+        <extracomment>Of the drive, not of the computer’s session</extracomment>
+        <translation>&amp;Cerrar sesión</translation>
+    </message>
+    <message id="IDS_UNLOCKED_LOG_OFF_DESCRIPTION">
+        <source>Locks the drive and closes the program</source>
+        <translation>Bloquea la unidad y cierra el programa</translation>
+    </message>
+    <message id="IDS_UNLOCKED_KEEP">
+        <source>&amp;Keep Unlocked and Close</source>
+        <translation>&amp;Dejar desbloqueada y salir</translation>
+    </message>
+    <message id="IDS_UNLOCKED_KEEP_DESCRIPTION">
+        <source>Closes the program; the drive stays unlocked</source>
+        <translation>Cierra el programa; la unidad sigue desbloqueada</translation>
+    </message>
+    <message id="IDS_UNLOCKING_TITLE">
+        <source>ZELTO DISK: Unlocked</source>
+        <translation>ZELTO DISK: desbloqueada</translation>
+    </message>
+    <message id="IDS_UNLOCKING_HEADING">
+        <source>Your drive is unlocked.</source>
+        <translation>Su unidad está desbloqueada.</translation>
+    </message>
+    <message id="IDS_UNLOCKING_EXPLANATION">
+        <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off to lock it again, or keep it unlocked and go on working with it.</source>
+        <translation>El área segura está abierta y aparece junto a sus otros discos. Una nueva está vacía: formatéela una vez. Cierre la sesión para bloquearla de nuevo, o déjela desbloqueada y siga trabajando con ella.</translation>
+    </message>
+    <message id="IDS_UNLOCKING_SETTINGS">
+        <source>&amp;Settings…</source>
+        <translation>A&amp;justes…</translation>
+    </message>
+    <message id="IDS_UNLOCKING_KEEP">
+        <source>&amp;Keep Unlocked and Close</source>
+        <translation>&amp;Dejar desbloqueada y salir</translation>
+    </message>
+    <message id="IDS_UNLOCKING_KEEP_DESCRIPTION">
+        <source>Closes the program; the drive stays unlocked</source>
+        <translation>Cierra el programa; la unidad sigue desbloqueada</translation>
+    </message>
+    <message id="IDS_UNLOCKING_LOG_OFF">
+        <source>&amp;Log Off</source>
+        <translation>&amp;Cerrar sesión</translation>
+    </message>
+    <message id="IDS_UNLOCKING_LOG_OFF_DESCRIPTION">
+        <source>Locks the drive and closes the program</source>
+        <translation>Bloquea la unidad y cierra el programa</translation>
+    </message>
+    <message id="IDS_SETUP_TITLE">
+        <source>ZELTO DISK: Setting Up</source>
+        <translation>ZELTO DISK: configuración</translation>
+    </message>
+    <message id="IDS_SETUP_HEADING">
+        <source>Your drive is being set up.</source>
+        <translation>Su unidad se está configurando.</translation>
+    </message>
+    <message id="IDS_SETUP_EXPLANATION">
+        <source>This takes about a minute. Leave the drive plugged in until it is finished.</source>
+        <translation>Esto tarda alrededor de un minuto. Deje la unidad conectada hasta que termine.</translation>
+    </message>
+    <message id="IDS_SETUP_STEPS_NAME">
+        <source>Steps of the set-up</source>
+        <translation>Pasos de la configuración</translation>
+    </message>
+    <message id="IDS_SETUP_PROGRESS_NAME">
+        <source>Progress of the set-up</source>
+        <translation>Progreso de la configuración</translation>
+    </message>
+    <message id="IDS_SETUP_FINISH">
+        <source>&amp;Finish</source>
+        <translation>&amp;Finalizar</translation>
+    </message>
+    <message id="IDS_SIZE_MB">
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message id="IDS_SIZE_GB">
+        <source>%1 GB</source>
+        <extracomment>%1 has one decimal: 3.7</extracomment>
+        <translation>%1 GB</translation>
+    </message>
+    <message id="IDS_SIZE_TB">
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message id="IDS_BAR_NORMAL">
+        <source>normal area</source>
+        <extracomment>In a sentence: Disk1, normal area, 244 MB</extracomment>
+        <translation>área normal</translation>
+    </message>
+    <message id="IDS_BAR_SECURE">
+        <source>secure area</source>
+        <translation>área segura</translation>
+    </message>
+    <message id="IDS_BAR_TOOL">
+        <source>tool area</source>
+        <extracomment>The small area that carries this program</extracomment>
+        <translation>área de herramientas</translation>
+    </message>
+    <message id="IDS_BAR_FREE">
+        <source>not used</source>
+        <extracomment>Of a part of the drive</extracomment>
+        <translation>sin usar</translation>
+    </message>
+    <message id="IDS_BAR_NAMED">
+        <source>%1, %2, %3</source>
+        <extracomment>Disk1, secure area, 244 MB</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message id="IDS_BAR_UNNAMED">
+        <source>%1, %2</source>
+        <extracomment>not used, 244 MB</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="IDS_BAR_SEPARATOR">
+        <source>; </source>
+        <extracomment>Between the areas of the list: Disk1, normal area, 244 MB; not used, 244 MB</extracomment>
+        <translation>; </translation>
+    </message>
+    <message id="IDS_BAR_TOO_LARGE">
+        <source>together more than the drive can hold</source>
+        <extracomment>Last in that list</extracomment>
+        <translation>en total, más de lo que cabe en la unidad</translation>
+    </message>
+    <message id="IDS_LIST_SEPARATOR">
+        <source>, </source>
+        <extracomment>Between the names of programs</extracomment>
+        <translation>, </translation>
+    </message>
+    <message id="IDS_TABLE_AREA">
+        <source>Area</source>
+        <extracomment>Head of a column: Disk1, Disk2, Disk3</extracomment>
+        <translation>Área</translation>
+    </message>
+    <message id="IDS_TABLE_KIND">
+        <source>Kind</source>
+        <extracomment>Head of a column: normal or secure</extracomment>
+        <translation>Tipo</translation>
+    </message>
+    <message id="IDS_TABLE_CAPACITY">
+        <source>Capacity</source>
+        <extracomment>Head of a column</extracomment>
+        <translation>Capacidad</translation>
+    </message>
+    <message id="IDS_STEP_SETTINGS">
+        <source>The settings are on the drive</source>
+        <extracomment>One step of the set-up; done or under way</extracomment>
+        <translation>Los ajustes están en la unidad</translation>
+    </message>
+    <message id="IDS_STEP_RESTART">
+        <source>The drive starts anew</source>
+        <translation>La unidad se reinicia</translation>
+    </message>
+    <message id="IDS_STEP_TOOL_AREA">
+        <source>The tool area appears</source>
+        <translation>Aparece el área de herramientas</translation>
+    </message>
+    <message id="IDS_STEP_COPY">
+        <source>The tool area is formatted and this program copied</source>
+        <translation>Se formatea el área de herramientas y se copia este programa</translation>
+    </message>
+    <message id="IDS_STEP_FINISHED">
+        <source>Finished</source>
+        <translation>Terminado</translation>
+    </message>
+    <message id="IDS_STEP_CURRENT">
+        <source>Step %1 of %2: %3</source>
+        <extracomment>Read aloud; %3 is one of the steps</extracomment>
+        <translation>Paso %1 de %2: %3</translation>
+    </message>
+    <message id="IDS_STEP_FAILED">
+        <source>Step %1 of %2 failed: %3</source>
+        <translation>Ha fallado el paso %1 de %2: %3</translation>
+    </message>
+    <message id="IDS_FIELD_ENTRIES_MATCH">
+        <source>The two entries match.</source>
+        <translation>Las dos entradas coinciden.</translation>
+    </message>
+    <message id="IDS_FIELD_ENTRIES_DIFFER">
+        <source>The two entries differ.</source>
+        <translation>Las dos entradas son distintas.</translation>
+    </message>
+    <message id="IDS_FIELD_DIGITS">
+        <source>%1 of 128 digits</source>
+        <translation>%1 de 128 dígitos</translation>
+    </message>
+    <message id="IDS_FIELD_DIGITS_ODD">
+        <source>%1 of 128 digits, one is missing</source>
+        <extracomment>Two digits make a byte; the number is odd</extracomment>
+        <translation>%1 de 128 dígitos, falta uno</translation>
+    </message>
+    <message id="IDS_FIELD_REVEAL">
+        <source>Hold to see the password</source>
+        <extracomment>Of a button that is held down</extracomment>
+        <translation>Mantener pulsado para ver la contraseña</translation>
+    </message>
+    <message id="IDS_FIELD_CAPS_LOCK">
+        <source>Caps Lock seems to be on</source>
+        <extracomment>The key as it is called in the language</extracomment>
+        <translation>Bloq Mayús parece estar activado</translation>
+    </message>
+    <message id="IDS_FIELD_PASTE">
+        <source>&amp;Paste</source>
+        <extracomment>In the menu of a field</extracomment>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message id="IDS_FIELD_SELECT_ALL">
+        <source>Select &amp;All</source>
+        <extracomment>In the menu of a field</extracomment>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message id="IDS_AWAKE_SETUP">
+        <source>The drive is being set up</source>
+        <extracomment>Why the computer does not go to sleep now, shown by the desktop</extracomment>
+        <translation>La unidad se está configurando</translation>
+    </message>
+    <message id="IDS_AWAKE_PASSWORDS">
+        <source>The passwords are being changed</source>
+        <extracomment>Why the computer does not go to sleep now</extracomment>
+        <translation>Se están cambiando las contraseñas</translation>
+    </message>
+    <message id="IDS_AWAKE_RELEASE">
+        <source>The drive’s volumes are being released</source>
+        <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
+        <translation>Se están desmontando los volúmenes de la unidad</translation>
+    </message>
+    <message id="IDS_RULE_TITLE">
+        <source>ZELTO DISK: Device Rule</source>
+        <translation>ZELTO DISK: regla de dispositivo</translation>
+    </message>
+    <message id="IDS_RULE_HEADING">
+        <source>Let this computer’s users use the drive.</source>
+        <translation>Permita que los usuarios de este equipo usen la unidad.</translation>
+    </message>
+    <message id="IDS_RULE_EXPLANATION">
+        <source>An administrator enters this &amp;command in a terminal. It adds the device rule that it holds. Then plug the drive in again.</source>
+        <translation>&amp;Un administrador introduce esta orden en un terminal. La orden añade la regla de dispositivo que contiene. Después vuelva a conectar la unidad.</translation>
+    </message>
+    <message id="IDS_RULE_CLOSE">
+        <source>C&amp;lose</source>
+        <translation>C&amp;errar</translation>
+    </message>
+    <message id="IDS_RULE_COPY">
+        <source>Co&amp;py Command</source>
+        <translation>&amp;Copiar orden</translation>
+    </message>
+    <message id="IDS_SELECT_SHOW_RULE">
+        <source>Show &amp;Rule…</source>
+        <translation>&amp;Mostrar regla…</translation>
+    </message>
+    <message id="IDS_SELECT_SHOW_RULE_DESCRIPTION">
+        <source>Shows the device rule and the command that adds it to this computer</source>
+        <translation>Muestra la regla de dispositivo y la orden que la añade a este equipo</translation>
+    </message>
+    <message id="IDS_DRIVE_SERIAL">
+        <source>Serial number: %1</source>
+        <translation>Número de serie: %1</translation>
+    </message>
+    <message id="IDS_DRIVE_SERIAL_AND_PORT">
+        <source>Serial number: %1, in USB port %2</source>
+        <translation>Número de serie: %1, en el puerto USB %2</translation>
+    </message>
+    <message id="IDS_DRIVE_PORT">
+        <source>No serial number, in USB port %1</source>
+        <translation>Sin número de serie, en el puerto USB %1</translation>
+    </message>
+    <message id="IDS_STRENGTH_WEAK">
+        <source>Strength: weak</source>
+        <extracomment>Of a new password; a bar of four parts stands before it</extracomment>
+        <translation>Seguridad: débil</translation>
+    </message>
+    <message id="IDS_STRENGTH_FAIR">
+        <source>Strength: fair</source>
+        <translation>Seguridad: aceptable</translation>
+    </message>
+    <message id="IDS_STRENGTH_GOOD">
+        <source>Strength: good</source>
+        <translation>Seguridad: buena</translation>
+    </message>
+    <message id="IDS_STRENGTH_STRONG">
+        <source>Strength: strong</source>
+        <translation>Seguridad: fuerte</translation>
+    </message>
+    <message id="IDS_HELP_BUTTON">
+        <source>&amp;Help</source>
+        <extracomment>In every window; no other button there may have its underlined letter</extracomment>
+        <translation>&amp;Ayuda</translation>
+    </message>
+    <message id="IDS_HELP_DESCRIPTION">
+        <source>Opens the manual’s page about this window (F1). This is version %1 of the program.</source>
+        <translation>Abre la página del manual sobre esta ventana (F1). Esta es la versión %1 del programa.</translation>
+    </message>
+    <message id="IDS_HINT_NO_MANUAL">
+        <source>The manual could not be opened: it was not found beside the program, or this computer has nothing to show it with.</source>
+        <translation>No se ha podido abrir el manual: no está junto al programa, o este equipo no tiene con qué mostrarlo.</translation>
+    </message>
+    <message id="IDS_HINT_VERSION">
+        <source>Version %1 of the program.</source>
+        <extracomment>Below messages that support is asked about</extracomment>
+        <translation>Versión %1 del programa.</translation>
+    </message>
+</context>
+</TS>

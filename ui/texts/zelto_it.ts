@@ -1,0 +1,1152 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="OK">
+        <source>OK</source>
+        <extracomment>A button</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="IDS_APP_TITLE">
+        <source>ZELTO DISK</source>
+        <extracomment>The product’s name: never translated</extracomment>
+        <translation>ZELTO DISK</translation>
+    </message>
+    <message id="IDS_CANCEL_BUTTON">
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message id="IDS_ERR_NOT_FOUND_ZELTO">
+        <source>No ZELTO DISK is ready for use. Plug it in, then start this program again.</source>
+        <translation>Nessun ZELTO DISK è pronto all’uso. Collegarlo, quindi avviare di nuovo questo programma.</translation>
+    </message>
+    <message id="IDS_ENTER_1ST_PASSWORD">
+        <source>Enter the password; the first one if the drive has two.</source>
+        <translation>Inserire la password; la prima, se l’unità ne ha due.</translation>
+    </message>
+    <message id="IDS_ENTER_2ND_PASSWORD">
+        <source>Enter the second password.</source>
+        <translation>Inserire la seconda password.</translation>
+    </message>
+    <message id="IDS_FULLLOCK_TIME_STATUS_INVALID">
+        <source>The drive’s clock has stopped, so the drive has locked itself.
+
+Set the drive’s clock to this computer’s time, %1? Check first that this time is right. If the drive still has its key, you can log in to it afterwards.</source>
+        <extracomment>%1 is a date and time</extracomment>
+        <translation>L’orologio dell’unità si è fermato, quindi l’unità si è bloccata.
+
+Impostare l’orologio dell’unità sull’ora di questo computer, %1? Verificare prima che quest’ora sia esatta. Se l’unità ha ancora la sua chiave, dopo si potrà accedere.</translation>
+    </message>
+    <message id="IDS_SET_CURRENT_YIME">
+        <source>The drive’s clock has been set. The program now closes. Start it again: it then says whether you can log in.</source>
+        <translation>L’orologio dell’unità è stato impostato. Ora il programma si chiude. Avviarlo di nuovo: dirà se è possibile accedere.</translation>
+    </message>
+    <message id="IDS_ERR_ZELTO_DRIVE_LOST">
+        <source>The drive has locked itself for good and its key is gone: after too many wrong passwords, because its time ran out, or because the key was erased. What was in the secure area cannot be read any more, by anyone.
+
+To use the drive again, start this program if it has closed, choose “Clear All” in the settings, then plug the drive out and in and start the program once more to set it up.</source>
+        <translation>L’unità si è bloccata definitivamente e la sua chiave è perduta: dopo troppe password errate, perché il tempo è scaduto o perché la chiave è stata cancellata. Nessuno può più leggere ciò che era nell’area protetta.
+
+Per usare di nuovo l’unità, avviare questo programma se si è chiuso, scegliere «Cancella tutto» nelle impostazioni, quindi scollegare e ricollegare l’unità e avviare ancora una volta il programma per configurarla.</translation>
+    </message>
+    <message id="IDS_ERR_AUTHENTICATE_FAILED">
+        <source>This password is not right. Check Caps Lock and try again; the drive may allow only a few tries.</source>
+        <translation>Questa password non è corretta. Controllare Bloc Maiusc e riprovare; l’unità potrebbe consentire solo pochi tentativi.</translation>
+    </message>
+    <message id="IDS_ERR_UNMOUNT">
+        <source>The drive’s volumes could not be released; most often a program still uses a file on them. Nothing else was done: a drive that was unlocked is still unlocked.
+
+Close all files and windows that show the drive, then try again. Start this program again if it has closed.</source>
+        <translation>Non è stato possibile smontare i volumi dell’unità; di solito un programma usa ancora un file che vi si trova. Non è stato fatto altro: un’unità che era sbloccata è ancora sbloccata.
+
+Chiudere tutti i file e le finestre che mostrano l’unità, quindi riprovare. Avviare di nuovo questo programma se si è chiuso.</translation>
+    </message>
+    <message id="IDS_COMMAND_FAIL_WITH_SENSE_INFO">
+        <source>The drive did not carry out this step. If it happens again, close this program, plug the drive out and in, and start the program again.
+
+For support: sense key %1, code %2, qualifier %3.</source>
+        <extracomment>Numbers that identify an error</extracomment>
+        <translation>L’unità non ha eseguito questa operazione. Se succede di nuovo, chiudere questo programma, scollegare e ricollegare l’unità e avviare di nuovo il programma.
+
+Per l’assistenza: chiave di rilevamento %1, codice %2, qualificatore %3.</translation>
+    </message>
+    <message id="IDS_COMMAND_FAIL">
+        <source>The drive does not answer. Close this program, plug the drive out and in, and start the program again.</source>
+        <translation>L’unità non risponde. Chiudere questo programma, scollegare e ricollegare l’unità e avviare di nuovo il programma.</translation>
+    </message>
+    <message id="IDS_ERR_TIME_STATUS_INVALID">
+        <source>not set</source>
+        <extracomment>In place of the time, after “Drive’s clock:”</extracomment>
+        <translation>non impostato</translation>
+    </message>
+    <message id="IDS_EXPIRED">
+        <source>The time has run out</source>
+        <extracomment>In place of the remaining time, after “Key erased in:”</extracomment>
+        <translation>Il tempo è scaduto</translation>
+    </message>
+    <message id="IDS_DAYS">
+        <source>d</source>
+        <extracomment>After a number: 12 d 5 h 30 min</extracomment>
+        <translation>g</translation>
+    </message>
+    <message id="IDS_HOURS">
+        <source>h</source>
+        <extracomment>After a number</extracomment>
+        <translation>h</translation>
+    </message>
+    <message id="IDS_MIN">
+        <source>min</source>
+        <extracomment>After a number</extracomment>
+        <translation>min</translation>
+    </message>
+    <message id="IDS_TIME_SYNC_COMPLETE">
+        <source>The drive’s clock has been set to this computer’s time. The program now closes; start it again to go on.</source>
+        <translation>L’orologio dell’unità è stato impostato sull’ora di questo computer. Ora il programma si chiude; avviarlo di nuovo per continuare.</translation>
+    </message>
+    <message id="IDS_NOW_SETTING">
+        <source>Setting up the drive. Please do not unplug it.</source>
+        <extracomment>Blinks while the drive is set up</extracomment>
+        <translation>Configurazione dell’unità in corso. Non scollegarla.</translation>
+    </message>
+    <message id="IDS_SETTING_COMPLETE">
+        <source>The drive is set up. Its areas are still blank: format each once before you use it, a secure one after you have logged in.</source>
+        <translation>L’unità è configurata. Le sue aree sono ancora vuote: formattare ciascuna una volta prima di usarla, quella protetta dopo aver eseguito l’accesso.</translation>
+    </message>
+    <message id="IDS_ERR_FORMAT">
+        <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
+        <translation>L’unità è configurata e può essere usata. Solo la sua area strumenti non è stata formattata, quindi l’unità non contiene questo programma: usarla con il programma di questo computer.</translation>
+    </message>
+    <message id="IDS_ERR_FILE_COPY">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
+
+From: %1
+To: %2</source>
+        <extracomment>%1 and %2 are names of files</extracomment>
+        <translation>L’unità è configurata e può essere usata. Solo questo programma non è stato copiato nella sua area strumenti: usarla con il programma di questo computer.
+
+Da: %1
+A: %2</translation>
+    </message>
+    <message id="IDS_ERR_SPINUP">
+        <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
+        <translation>L’unità non è diventata pronta, quindi non è stato modificato nulla. Ora il programma si chiude. Scollegare e ricollegare l’unità e avviare di nuovo il programma.</translation>
+    </message>
+    <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
+        <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
+        <translation>Si è scelto di inserire la chiave di cifratura a mano, ma non ce n’è ancora una. Inserire una chiave o lasciare che la crei l’unità.</translation>
+    </message>
+    <message id="IDS_ERR_CURRENT_1ST_PASSWORD_INVALID">
+        <source>The current first password is not right, so the first password was not changed. If you are changing two passwords, the second one has been changed already: from now on its current password is the new one. Check Caps Lock and enter the passwords again.</source>
+        <translation>La prima password attuale non è corretta, quindi la prima password non è stata cambiata. Se si stanno cambiando due password, la seconda è già stata cambiata: d’ora in poi la sua password attuale è quella nuova. Controllare Bloc Maiusc e inserire di nuovo le password.</translation>
+    </message>
+    <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
+        <source>The current second password is not right, so no password was changed. Check Caps Lock and enter it again.</source>
+        <translation>La seconda password attuale non è corretta, quindi nessuna password è stata cambiata. Controllare Bloc Maiusc e inserirla di nuovo.</translation>
+    </message>
+    <message id="IDS_ERR_ZELTO_NOT_UNLOCKING">
+        <source>The drive is locked. Log in to it first, then try again.</source>
+        <translation>L’unità è bloccata. Eseguire prima l’accesso, quindi riprovare.</translation>
+    </message>
+    <message id="IDS_CLEAR_ALL_CONFIRM">
+        <source>Clear everything on this drive?
+
+All areas with all their files, all passwords and all settings will be gone. This cannot be undone.</source>
+        <translation>Cancellare tutto su questa unità?
+
+Tutte le aree con tutti i loro file, tutte le password e tutte le impostazioni andranno perdute. L’operazione non può essere annullata.</translation>
+    </message>
+    <message id="IDS_ERASE_ENCRYPTION_KEY_CONFIRM">
+        <source>Erase the encryption key of this drive?
+
+Everything in the secure area becomes unreadable for good, even with the right password. This cannot be undone.</source>
+        <translation>Cancellare la chiave di cifratura di questa unità?
+
+Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, anche con la password corretta. L’operazione non può essere annullata.</translation>
+    </message>
+    <message id="IDS_TOTAL_CAPACITY">
+        <source>Total: %1 MB</source>
+        <extracomment>%1 is a whole number of MB</extracomment>
+        <translation>Totale: %1 MB</translation>
+    </message>
+    <message id="IDS_FREE_CAPACITY">
+        <source>Free: %1 MB</source>
+        <extracomment>%1 is a whole number of MB</extracomment>
+        <translation>Liberi: %1 MB</translation>
+    </message>
+    <message id="IDS_CAPACITY_OVER">
+        <source>The areas are larger than the drive.</source>
+        <translation>Le aree sono più grandi dell’unità.</translation>
+    </message>
+    <message id="IDS_NORMAL_AREA">
+        <source>Normal</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Normale</translation>
+    </message>
+    <message id="IDS_SECURE_AREA">
+        <source>Secure</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Protetta</translation>
+    </message>
+    <message id="IDS_FREE_AREA">
+        <source>Not used yet</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Non ancora usata</translation>
+    </message>
+    <message id="IDS_ALL_SECTORS">
+        <source>Whole drive</source>
+        <extracomment>In place of an area’s capacity: the area takes it all</extracomment>
+        <translation>Intera unità</translation>
+    </message>
+    <message id="IDS_HINT_RULE_MISSING">
+        <source>One ZELTO DISK that is plugged in is not in this list, because this computer does not let you use it yet. Install the program’s package, or ask your administrator to add its device rule, then plug the drive in again.</source>
+        <translation>Uno ZELTO DISK collegato non è in questo elenco, perché questo computer non permette ancora di usarlo. Installare il pacchetto del programma o chiedere all’amministratore di aggiungere la sua regola del dispositivo, quindi ricollegare l’unità.</translation>
+    </message>
+    <message id="IDS_HINT_OTHER_SESSION">
+        <source>One ZELTO DISK that is plugged in is not in this list, because it belongs to another user’s session on this computer. Use it from that session, or log in at this computer’s own screen and plug it in again.</source>
+        <translation>Uno ZELTO DISK collegato non è in questo elenco, perché appartiene alla sessione di un altro utente di questo computer. Usarlo da quella sessione, oppure accedere direttamente a questo computer e ricollegarlo.</translation>
+    </message>
+    <message id="IDS_HINT_DRIVE_IN_USE">
+        <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
+        <translation>Uno ZELTO DISK collegato non è in questo elenco, perché lo usa un’altra copia di questo programma. Chiudere quella copia, quindi avviare di nuovo questo programma.</translation>
+    </message>
+    <message id="IDS_HINT_BUSY_PROGRAMS">
+        <source>Still using the drive: %1</source>
+        <extracomment>%1 is a list of programs</extracomment>
+        <translation>Usano ancora l’unità: %1</translation>
+    </message>
+    <message id="IDS_HINT_NEXT_AREAS">
+        <source>Next: lay out the areas.</source>
+        <translation>Ora: suddividere le aree.</translation>
+    </message>
+    <message id="IDS_HINT_NEXT_PASSWORDS">
+        <source>Next: choose the passwords.</source>
+        <translation>Ora: scegliere le password.</translation>
+    </message>
+    <message id="IDS_HINT_NOTHING_CHANGED">
+        <source>Nothing has been changed yet.</source>
+        <translation>Non è stato ancora modificato nulla.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_CLEAR_DAYS">
+        <source>Erase the key after: enter 1 to 9999 days.</source>
+        <translation>Cancella la chiave dopo: inserire da 1 a 9999 giorni.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_CLEAR_MINUTES">
+        <source>Erase the key after: enter 1 to 999 minutes.</source>
+        <translation>Cancella la chiave dopo: inserire da 1 a 999 minuti.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_LOG_OFF_MINUTES">
+        <source>Log off after: enter 1 to 999 minutes.</source>
+        <translation>Disconnetti dopo: inserire da 1 a 999 minuti.</translation>
+    </message>
+    <message id="IDS_HINT_AREA_DIGITS">
+        <source>Sizes are whole numbers of MB.</source>
+        <translation>Le dimensioni sono numeri interi di MB.</translation>
+    </message>
+    <message id="IDS_HINT_AREA_DISK1">
+        <source>Next: enter a size for Disk1.</source>
+        <translation>Ora: inserire una dimensione per Disk1.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_MISSING">
+        <source>Next: enter the first password.</source>
+        <translation>Ora: inserire la prima password.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_AGAIN">
+        <source>Next: enter the first password again.</source>
+        <translation>Ora: inserire di nuovo la prima password.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_DIFFERS">
+        <source>The two entries of the first password differ.</source>
+        <translation>I due inserimenti della prima password sono diversi.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_MISSING">
+        <source>Next: enter the second password.</source>
+        <translation>Ora: inserire la seconda password.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_AGAIN">
+        <source>Next: enter the second password again.</source>
+        <translation>Ora: inserire di nuovo la seconda password.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_DIFFERS">
+        <source>The two entries of the second password differ.</source>
+        <translation>I due inserimenti della seconda password sono diversi.</translation>
+    </message>
+    <message id="IDS_HINT_CURRENT_FIRST_MISSING">
+        <source>Next: enter the current first password.</source>
+        <translation>Ora: inserire la prima password attuale.</translation>
+    </message>
+    <message id="IDS_HINT_CURRENT_SECOND_MISSING">
+        <source>Next: enter the current second password.</source>
+        <translation>Ora: inserire la seconda password attuale.</translation>
+    </message>
+    <message id="IDS_HINT_PASSWORD_ACCENTS">
+        <source>Letters with accents cannot be used in a password.</source>
+        <translation>In una password non si possono usare lettere accentate.</translation>
+    </message>
+    <message id="IDS_HINT_PASSWORD_TOO_LONG">
+        <source>A password has 32 characters at most.</source>
+        <translation>Una password ha al massimo 32 caratteri.</translation>
+    </message>
+    <message id="IDS_HINT_TRIALS">
+        <source>Next: enter how many tries are allowed, 1 to 99.</source>
+        <translation>Ora: inserire quanti tentativi sono consentiti, da 1 a 99.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_MISSING">
+        <source>Next: enter the digits of the key.</source>
+        <translation>Ora: inserire le cifre della chiave.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_DIGITS">
+        <source>Only the digits 0 to 9 and A to F can be used.</source>
+        <translation>Si possono usare solo le cifre da 0 a 9 e da A a F.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_ODD">
+        <source>One digit is missing.</source>
+        <translation>Manca una cifra.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_TOO_LONG">
+        <source>%1 of 128 digits: that is too many.</source>
+        <translation>%1 di 128 cifre: sono troppe.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_ERASES">
+        <source>OK erases everything on this drive and closes this window.</source>
+        <extracomment>Names the button OK</extracomment>
+        <translation>OK cancella tutto su questa unità e chiude questa finestra.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_OPEN">
+        <source>No secure area: anyone can read this drive. Passwords and a key that were entered are not used.</source>
+        <translation>Nessuna area protetta: chiunque può leggere questa unità. Le password e la chiave inserite non vengono usate.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_RETRY">
+        <source>Before you try again, open the areas and confirm them once more.</source>
+        <translation>Prima di riprovare, aprire le aree e confermarle ancora una volta.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_TABLE_FULL">
+        <source>There is no room for one more attempt in the list of areas. Open the areas, confirm them once more, then try again.</source>
+        <translation>Nell’elenco delle aree non c’è posto per un altro tentativo. Aprire le aree, confermarle ancora una volta, quindi riprovare.</translation>
+    </message>
+    <message id="IDS_HINT_CLOSES">
+        <source>OK, Cancel, Erase Key and Clear All close the program.</source>
+        <extracomment>Names the buttons of the window as they are called there</extracomment>
+        <translation>OK, Annulla, Cancella chiave e Cancella tutto chiudono il programma.</translation>
+    </message>
+    <message id="IDS_HINT_SET_CLOCK_CLOSES">
+        <source>Setting the clock closes the program; what was entered is lost.</source>
+        <translation>L’impostazione dell’orologio chiude il programma; i dati inseriti vanno perduti.</translation>
+    </message>
+    <message id="IDS_HINT_PERIOD_ZERO">
+        <source>A period that shows 0 is switched off by OK.</source>
+        <extracomment>Names the button OK</extracomment>
+        <translation>Un periodo che mostra 0 viene disattivato da OK.</translation>
+    </message>
+    <message id="IDS_HINT_SECURE_CHOICE_DROPPED">
+        <source>Only Disk1 keeps its choice when this window opens. To make Disk2 or Disk3 secure, choose it again.</source>
+        <translation>Solo Disk1 mantiene la sua scelta quando si apre questa finestra. Per proteggere Disk2 o Disk3, sceglierlo di nuovo.</translation>
+    </message>
+    <message id="IDS_HINT_TRIALS_ERASE">
+        <source>After that many wrong second passwords the drive erases its key for good.</source>
+        <translation>Dopo questo numero di seconde password errate l’unità cancella per sempre la sua chiave.</translation>
+    </message>
+    <message id="IDS_AREAS_TITLE">
+        <source>ZELTO DISK: Areas</source>
+        <translation>ZELTO DISK: aree</translation>
+    </message>
+    <message id="IDS_AREAS_HEADING">
+        <source>Divide the drive into areas.</source>
+        <translation>Suddividere l’unità in aree.</translation>
+    </message>
+    <message id="IDS_AREAS_EXPLANATION">
+        <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
+        <translation>Fino a tre aree; lasciare a 0 MB quelle che non servono. Una di esse può essere protetta: resta nascosta finché non si accede.</translation>
+    </message>
+    <message id="IDS_AREAS_BAR_NAME">
+        <source>The areas in proportion</source>
+        <translation>Le aree in proporzione</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1">
+        <source>Disk&amp;1:</source>
+        <extracomment>Disk1, Disk2 and Disk3 are given names: never translated</extracomment>
+        <translation>Disk&amp;1:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_UNIT">
+        <source>MB</source>
+        <extracomment>Stands after a field with a number</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_SECURE">
+        <source>&amp;Secure area</source>
+        <translation>Ar&amp;ea protetta</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_SECURE_NAME">
+        <source>Disk1 is a secure area</source>
+        <translation>Disk1 è un’area protetta</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2">
+        <source>Disk&amp;2:</source>
+        <translation>Disk&amp;2:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_UNIT">
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_SECURE">
+        <source>S&amp;ecure area</source>
+        <translation>A&amp;rea protetta</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_SECURE_NAME">
+        <source>Disk2 is a secure area</source>
+        <translation>Disk2 è un’area protetta</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3">
+        <source>Disk&amp;3:</source>
+        <translation>Disk&amp;3:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_UNIT">
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_SECURE">
+        <source>Secure &amp;area</source>
+        <translation>Area &amp;protetta</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_SECURE_NAME">
+        <source>Disk3 is a secure area</source>
+        <translation>Disk3 è un’area protetta</translation>
+    </message>
+    <message id="IDS_AREAS_LEFT_NAME">
+        <source>Capacity that is left</source>
+        <translation>Capacità rimanente</translation>
+    </message>
+    <message id="IDS_AREAS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message id="IDS_AREAS_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_LOGIN_TITLE">
+        <source>ZELTO DISK: Log In</source>
+        <translation>ZELTO DISK: accesso</translation>
+    </message>
+    <message id="IDS_LOGIN_MESSAGE">
+        <source>Enter the password of your drive.</source>
+        <translation>Inserire la password dell’unità.</translation>
+    </message>
+    <message id="IDS_LOGIN_PASSWORD">
+        <source>&amp;Password:</source>
+        <translation>&amp;Password:</translation>
+    </message>
+    <message id="IDS_LOGIN_CLOCK">
+        <source>Drive’s clock:</source>
+        <translation>Orologio dell’unità:</translation>
+    </message>
+    <message id="IDS_LOGIN_CLOCK_NAME">
+        <source>Drive’s clock</source>
+        <translation>Orologio dell’unità</translation>
+    </message>
+    <message id="IDS_LOGIN_TIME_LEFT">
+        <source>Key erased in:</source>
+        <extracomment>A time follows: 12 d 5 h 30 min</extracomment>
+        <translation>Chiave cancellata fra:</translation>
+    </message>
+    <message id="IDS_LOGIN_TIME_LEFT_NAME">
+        <source>Time left until the drive erases its key</source>
+        <translation>Tempo rimanente prima che l’unità cancelli la sua chiave</translation>
+    </message>
+    <message id="IDS_LOGIN_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message id="IDS_LOGIN_SUBMIT">
+        <source>&amp;Log In</source>
+        <translation>A&amp;ccedi</translation>
+    </message>
+    <message id="IDS_KEY_TITLE">
+        <source>ZELTO DISK: Encryption Key</source>
+        <translation>ZELTO DISK: chiave di cifratura</translation>
+    </message>
+    <message id="IDS_KEY_HEADING">
+        <source>Enter the encryption key.</source>
+        <translation>Inserire la chiave di cifratura.</translation>
+    </message>
+    <message id="IDS_KEY_EXPLANATION">
+        <source>An even number of hexadecimal digits, 0 to 9 and A to F, 128 at the most. Keep a copy in a safe place.</source>
+        <translation>Un numero pari di cifre esadecimali, da 0 a 9 e da A a F, al massimo 128. Conservarne una copia in un luogo sicuro.</translation>
+    </message>
+    <message id="IDS_KEY_KEY">
+        <source>&amp;Key:</source>
+        <extracomment>The encryption key; a field follows</extracomment>
+        <translation>&amp;Chiave:</translation>
+    </message>
+    <message id="IDS_KEY_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message id="IDS_KEY_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_SETTINGS_TITLE">
+        <source>ZELTO DISK: Settings</source>
+        <translation>ZELTO DISK: impostazioni</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_GROUP">
+        <source>Drive</source>
+        <extracomment>Title of a group: the USB drive as a whole</extracomment>
+        <translation>Unità</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE">
+        <source>Dri&amp;ve:</source>
+        <translation>&amp;Unità:</translation>
+    </message>
+    <message id="IDS_SETTINGS_COMPUTER_CLOCK">
+        <source>Computer’s clock:</source>
+        <translation>Orologio del computer:</translation>
+    </message>
+    <message id="IDS_SETTINGS_COMPUTER_CLOCK_NAME">
+        <source>Computer’s clock</source>
+        <translation>Orologio del computer</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_CLOCK">
+        <source>Drive’s clock:</source>
+        <translation>Orologio dell’unità:</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_CLOCK_NAME">
+        <source>Drive’s clock</source>
+        <translation>Orologio dell’unità</translation>
+    </message>
+    <message id="IDS_SETTINGS_SET_CLOCK">
+        <source>&amp;Set Clock</source>
+        <translation>Im&amp;posta orologio</translation>
+    </message>
+    <message id="IDS_SETTINGS_SET_CLOCK_DESCRIPTION">
+        <source>Sets the drive’s clock to the computer’s time</source>
+        <translation>Imposta l’orologio dell’unità sull’ora del computer</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREAS_GROUP">
+        <source>Areas</source>
+        <translation>Aree</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREA_BAR_NAME">
+        <source>The drive’s areas in proportion</source>
+        <translation>Le aree dell’unità in proporzione</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREA_TABLE_NAME">
+        <source>The drive’s areas</source>
+        <translation>Le aree dell’unità</translation>
+    </message>
+    <message id="IDS_SETTINGS_TOTAL_CAPACITY_NAME">
+        <source>Total capacity</source>
+        <translation>Capacità totale</translation>
+    </message>
+    <message id="IDS_SETTINGS_FREE_CAPACITY_NAME">
+        <source>Free capacity</source>
+        <translation>Capacità libera</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREAS">
+        <source>&amp;Areas…</source>
+        <translation>Ar&amp;ee…</translation>
+    </message>
+    <message id="IDS_SETTINGS_PROTECTION_GROUP">
+        <source>Protection of the secure area</source>
+        <translation>Sicurezza dell’area protetta</translation>
+    </message>
+    <message id="IDS_SETTINGS_PASSWORDS_LABEL">
+        <source>Passwords for log-in:</source>
+        <translation>Password di accesso:</translation>
+    </message>
+    <message id="IDS_SETTINGS_PASSWORDS">
+        <source>&amp;Passwords…</source>
+        <translation>Pass&amp;word…</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_LABEL">
+        <source>Encryption key:</source>
+        <translation>Chiave di cifratura:</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_ORIGIN_NAME">
+        <source>Encryption key</source>
+        <translation>Chiave di cifratura</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_BY_DRIVE">
+        <source>&amp;Made by the drive</source>
+        <extracomment>The encryption key</extracomment>
+        <translation>Creata &amp;dall’unità</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_BY_HAND">
+        <source>&amp;Entered by hand</source>
+        <extracomment>The encryption key</extracomment>
+        <translation>&amp;Inserita a mano</translation>
+    </message>
+    <message id="IDS_SETTINGS_ENTER_KEY">
+        <source>Enter &amp;Key…</source>
+        <translation>In&amp;serisci chiave…</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTOMATIC_GROUP">
+        <source>Automatic protection</source>
+        <translation>Protezione automatica</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR">
+        <source>Erase the key af&amp;ter</source>
+        <extracomment>Reads on: [12] (•) days ( ) minutes</extracomment>
+        <translation>Cancella &amp;la chiave dopo</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_PERIOD_NAME">
+        <source>Period until the key is erased</source>
+        <translation>Periodo prima della cancellazione della chiave</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_UNIT_NAME">
+        <source>Unit of the period until the key is erased</source>
+        <translation>Unità di tempo prima della cancellazione della chiave</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_DAYS">
+        <source>&amp;days</source>
+        <extracomment>Ends the line “Erase the key after [12]”</extracomment>
+        <translation>&amp;giorni</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_MINUTES">
+        <source>m&amp;inutes</source>
+        <extracomment>Ends the line “Erase the key after [12]”</extracomment>
+        <translation>&amp;minuti</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF">
+        <source>Lo&amp;g off after</source>
+        <extracomment>Reads on: [12] minutes without use</extracomment>
+        <translation>Disc&amp;onnetti dopo</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
+        <source>Minutes without use until the drive logs off</source>
+        <translation>Minuti di inattività prima che l’unità si disconnetta</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF_UNIT">
+        <source>minutes without use</source>
+        <extracomment>Ends the line “Log off after [12]”</extracomment>
+        <translation>minuti di inattività</translation>
+    </message>
+    <message id="IDS_SETTINGS_SHOW_REMAINING_TIME">
+        <source>Show the &amp;remaining time at log-in</source>
+        <translation>Mostra il tempo &amp;rimanente all’accesso</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_GROUP">
+        <source>Erase</source>
+        <extracomment>Title of a group</extracomment>
+        <translation>Cancellazione</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_KEY_EXPLANATION">
+        <source>Without its key the secure area can never be read again.</source>
+        <translation>Senza la sua chiave l’area protetta non potrà mai più essere letta.</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_KEY">
+        <source>Erase Ke&amp;y…</source>
+        <translation>&amp;Cancella chiave…</translation>
+    </message>
+    <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
+        <source>Clearing removes every area, password and setting.</source>
+        <translation>Rimuove tutte le aree, le password e le impostazioni.</translation>
+    </message>
+    <message id="IDS_SETTINGS_CLEAR_ALL">
+        <source>Clear A&amp;ll…</source>
+        <translation>Cancella &amp;tutto…</translation>
+    </message>
+    <message id="IDS_SETTINGS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message id="IDS_SETTINGS_OK">
+        <source>&amp;OK</source>
+        <translation>O&amp;K</translation>
+    </message>
+    <message id="IDS_CHANGE_TITLE">
+        <source>ZELTO DISK: Change Passwords</source>
+        <translation>ZELTO DISK: cambio delle password</translation>
+    </message>
+    <message id="IDS_CHANGE_HEADING">
+        <source>Change the passwords of the secure area.</source>
+        <translation>Cambiare le password dell’area protetta.</translation>
+    </message>
+    <message id="IDS_CHANGE_EXPLANATION">
+        <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
+        <translation>Una password ha da 1 a 32 lettere, cifre o segni, senza accenti. Per la prima l’unità consente un numero illimitato di tentativi: sceglierla difficile da indovinare. Una password dimenticata non può essere recuperata.</translation>
+    </message>
+    <message id="IDS_CHANGE_NUMBER_NAME">
+        <source>Number of passwords</source>
+        <translation>Numero di password</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_ONLY">
+        <source>First password &amp;only</source>
+        <translation>&amp;Solo la prima password</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_AND_SECOND">
+        <source>First &amp;and second password</source>
+        <translation>&amp;Prima e seconda password</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_GROUP">
+        <source>First password</source>
+        <translation>Prima password</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_CURRENT">
+        <source>&amp;Current:</source>
+        <extracomment>The current first password</extracomment>
+        <translation>A&amp;ttuale:</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_NEW">
+        <source>&amp;New:</source>
+        <extracomment>The new first password</extracomment>
+        <translation>Nu&amp;ova:</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_AGAIN">
+        <source>New a&amp;gain:</source>
+        <extracomment>The new first password again</extracomment>
+        <translation>&amp;Ripeti la nuova:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_GROUP">
+        <source>Second password</source>
+        <translation>Seconda password</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_CURRENT">
+        <source>C&amp;urrent:</source>
+        <translation>Attua&amp;le:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_NEW">
+        <source>N&amp;ew:</source>
+        <translation>N&amp;uova:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_AGAIN">
+        <source>New aga&amp;in:</source>
+        <translation>R&amp;ipeti la nuova:</translation>
+    </message>
+    <message id="IDS_CHANGE_TRIES">
+        <source>&amp;Tries allowed:</source>
+        <extracomment>How often a wrong second password may be entered</extracomment>
+        <translation>Tentativi &amp;consentiti:</translation>
+    </message>
+    <message id="IDS_CHANGE_TRIES_PLACEHOLDER">
+        <source>1–99</source>
+        <translation>1–99</translation>
+    </message>
+    <message id="IDS_CHANGE_CANCEL">
+        <source>Cance&amp;l</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message id="IDS_CHANGE_OK">
+        <source>O&amp;K</source>
+        <translation>O&amp;K</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TITLE">
+        <source>ZELTO DISK: Passwords</source>
+        <translation>ZELTO DISK: password</translation>
+    </message>
+    <message id="IDS_PASSWORDS_HEADING">
+        <source>Choose the passwords of the secure area.</source>
+        <translation>Scegliere le password dell’area protetta.</translation>
+    </message>
+    <message id="IDS_PASSWORDS_EXPLANATION">
+        <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
+        <translation>Una password ha da 1 a 32 lettere, cifre o segni, senza accenti. Per la prima l’unità consente un numero illimitato di tentativi: sceglierla difficile da indovinare. Una password dimenticata non può essere recuperata.</translation>
+    </message>
+    <message id="IDS_PASSWORDS_NUMBER_NAME">
+        <source>Number of passwords</source>
+        <translation>Numero di password</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_ONLY">
+        <source>First password &amp;only</source>
+        <translation>Solo &amp;la prima password</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_AND_SECOND">
+        <source>First &amp;and second password</source>
+        <translation>Prima &amp;e seconda password</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_GROUP">
+        <source>First password</source>
+        <translation>Prima password</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST">
+        <source>&amp;Password:</source>
+        <translation>Pa&amp;ssword:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_AGAIN">
+        <source>A&amp;gain:</source>
+        <extracomment>The password again</extracomment>
+        <translation>R&amp;ipeti:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND_GROUP">
+        <source>Second password</source>
+        <translation>Seconda password</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND">
+        <source>Pass&amp;word:</source>
+        <translation>&amp;Password:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND_AGAIN">
+        <source>Aga&amp;in:</source>
+        <translation>&amp;Ripeti:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TRIES">
+        <source>&amp;Tries allowed:</source>
+        <translation>&amp;Tentativi consentiti:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TRIES_PLACEHOLDER">
+        <source>1–99</source>
+        <translation>1–99</translation>
+    </message>
+    <message id="IDS_PASSWORDS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message id="IDS_PASSWORDS_OK">
+        <source>O&amp;K</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_SELECT_TITLE">
+        <source>ZELTO DISK</source>
+        <translation>ZELTO DISK</translation>
+    </message>
+    <message id="IDS_SELECT_HEADING">
+        <source>Which drive do you want to use?</source>
+        <translation>Quale unità si vuole usare?</translation>
+    </message>
+    <message id="IDS_SELECT_EXPLANATION">
+        <source>These drives are plugged in. For one that is missing, start the program again.</source>
+        <translation>Queste unità sono collegate. Se ne manca una, avviare di nuovo il programma.</translation>
+    </message>
+    <message id="IDS_SELECT_DRIVE">
+        <source>&amp;Drive:</source>
+        <extracomment>The USB drive as a whole: a list follows</extracomment>
+        <translation>&amp;Unità:</translation>
+    </message>
+    <message id="IDS_SELECT_LOOK_AGAIN">
+        <source>&amp;Look Again</source>
+        <translation>&amp;Cerca di nuovo</translation>
+    </message>
+    <message id="IDS_SELECT_LOOK_AGAIN_DESCRIPTION">
+        <source>Looks again for drives that were plugged in meanwhile</source>
+        <translation>Cerca di nuovo le unità collegate nel frattempo</translation>
+    </message>
+    <message id="IDS_SELECT_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message id="IDS_SELECT_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_UNLOCKED_TITLE">
+        <source>ZELTO DISK: Unlocked</source>
+        <translation>ZELTO DISK: sbloccata</translation>
+    </message>
+    <message id="IDS_UNLOCKED_HEADING">
+        <source>Your drive is unlocked.</source>
+        <translation>L’unità è sbloccata.</translation>
+    </message>
+    <message id="IDS_UNLOCKED_EXPLANATION">
+        <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off before you unplug the drive or leave the computer.</source>
+        <translation>L’area protetta è aperta e compare accanto agli altri dischi. Una nuova è vuota: formattarla una volta. Disconnettersi prima di scollegare l’unità o di lasciare il computer.</translation>
+    </message>
+    <message id="IDS_UNLOCKED_SETTINGS">
+        <source>&amp;Settings…</source>
+        <extracomment>Opens the settings of the drive</extracomment>
+        <translation>&amp;Impostazioni…</translation>
+    </message>
+    <message id="IDS_UNLOCKED_LOG_OFF">
+        <source>&amp;Log Off</source>
+        <extracomment>Of the drive, not of the computer’s session</extracomment>
+        <translation>&amp;Disconnetti</translation>
+    </message>
+    <message id="IDS_UNLOCKED_LOG_OFF_DESCRIPTION">
+        <source>Locks the drive and closes the program</source>
+        <translation>Blocca l’unità e chiude il programma</translation>
+    </message>
+    <message id="IDS_UNLOCKED_KEEP">
+        <source>&amp;Keep Unlocked and Close</source>
+        <translation>&amp;Lascia sbloccata e chiudi</translation>
+    </message>
+    <message id="IDS_UNLOCKED_KEEP_DESCRIPTION">
+        <source>Closes the program; the drive stays unlocked</source>
+        <translation>Chiude il programma; l’unità resta sbloccata</translation>
+    </message>
+    <message id="IDS_UNLOCKING_TITLE">
+        <source>ZELTO DISK: Unlocked</source>
+        <translation>ZELTO DISK: sbloccata</translation>
+    </message>
+    <message id="IDS_UNLOCKING_HEADING">
+        <source>Your drive is unlocked.</source>
+        <translation>L’unità è sbloccata.</translation>
+    </message>
+    <message id="IDS_UNLOCKING_EXPLANATION">
+        <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off to lock it again, or keep it unlocked and go on working with it.</source>
+        <translation>L’area protetta è aperta e compare accanto agli altri dischi. Una nuova è vuota: formattarla una volta. Disconnettersi per bloccarla di nuovo, oppure lasciarla sbloccata e continuare a lavorarci.</translation>
+    </message>
+    <message id="IDS_UNLOCKING_SETTINGS">
+        <source>&amp;Settings…</source>
+        <translation>&amp;Impostazioni…</translation>
+    </message>
+    <message id="IDS_UNLOCKING_KEEP">
+        <source>&amp;Keep Unlocked and Close</source>
+        <translation>&amp;Lascia sbloccata e chiudi</translation>
+    </message>
+    <message id="IDS_UNLOCKING_KEEP_DESCRIPTION">
+        <source>Closes the program; the drive stays unlocked</source>
+        <translation>Chiude il programma; l’unità resta sbloccata</translation>
+    </message>
+    <message id="IDS_UNLOCKING_LOG_OFF">
+        <source>&amp;Log Off</source>
+        <translation>&amp;Disconnetti</translation>
+    </message>
+    <message id="IDS_UNLOCKING_LOG_OFF_DESCRIPTION">
+        <source>Locks the drive and closes the program</source>
+        <translation>Blocca l’unità e chiude il programma</translation>
+    </message>
+    <message id="IDS_SETUP_TITLE">
+        <source>ZELTO DISK: Setting Up</source>
+        <translation>ZELTO DISK: configurazione</translation>
+    </message>
+    <message id="IDS_SETUP_HEADING">
+        <source>Your drive is being set up.</source>
+        <translation>L’unità è in corso di configurazione.</translation>
+    </message>
+    <message id="IDS_SETUP_EXPLANATION">
+        <source>This takes about a minute. Leave the drive plugged in until it is finished.</source>
+        <translation>Ci vuole circa un minuto. Lasciare l’unità collegata fino al termine.</translation>
+    </message>
+    <message id="IDS_SETUP_STEPS_NAME">
+        <source>Steps of the set-up</source>
+        <translation>Passi della configurazione</translation>
+    </message>
+    <message id="IDS_SETUP_PROGRESS_NAME">
+        <source>Progress of the set-up</source>
+        <translation>Avanzamento della configurazione</translation>
+    </message>
+    <message id="IDS_SETUP_FINISH">
+        <source>&amp;Finish</source>
+        <translation>&amp;Fine</translation>
+    </message>
+    <message id="IDS_SIZE_MB">
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message id="IDS_SIZE_GB">
+        <source>%1 GB</source>
+        <extracomment>%1 has one decimal: 3.7</extracomment>
+        <translation>%1 GB</translation>
+    </message>
+    <message id="IDS_SIZE_TB">
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message id="IDS_BAR_NORMAL">
+        <source>normal area</source>
+        <extracomment>In a sentence: Disk1, normal area, 244 MB</extracomment>
+        <translation>area normale</translation>
+    </message>
+    <message id="IDS_BAR_SECURE">
+        <source>secure area</source>
+        <translation>area protetta</translation>
+    </message>
+    <message id="IDS_BAR_TOOL">
+        <source>tool area</source>
+        <extracomment>The small area that carries this program</extracomment>
+        <translation>area strumenti</translation>
+    </message>
+    <message id="IDS_BAR_FREE">
+        <source>not used</source>
+        <extracomment>Of a part of the drive</extracomment>
+        <translation>non usata</translation>
+    </message>
+    <message id="IDS_BAR_NAMED">
+        <source>%1, %2, %3</source>
+        <extracomment>Disk1, secure area, 244 MB</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message id="IDS_BAR_UNNAMED">
+        <source>%1, %2</source>
+        <extracomment>not used, 244 MB</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="IDS_BAR_SEPARATOR">
+        <source>; </source>
+        <extracomment>Between the areas of the list: Disk1, normal area, 244 MB; not used, 244 MB</extracomment>
+        <translation>; </translation>
+    </message>
+    <message id="IDS_BAR_TOO_LARGE">
+        <source>together more than the drive can hold</source>
+        <extracomment>Last in that list</extracomment>
+        <translation>insieme più di quanto l’unità possa contenere</translation>
+    </message>
+    <message id="IDS_LIST_SEPARATOR">
+        <source>, </source>
+        <extracomment>Between the names of programs</extracomment>
+        <translation>, </translation>
+    </message>
+    <message id="IDS_TABLE_AREA">
+        <source>Area</source>
+        <extracomment>Head of a column: Disk1, Disk2, Disk3</extracomment>
+        <translation>Area</translation>
+    </message>
+    <message id="IDS_TABLE_KIND">
+        <source>Kind</source>
+        <extracomment>Head of a column: normal or secure</extracomment>
+        <translation>Tipo</translation>
+    </message>
+    <message id="IDS_TABLE_CAPACITY">
+        <source>Capacity</source>
+        <extracomment>Head of a column</extracomment>
+        <translation>Capacità</translation>
+    </message>
+    <message id="IDS_STEP_SETTINGS">
+        <source>The settings are on the drive</source>
+        <extracomment>One step of the set-up; done or under way</extracomment>
+        <translation>Le impostazioni sono sull’unità</translation>
+    </message>
+    <message id="IDS_STEP_RESTART">
+        <source>The drive starts anew</source>
+        <translation>L’unità si riavvia</translation>
+    </message>
+    <message id="IDS_STEP_TOOL_AREA">
+        <source>The tool area appears</source>
+        <translation>Compare l’area strumenti</translation>
+    </message>
+    <message id="IDS_STEP_COPY">
+        <source>The tool area is formatted and this program copied</source>
+        <translation>L’area strumenti viene formattata e questo programma copiato</translation>
+    </message>
+    <message id="IDS_STEP_FINISHED">
+        <source>Finished</source>
+        <translation>Terminato</translation>
+    </message>
+    <message id="IDS_STEP_CURRENT">
+        <source>Step %1 of %2: %3</source>
+        <extracomment>Read aloud; %3 is one of the steps</extracomment>
+        <translation>Passo %1 di %2: %3</translation>
+    </message>
+    <message id="IDS_STEP_FAILED">
+        <source>Step %1 of %2 failed: %3</source>
+        <translation>Passo %1 di %2 non riuscito: %3</translation>
+    </message>
+    <message id="IDS_FIELD_ENTRIES_MATCH">
+        <source>The two entries match.</source>
+        <translation>I due inserimenti coincidono.</translation>
+    </message>
+    <message id="IDS_FIELD_ENTRIES_DIFFER">
+        <source>The two entries differ.</source>
+        <translation>I due inserimenti sono diversi.</translation>
+    </message>
+    <message id="IDS_FIELD_DIGITS">
+        <source>%1 of 128 digits</source>
+        <translation>%1 di 128 cifre</translation>
+    </message>
+    <message id="IDS_FIELD_DIGITS_ODD">
+        <source>%1 of 128 digits, one is missing</source>
+        <extracomment>Two digits make a byte; the number is odd</extracomment>
+        <translation>%1 di 128 cifre, ne manca una</translation>
+    </message>
+    <message id="IDS_FIELD_REVEAL">
+        <source>Hold to see the password</source>
+        <extracomment>Of a button that is held down</extracomment>
+        <translation>Tenere premuto per vedere la password</translation>
+    </message>
+    <message id="IDS_FIELD_CAPS_LOCK">
+        <source>Caps Lock seems to be on</source>
+        <extracomment>The key as it is called in the language</extracomment>
+        <translation>Bloc Maiusc sembra attivo</translation>
+    </message>
+    <message id="IDS_FIELD_PASTE">
+        <source>&amp;Paste</source>
+        <extracomment>In the menu of a field</extracomment>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message id="IDS_FIELD_SELECT_ALL">
+        <source>Select &amp;All</source>
+        <extracomment>In the menu of a field</extracomment>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+    <message id="IDS_AWAKE_SETUP">
+        <source>The drive is being set up</source>
+        <extracomment>Why the computer does not go to sleep now, shown by the desktop</extracomment>
+        <translation>L’unità è in corso di configurazione</translation>
+    </message>
+    <message id="IDS_AWAKE_PASSWORDS">
+        <source>The passwords are being changed</source>
+        <extracomment>Why the computer does not go to sleep now</extracomment>
+        <translation>Le password vengono cambiate</translation>
+    </message>
+    <message id="IDS_AWAKE_RELEASE">
+        <source>The drive’s volumes are being released</source>
+        <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
+        <translation>I volumi dell’unità vengono smontati</translation>
+    </message>
+    <message id="IDS_RULE_TITLE">
+        <source>ZELTO DISK: Device Rule</source>
+        <translation>ZELTO DISK: regola del dispositivo</translation>
+    </message>
+    <message id="IDS_RULE_HEADING">
+        <source>Let this computer’s users use the drive.</source>
+        <translation>Permettere agli utenti di questo computer di usare l’unità.</translation>
+    </message>
+    <message id="IDS_RULE_EXPLANATION">
+        <source>An administrator enters this &amp;command in a terminal. It adds the device rule that it holds. Then plug the drive in again.</source>
+        <translation>&amp;Un amministratore inserisce questo comando in un terminale. Il comando aggiunge la regola del dispositivo che contiene. Poi ricollegare l’unità.</translation>
+    </message>
+    <message id="IDS_RULE_CLOSE">
+        <source>C&amp;lose</source>
+        <translation>C&amp;hiudi</translation>
+    </message>
+    <message id="IDS_RULE_COPY">
+        <source>Co&amp;py Command</source>
+        <translation>&amp;Copia comando</translation>
+    </message>
+    <message id="IDS_SELECT_SHOW_RULE">
+        <source>Show &amp;Rule…</source>
+        <translation>&amp;Mostra regola…</translation>
+    </message>
+    <message id="IDS_SELECT_SHOW_RULE_DESCRIPTION">
+        <source>Shows the device rule and the command that adds it to this computer</source>
+        <translation>Mostra la regola del dispositivo e il comando che la aggiunge a questo computer</translation>
+    </message>
+    <message id="IDS_DRIVE_SERIAL">
+        <source>Serial number: %1</source>
+        <translation>Numero di serie: %1</translation>
+    </message>
+    <message id="IDS_DRIVE_SERIAL_AND_PORT">
+        <source>Serial number: %1, in USB port %2</source>
+        <translation>Numero di serie: %1, nella porta USB %2</translation>
+    </message>
+    <message id="IDS_DRIVE_PORT">
+        <source>No serial number, in USB port %1</source>
+        <translation>Nessun numero di serie, nella porta USB %1</translation>
+    </message>
+    <message id="IDS_STRENGTH_WEAK">
+        <source>Strength: weak</source>
+        <extracomment>Of a new password; a bar of four parts stands before it</extracomment>
+        <translation>Robustezza: debole</translation>
+    </message>
+    <message id="IDS_STRENGTH_FAIR">
+        <source>Strength: fair</source>
+        <translation>Robustezza: discreta</translation>
+    </message>
+    <message id="IDS_STRENGTH_GOOD">
+        <source>Strength: good</source>
+        <translation>Robustezza: buona</translation>
+    </message>
+    <message id="IDS_STRENGTH_STRONG">
+        <source>Strength: strong</source>
+        <translation>Robustezza: forte</translation>
+    </message>
+    <message id="IDS_HELP_BUTTON">
+        <source>&amp;Help</source>
+        <extracomment>In every window; no other button there may have its underlined letter</extracomment>
+        <translation>&amp;Aiuto</translation>
+    </message>
+    <message id="IDS_HELP_DESCRIPTION">
+        <source>Opens the manual’s page about this window (F1). This is version %1 of the program.</source>
+        <translation>Apre la pagina del manuale su questa finestra (F1). Questa è la versione %1 del programma.</translation>
+    </message>
+    <message id="IDS_HINT_NO_MANUAL">
+        <source>The manual could not be opened: it was not found beside the program, or this computer has nothing to show it with.</source>
+        <translation>Non è stato possibile aprire il manuale: non è accanto al programma, o questo computer non ha nulla per mostrarlo.</translation>
+    </message>
+    <message id="IDS_HINT_VERSION">
+        <source>Version %1 of the program.</source>
+        <extracomment>Below messages that support is asked about</extracomment>
+        <translation>Versione %1 del programma.</translation>
+    </message>
+</context>
+</TS>

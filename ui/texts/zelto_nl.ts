@@ -1,0 +1,1152 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="OK">
+        <source>OK</source>
+        <extracomment>A button</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="IDS_APP_TITLE">
+        <source>ZELTO DISK</source>
+        <extracomment>The product’s name: never translated</extracomment>
+        <translation>ZELTO DISK</translation>
+    </message>
+    <message id="IDS_CANCEL_BUTTON">
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message id="IDS_ERR_NOT_FOUND_ZELTO">
+        <source>No ZELTO DISK is ready for use. Plug it in, then start this program again.</source>
+        <translation>Er is geen ZELTO DISK gereed voor gebruik. Sluit hem aan en start dit programma opnieuw.</translation>
+    </message>
+    <message id="IDS_ENTER_1ST_PASSWORD">
+        <source>Enter the password; the first one if the drive has two.</source>
+        <translation>Voer het wachtwoord in; het eerste als het station er twee heeft.</translation>
+    </message>
+    <message id="IDS_ENTER_2ND_PASSWORD">
+        <source>Enter the second password.</source>
+        <translation>Voer het tweede wachtwoord in.</translation>
+    </message>
+    <message id="IDS_FULLLOCK_TIME_STATUS_INVALID">
+        <source>The drive’s clock has stopped, so the drive has locked itself.
+
+Set the drive’s clock to this computer’s time, %1? Check first that this time is right. If the drive still has its key, you can log in to it afterwards.</source>
+        <extracomment>%1 is a date and time</extracomment>
+        <translation>De klok van het station is gestopt, daarom heeft het station zichzelf vergrendeld.
+
+De klok van het station gelijkzetten met deze computer, %1? Controleer eerst of deze tijd klopt. Als het station zijn sleutel nog heeft, kunt u zich daarna aanmelden.</translation>
+    </message>
+    <message id="IDS_SET_CURRENT_YIME">
+        <source>The drive’s clock has been set. The program now closes. Start it again: it then says whether you can log in.</source>
+        <translation>De klok van het station is gelijkgezet. Het programma wordt nu gesloten. Start het opnieuw: het zegt dan of u zich kunt aanmelden.</translation>
+    </message>
+    <message id="IDS_ERR_ZELTO_DRIVE_LOST">
+        <source>The drive has locked itself for good and its key is gone: after too many wrong passwords, because its time ran out, or because the key was erased. What was in the secure area cannot be read any more, by anyone.
+
+To use the drive again, start this program if it has closed, choose “Clear All” in the settings, then plug the drive out and in and start the program once more to set it up.</source>
+        <translation>Het station heeft zichzelf voorgoed vergrendeld en de sleutel is weg: na te veel onjuiste wachtwoorden, omdat de tijd verstreken is of omdat de sleutel gewist is. Wat in het beveiligde gebied stond, kan niemand meer lezen.
+
+Om het station weer te gebruiken start u dit programma als het gesloten is, kiest u ‘Alles wissen’ in de instellingen, koppelt u het station los en weer aan en start u het programma nogmaals om het in te stellen.</translation>
+    </message>
+    <message id="IDS_ERR_AUTHENTICATE_FAILED">
+        <source>This password is not right. Check Caps Lock and try again; the drive may allow only a few tries.</source>
+        <translation>Dit wachtwoord is niet juist. Controleer Caps Lock en probeer het opnieuw; het station staat misschien maar enkele pogingen toe.</translation>
+    </message>
+    <message id="IDS_ERR_UNMOUNT">
+        <source>The drive’s volumes could not be released; most often a program still uses a file on them. Nothing else was done: a drive that was unlocked is still unlocked.
+
+Close all files and windows that show the drive, then try again. Start this program again if it has closed.</source>
+        <translation>De volumes van het station konden niet worden ontkoppeld; meestal gebruikt een programma er nog een bestand op. Verder is er niets gedaan: een station dat ontgrendeld was, is nog steeds ontgrendeld.
+
+Sluit alle bestanden en vensters die het station tonen en probeer het opnieuw. Start dit programma opnieuw als het gesloten is.</translation>
+    </message>
+    <message id="IDS_COMMAND_FAIL_WITH_SENSE_INFO">
+        <source>The drive did not carry out this step. If it happens again, close this program, plug the drive out and in, and start the program again.
+
+For support: sense key %1, code %2, qualifier %3.</source>
+        <extracomment>Numbers that identify an error</extracomment>
+        <translation>Het station heeft deze stap niet uitgevoerd. Sluit dit programma als dit weer gebeurt, koppel het station los en weer aan, en start het programma opnieuw.
+
+Voor ondersteuning: sense-sleutel %1, code %2, kwalificatie %3.</translation>
+    </message>
+    <message id="IDS_COMMAND_FAIL">
+        <source>The drive does not answer. Close this program, plug the drive out and in, and start the program again.</source>
+        <translation>Het station antwoordt niet. Sluit dit programma, koppel het station los en weer aan, en start het programma opnieuw.</translation>
+    </message>
+    <message id="IDS_ERR_TIME_STATUS_INVALID">
+        <source>not set</source>
+        <extracomment>In place of the time, after “Drive’s clock:”</extracomment>
+        <translation>niet ingesteld</translation>
+    </message>
+    <message id="IDS_EXPIRED">
+        <source>The time has run out</source>
+        <extracomment>In place of the remaining time, after “Key erased in:”</extracomment>
+        <translation>De tijd is verstreken</translation>
+    </message>
+    <message id="IDS_DAYS">
+        <source>d</source>
+        <extracomment>After a number: 12 d 5 h 30 min</extracomment>
+        <translation>d</translation>
+    </message>
+    <message id="IDS_HOURS">
+        <source>h</source>
+        <extracomment>After a number</extracomment>
+        <translation>u</translation>
+    </message>
+    <message id="IDS_MIN">
+        <source>min</source>
+        <extracomment>After a number</extracomment>
+        <translation>min</translation>
+    </message>
+    <message id="IDS_TIME_SYNC_COMPLETE">
+        <source>The drive’s clock has been set to this computer’s time. The program now closes; start it again to go on.</source>
+        <translation>De klok van het station is gelijkgezet met deze computer. Het programma wordt nu gesloten; start het opnieuw om verder te gaan.</translation>
+    </message>
+    <message id="IDS_NOW_SETTING">
+        <source>Setting up the drive. Please do not unplug it.</source>
+        <extracomment>Blinks while the drive is set up</extracomment>
+        <translation>Het station wordt ingesteld. Koppel het niet los.</translation>
+    </message>
+    <message id="IDS_SETTING_COMPLETE">
+        <source>The drive is set up. Its areas are still blank: format each once before you use it, a secure one after you have logged in.</source>
+        <translation>Het station is ingesteld. De gebieden zijn nog leeg: formatteer elk gebied eenmaal voordat u het gebruikt, een beveiligd gebied nadat u zich hebt aangemeld.</translation>
+    </message>
+    <message id="IDS_ERR_FORMAT">
+        <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
+        <translation>Het station is ingesteld en kan worden gebruikt. Alleen het programmagebied kon niet worden geformatteerd, dus staat dit programma niet op het station: gebruik het station met het programma op deze computer.</translation>
+    </message>
+    <message id="IDS_ERR_FILE_COPY">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
+
+From: %1
+To: %2</source>
+        <extracomment>%1 and %2 are names of files</extracomment>
+        <translation>Het station is ingesteld en kan worden gebruikt. Alleen dit programma kon niet naar het programmagebied worden gekopieerd: gebruik het station met het programma op deze computer.
+
+Van: %1
+Naar: %2</translation>
+    </message>
+    <message id="IDS_ERR_SPINUP">
+        <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
+        <translation>Het station werd niet gereed, daarom is er niets op gewijzigd. Het programma wordt nu gesloten. Koppel het station los en weer aan, en start het programma opnieuw.</translation>
+    </message>
+    <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
+        <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
+        <translation>U hebt gekozen om de versleutelingssleutel zelf in te voeren, maar die is er nog niet. Voer een sleutel in of laat het station er een maken.</translation>
+    </message>
+    <message id="IDS_ERR_CURRENT_1ST_PASSWORD_INVALID">
+        <source>The current first password is not right, so the first password was not changed. If you are changing two passwords, the second one has been changed already: from now on its current password is the new one. Check Caps Lock and enter the passwords again.</source>
+        <translation>Het huidige eerste wachtwoord is niet juist, dus is het eerste wachtwoord niet gewijzigd. Als u twee wachtwoorden wijzigt, is het tweede al gewijzigd: vanaf nu is het nieuwe het huidige. Controleer Caps Lock en voer de wachtwoorden opnieuw in.</translation>
+    </message>
+    <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
+        <source>The current second password is not right, so no password was changed. Check Caps Lock and enter it again.</source>
+        <translation>Het huidige tweede wachtwoord is niet juist, dus is er geen wachtwoord gewijzigd. Controleer Caps Lock en voer het opnieuw in.</translation>
+    </message>
+    <message id="IDS_ERR_ZELTO_NOT_UNLOCKING">
+        <source>The drive is locked. Log in to it first, then try again.</source>
+        <translation>Het station is vergrendeld. Meld u eerst aan en probeer het dan opnieuw.</translation>
+    </message>
+    <message id="IDS_CLEAR_ALL_CONFIRM">
+        <source>Clear everything on this drive?
+
+All areas with all their files, all passwords and all settings will be gone. This cannot be undone.</source>
+        <translation>Alles op dit station wissen?
+
+Alle gebieden met al hun bestanden, alle wachtwoorden en alle instellingen gaan verloren. Dit kan niet ongedaan worden gemaakt.</translation>
+    </message>
+    <message id="IDS_ERASE_ENCRYPTION_KEY_CONFIRM">
+        <source>Erase the encryption key of this drive?
+
+Everything in the secure area becomes unreadable for good, even with the right password. This cannot be undone.</source>
+        <translation>De versleutelingssleutel van dit station wissen?
+
+Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wachtwoord. Dit kan niet ongedaan worden gemaakt.</translation>
+    </message>
+    <message id="IDS_TOTAL_CAPACITY">
+        <source>Total: %1 MB</source>
+        <extracomment>%1 is a whole number of MB</extracomment>
+        <translation>Totaal: %1 MB</translation>
+    </message>
+    <message id="IDS_FREE_CAPACITY">
+        <source>Free: %1 MB</source>
+        <extracomment>%1 is a whole number of MB</extracomment>
+        <translation>Vrij: %1 MB</translation>
+    </message>
+    <message id="IDS_CAPACITY_OVER">
+        <source>The areas are larger than the drive.</source>
+        <translation>De gebieden zijn groter dan het station.</translation>
+    </message>
+    <message id="IDS_NORMAL_AREA">
+        <source>Normal</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Normaal</translation>
+    </message>
+    <message id="IDS_SECURE_AREA">
+        <source>Secure</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Beveiligd</translation>
+    </message>
+    <message id="IDS_FREE_AREA">
+        <source>Not used yet</source>
+        <extracomment>Kind of an area, in the table</extracomment>
+        <translation>Nog niet gebruikt</translation>
+    </message>
+    <message id="IDS_ALL_SECTORS">
+        <source>Whole drive</source>
+        <extracomment>In place of an area’s capacity: the area takes it all</extracomment>
+        <translation>Hele station</translation>
+    </message>
+    <message id="IDS_HINT_RULE_MISSING">
+        <source>One ZELTO DISK that is plugged in is not in this list, because this computer does not let you use it yet. Install the program’s package, or ask your administrator to add its device rule, then plug the drive in again.</source>
+        <translation>Een aangesloten ZELTO DISK staat niet in deze lijst, omdat u hem op deze computer nog niet mag gebruiken. Installeer het pakket van het programma of vraag uw beheerder de apparaatregel toe te voegen, en sluit het station daarna opnieuw aan.</translation>
+    </message>
+    <message id="IDS_HINT_OTHER_SESSION">
+        <source>One ZELTO DISK that is plugged in is not in this list, because it belongs to another user’s session on this computer. Use it from that session, or log in at this computer’s own screen and plug it in again.</source>
+        <translation>Een aangesloten ZELTO DISK staat niet in deze lijst, omdat hij bij de sessie van een andere gebruiker van deze computer hoort. Gebruik hem vanuit die sessie, of meld u rechtstreeks op deze computer aan en sluit hem opnieuw aan.</translation>
+    </message>
+    <message id="IDS_HINT_DRIVE_IN_USE">
+        <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
+        <translation>Een aangesloten ZELTO DISK staat niet in deze lijst, omdat dit programma nog eens draait en hem gebruikt. Sluit dat andere programma en start dit programma dan opnieuw.</translation>
+    </message>
+    <message id="IDS_HINT_BUSY_PROGRAMS">
+        <source>Still using the drive: %1</source>
+        <extracomment>%1 is a list of programs</extracomment>
+        <translation>Gebruiken het station nog: %1</translation>
+    </message>
+    <message id="IDS_HINT_NEXT_AREAS">
+        <source>Next: lay out the areas.</source>
+        <translation>Volgende stap: gebieden indelen.</translation>
+    </message>
+    <message id="IDS_HINT_NEXT_PASSWORDS">
+        <source>Next: choose the passwords.</source>
+        <translation>Volgende stap: wachtwoorden kiezen.</translation>
+    </message>
+    <message id="IDS_HINT_NOTHING_CHANGED">
+        <source>Nothing has been changed yet.</source>
+        <translation>Er is nog niets gewijzigd.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_CLEAR_DAYS">
+        <source>Erase the key after: enter 1 to 9999 days.</source>
+        <translation>Sleutel wissen na: voer 1 tot 9999 dagen in.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_CLEAR_MINUTES">
+        <source>Erase the key after: enter 1 to 999 minutes.</source>
+        <translation>Sleutel wissen na: voer 1 tot 999 minuten in.</translation>
+    </message>
+    <message id="IDS_HINT_AUTO_LOG_OFF_MINUTES">
+        <source>Log off after: enter 1 to 999 minutes.</source>
+        <translation>Afmelden na: voer 1 tot 999 minuten in.</translation>
+    </message>
+    <message id="IDS_HINT_AREA_DIGITS">
+        <source>Sizes are whole numbers of MB.</source>
+        <translation>Groottes zijn hele aantallen MB.</translation>
+    </message>
+    <message id="IDS_HINT_AREA_DISK1">
+        <source>Next: enter a size for Disk1.</source>
+        <translation>Volgende stap: een grootte voor Disk1 invoeren.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_MISSING">
+        <source>Next: enter the first password.</source>
+        <translation>Volgende stap: het eerste wachtwoord invoeren.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_AGAIN">
+        <source>Next: enter the first password again.</source>
+        <translation>Volgende stap: het eerste wachtwoord herhalen.</translation>
+    </message>
+    <message id="IDS_HINT_FIRST_DIFFERS">
+        <source>The two entries of the first password differ.</source>
+        <translation>De twee invoeren van het eerste wachtwoord verschillen.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_MISSING">
+        <source>Next: enter the second password.</source>
+        <translation>Volgende stap: het tweede wachtwoord invoeren.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_AGAIN">
+        <source>Next: enter the second password again.</source>
+        <translation>Volgende stap: het tweede wachtwoord herhalen.</translation>
+    </message>
+    <message id="IDS_HINT_SECOND_DIFFERS">
+        <source>The two entries of the second password differ.</source>
+        <translation>De twee invoeren van het tweede wachtwoord verschillen.</translation>
+    </message>
+    <message id="IDS_HINT_CURRENT_FIRST_MISSING">
+        <source>Next: enter the current first password.</source>
+        <translation>Volgende stap: het huidige eerste wachtwoord invoeren.</translation>
+    </message>
+    <message id="IDS_HINT_CURRENT_SECOND_MISSING">
+        <source>Next: enter the current second password.</source>
+        <translation>Volgende stap: het huidige tweede wachtwoord invoeren.</translation>
+    </message>
+    <message id="IDS_HINT_PASSWORD_ACCENTS">
+        <source>Letters with accents cannot be used in a password.</source>
+        <translation>Letters met accenten kunnen niet in een wachtwoord worden gebruikt.</translation>
+    </message>
+    <message id="IDS_HINT_PASSWORD_TOO_LONG">
+        <source>A password has 32 characters at most.</source>
+        <translation>Een wachtwoord heeft hoogstens 32 tekens.</translation>
+    </message>
+    <message id="IDS_HINT_TRIALS">
+        <source>Next: enter how many tries are allowed, 1 to 99.</source>
+        <translation>Volgende stap: het aantal toegestane pogingen invoeren, 1 tot 99.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_MISSING">
+        <source>Next: enter the digits of the key.</source>
+        <translation>Volgende stap: de cijfers van de sleutel invoeren.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_DIGITS">
+        <source>Only the digits 0 to 9 and A to F can be used.</source>
+        <translation>Alleen de cijfers 0 tot 9 en A tot F kunnen worden gebruikt.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_ODD">
+        <source>One digit is missing.</source>
+        <translation>Er ontbreekt een cijfer.</translation>
+    </message>
+    <message id="IDS_HINT_KEY_TOO_LONG">
+        <source>%1 of 128 digits: that is too many.</source>
+        <translation>%1 van 128 cijfers: dat is te veel.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_ERASES">
+        <source>OK erases everything on this drive and closes this window.</source>
+        <extracomment>Names the button OK</extracomment>
+        <translation>OK wist alles op dit station en sluit dit venster.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_OPEN">
+        <source>No secure area: anyone can read this drive. Passwords and a key that were entered are not used.</source>
+        <translation>Geen beveiligd gebied: iedereen kan dit station lezen. Ingevoerde wachtwoorden en sleutel worden niet gebruikt.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_RETRY">
+        <source>Before you try again, open the areas and confirm them once more.</source>
+        <translation>Open de gebieden en bevestig ze nogmaals voordat u het opnieuw probeert.</translation>
+    </message>
+    <message id="IDS_HINT_SETUP_TABLE_FULL">
+        <source>There is no room for one more attempt in the list of areas. Open the areas, confirm them once more, then try again.</source>
+        <translation>In de lijst met gebieden is geen ruimte voor nog een poging. Open de gebieden, bevestig ze nogmaals en probeer het dan opnieuw.</translation>
+    </message>
+    <message id="IDS_HINT_CLOSES">
+        <source>OK, Cancel, Erase Key and Clear All close the program.</source>
+        <extracomment>Names the buttons of the window as they are called there</extracomment>
+        <translation>OK, Annuleren, Sleutel wissen en Alles wissen sluiten het programma.</translation>
+    </message>
+    <message id="IDS_HINT_SET_CLOCK_CLOSES">
+        <source>Setting the clock closes the program; what was entered is lost.</source>
+        <translation>Het gelijkzetten van de klok sluit het programma; wat is ingevoerd gaat verloren.</translation>
+    </message>
+    <message id="IDS_HINT_PERIOD_ZERO">
+        <source>A period that shows 0 is switched off by OK.</source>
+        <extracomment>Names the button OK</extracomment>
+        <translation>Een periode die 0 toont wordt met OK uitgeschakeld.</translation>
+    </message>
+    <message id="IDS_HINT_SECURE_CHOICE_DROPPED">
+        <source>Only Disk1 keeps its choice when this window opens. To make Disk2 or Disk3 secure, choose it again.</source>
+        <translation>Alleen Disk1 behoudt zijn keuze als dit venster wordt geopend. Kies opnieuw om Disk2 of Disk3 te beveiligen.</translation>
+    </message>
+    <message id="IDS_HINT_TRIALS_ERASE">
+        <source>After that many wrong second passwords the drive erases its key for good.</source>
+        <translation>Na zo veel onjuiste tweede wachtwoorden wist het station zijn sleutel voorgoed.</translation>
+    </message>
+    <message id="IDS_AREAS_TITLE">
+        <source>ZELTO DISK: Areas</source>
+        <translation>ZELTO DISK: gebieden</translation>
+    </message>
+    <message id="IDS_AREAS_HEADING">
+        <source>Divide the drive into areas.</source>
+        <translation>Verdeel het station in gebieden.</translation>
+    </message>
+    <message id="IDS_AREAS_EXPLANATION">
+        <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
+        <translation>Hoogstens drie gebieden; laat een gebied dat u niet nodig hebt op 0 MB. Een ervan kan beveiligd zijn: dat blijft verborgen tot u zich aanmeldt.</translation>
+    </message>
+    <message id="IDS_AREAS_BAR_NAME">
+        <source>The areas in proportion</source>
+        <translation>De gebieden in verhouding</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1">
+        <source>Disk&amp;1:</source>
+        <extracomment>Disk1, Disk2 and Disk3 are given names: never translated</extracomment>
+        <translation>Disk&amp;1:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_UNIT">
+        <source>MB</source>
+        <extracomment>Stands after a field with a number</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_SECURE">
+        <source>&amp;Secure area</source>
+        <translation>B&amp;eveiligd gebied</translation>
+    </message>
+    <message id="IDS_AREAS_DISK1_SECURE_NAME">
+        <source>Disk1 is a secure area</source>
+        <translation>Disk1 is een beveiligd gebied</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2">
+        <source>Disk&amp;2:</source>
+        <translation>Disk&amp;2:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_UNIT">
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_SECURE">
+        <source>S&amp;ecure area</source>
+        <translation>Beveiligd &amp;gebied</translation>
+    </message>
+    <message id="IDS_AREAS_DISK2_SECURE_NAME">
+        <source>Disk2 is a secure area</source>
+        <translation>Disk2 is een beveiligd gebied</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3">
+        <source>Disk&amp;3:</source>
+        <translation>Disk&amp;3:</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_UNIT">
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_SECURE">
+        <source>Secure &amp;area</source>
+        <translation>&amp;Beveiligd gebied</translation>
+    </message>
+    <message id="IDS_AREAS_DISK3_SECURE_NAME">
+        <source>Disk3 is a secure area</source>
+        <translation>Disk3 is een beveiligd gebied</translation>
+    </message>
+    <message id="IDS_AREAS_LEFT_NAME">
+        <source>Capacity that is left</source>
+        <translation>Overgebleven capaciteit</translation>
+    </message>
+    <message id="IDS_AREAS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuleren</translation>
+    </message>
+    <message id="IDS_AREAS_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_LOGIN_TITLE">
+        <source>ZELTO DISK: Log In</source>
+        <translation>ZELTO DISK: aanmelden</translation>
+    </message>
+    <message id="IDS_LOGIN_MESSAGE">
+        <source>Enter the password of your drive.</source>
+        <translation>Voer het wachtwoord van uw station in.</translation>
+    </message>
+    <message id="IDS_LOGIN_PASSWORD">
+        <source>&amp;Password:</source>
+        <translation>&amp;Wachtwoord:</translation>
+    </message>
+    <message id="IDS_LOGIN_CLOCK">
+        <source>Drive’s clock:</source>
+        <translation>Klok van station:</translation>
+    </message>
+    <message id="IDS_LOGIN_CLOCK_NAME">
+        <source>Drive’s clock</source>
+        <translation>Klok van station</translation>
+    </message>
+    <message id="IDS_LOGIN_TIME_LEFT">
+        <source>Key erased in:</source>
+        <extracomment>A time follows: 12 d 5 h 30 min</extracomment>
+        <translation>Sleutel gewist over:</translation>
+    </message>
+    <message id="IDS_LOGIN_TIME_LEFT_NAME">
+        <source>Time left until the drive erases its key</source>
+        <translation>Tijd tot het station zijn sleutel wist</translation>
+    </message>
+    <message id="IDS_LOGIN_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnuleren</translation>
+    </message>
+    <message id="IDS_LOGIN_SUBMIT">
+        <source>&amp;Log In</source>
+        <translation>&amp;Aanmelden</translation>
+    </message>
+    <message id="IDS_KEY_TITLE">
+        <source>ZELTO DISK: Encryption Key</source>
+        <translation>ZELTO DISK: versleutelingssleutel</translation>
+    </message>
+    <message id="IDS_KEY_HEADING">
+        <source>Enter the encryption key.</source>
+        <translation>Voer de versleutelingssleutel in.</translation>
+    </message>
+    <message id="IDS_KEY_EXPLANATION">
+        <source>An even number of hexadecimal digits, 0 to 9 and A to F, 128 at the most. Keep a copy in a safe place.</source>
+        <translation>Een even aantal hexadecimale cijfers, 0 tot 9 en A tot F, hoogstens 128. Bewaar een kopie op een veilige plek.</translation>
+    </message>
+    <message id="IDS_KEY_KEY">
+        <source>&amp;Key:</source>
+        <extracomment>The encryption key; a field follows</extracomment>
+        <translation>&amp;Sleutel:</translation>
+    </message>
+    <message id="IDS_KEY_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuleren</translation>
+    </message>
+    <message id="IDS_KEY_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_SETTINGS_TITLE">
+        <source>ZELTO DISK: Settings</source>
+        <translation>ZELTO DISK: instellingen</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_GROUP">
+        <source>Drive</source>
+        <extracomment>Title of a group: the USB drive as a whole</extracomment>
+        <translation>Station</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE">
+        <source>Dri&amp;ve:</source>
+        <translation>S&amp;tation:</translation>
+    </message>
+    <message id="IDS_SETTINGS_COMPUTER_CLOCK">
+        <source>Computer’s clock:</source>
+        <translation>Klok van computer:</translation>
+    </message>
+    <message id="IDS_SETTINGS_COMPUTER_CLOCK_NAME">
+        <source>Computer’s clock</source>
+        <translation>Klok van computer</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_CLOCK">
+        <source>Drive’s clock:</source>
+        <translation>Klok van station:</translation>
+    </message>
+    <message id="IDS_SETTINGS_DRIVE_CLOCK_NAME">
+        <source>Drive’s clock</source>
+        <translation>Klok van station</translation>
+    </message>
+    <message id="IDS_SETTINGS_SET_CLOCK">
+        <source>&amp;Set Clock</source>
+        <translation>&amp;Klok gelijkzetten</translation>
+    </message>
+    <message id="IDS_SETTINGS_SET_CLOCK_DESCRIPTION">
+        <source>Sets the drive’s clock to the computer’s time</source>
+        <translation>Zet de klok van het station gelijk met de computer</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREAS_GROUP">
+        <source>Areas</source>
+        <translation>Gebieden</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREA_BAR_NAME">
+        <source>The drive’s areas in proportion</source>
+        <translation>De gebieden van het station in verhouding</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREA_TABLE_NAME">
+        <source>The drive’s areas</source>
+        <translation>De gebieden van het station</translation>
+    </message>
+    <message id="IDS_SETTINGS_TOTAL_CAPACITY_NAME">
+        <source>Total capacity</source>
+        <translation>Totale capaciteit</translation>
+    </message>
+    <message id="IDS_SETTINGS_FREE_CAPACITY_NAME">
+        <source>Free capacity</source>
+        <translation>Vrije capaciteit</translation>
+    </message>
+    <message id="IDS_SETTINGS_AREAS">
+        <source>&amp;Areas…</source>
+        <translation>G&amp;ebieden…</translation>
+    </message>
+    <message id="IDS_SETTINGS_PROTECTION_GROUP">
+        <source>Protection of the secure area</source>
+        <translation>Bescherming van het beveiligde gebied</translation>
+    </message>
+    <message id="IDS_SETTINGS_PASSWORDS_LABEL">
+        <source>Passwords for log-in:</source>
+        <translation>Wachtwoorden voor aanmelden:</translation>
+    </message>
+    <message id="IDS_SETTINGS_PASSWORDS">
+        <source>&amp;Passwords…</source>
+        <translation>Wa&amp;chtwoorden…</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_LABEL">
+        <source>Encryption key:</source>
+        <translation>Versleutelingssleutel:</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_ORIGIN_NAME">
+        <source>Encryption key</source>
+        <translation>Versleutelingssleutel</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_BY_DRIVE">
+        <source>&amp;Made by the drive</source>
+        <extracomment>The encryption key</extracomment>
+        <translation>&amp;Door het station gemaakt</translation>
+    </message>
+    <message id="IDS_SETTINGS_KEY_BY_HAND">
+        <source>&amp;Entered by hand</source>
+        <extracomment>The encryption key</extracomment>
+        <translation>&amp;Zelf ingevoerd</translation>
+    </message>
+    <message id="IDS_SETTINGS_ENTER_KEY">
+        <source>Enter &amp;Key…</source>
+        <translation>Sleutel &amp;invoeren…</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTOMATIC_GROUP">
+        <source>Automatic protection</source>
+        <translation>Automatische bescherming</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR">
+        <source>Erase the key af&amp;ter</source>
+        <extracomment>Reads on: [12] (•) days ( ) minutes</extracomment>
+        <translation>&amp;Sleutel wissen na</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_PERIOD_NAME">
+        <source>Period until the key is erased</source>
+        <translation>Periode tot de sleutel wordt gewist</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_UNIT_NAME">
+        <source>Unit of the period until the key is erased</source>
+        <translation>Eenheid van de periode tot de sleutel wordt gewist</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_DAYS">
+        <source>&amp;days</source>
+        <extracomment>Ends the line “Erase the key after [12]”</extracomment>
+        <translation>da&amp;gen</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_CLEAR_MINUTES">
+        <source>m&amp;inutes</source>
+        <extracomment>Ends the line “Erase the key after [12]”</extracomment>
+        <translation>&amp;minuten</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF">
+        <source>Lo&amp;g off after</source>
+        <extracomment>Reads on: [12] minutes without use</extracomment>
+        <translation>Afmelden &amp;na</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
+        <source>Minutes without use until the drive logs off</source>
+        <translation>Minuten zonder gebruik tot het station zich afmeldt</translation>
+    </message>
+    <message id="IDS_SETTINGS_AUTO_LOG_OFF_UNIT">
+        <source>minutes without use</source>
+        <extracomment>Ends the line “Log off after [12]”</extracomment>
+        <translation>minuten zonder gebruik</translation>
+    </message>
+    <message id="IDS_SETTINGS_SHOW_REMAINING_TIME">
+        <source>Show the &amp;remaining time at log-in</source>
+        <translation>&amp;Resterende tijd bij het aanmelden tonen</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_GROUP">
+        <source>Erase</source>
+        <extracomment>Title of a group</extracomment>
+        <translation>Wissen</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_KEY_EXPLANATION">
+        <source>Without its key the secure area can never be read again.</source>
+        <translation>Zonder zijn sleutel kan het beveiligde gebied nooit meer worden gelezen.</translation>
+    </message>
+    <message id="IDS_SETTINGS_ERASE_KEY">
+        <source>Erase Ke&amp;y…</source>
+        <translation>S&amp;leutel wissen…</translation>
+    </message>
+    <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
+        <source>Clearing removes every area, password and setting.</source>
+        <translation>Verwijdert alle gebieden, wachtwoorden en instellingen.</translation>
+    </message>
+    <message id="IDS_SETTINGS_CLEAR_ALL">
+        <source>Clear A&amp;ll…</source>
+        <translation>Alles &amp;wissen…</translation>
+    </message>
+    <message id="IDS_SETTINGS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuleren</translation>
+    </message>
+    <message id="IDS_SETTINGS_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_CHANGE_TITLE">
+        <source>ZELTO DISK: Change Passwords</source>
+        <translation>ZELTO DISK: wachtwoorden wijzigen</translation>
+    </message>
+    <message id="IDS_CHANGE_HEADING">
+        <source>Change the passwords of the secure area.</source>
+        <translation>Wijzig de wachtwoorden van het beveiligde gebied.</translation>
+    </message>
+    <message id="IDS_CHANGE_EXPLANATION">
+        <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
+        <translation>Een wachtwoord heeft 1 tot 32 letters, cijfers of leestekens, zonder accenten. Bij het eerste staat het station onbeperkt veel pogingen toe, dus maak het moeilijk te raden. Een vergeten wachtwoord kan niet worden hersteld.</translation>
+    </message>
+    <message id="IDS_CHANGE_NUMBER_NAME">
+        <source>Number of passwords</source>
+        <translation>Aantal wachtwoorden</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_ONLY">
+        <source>First password &amp;only</source>
+        <translation>Alleen eerste &amp;wachtwoord</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_AND_SECOND">
+        <source>First &amp;and second password</source>
+        <translation>Eerste en &amp;tweede wachtwoord</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_GROUP">
+        <source>First password</source>
+        <translation>Eerste wachtwoord</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_CURRENT">
+        <source>&amp;Current:</source>
+        <extracomment>The current first password</extracomment>
+        <translation>Hui&amp;dig:</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_NEW">
+        <source>&amp;New:</source>
+        <extracomment>The new first password</extracomment>
+        <translation>Nie&amp;uw:</translation>
+    </message>
+    <message id="IDS_CHANGE_FIRST_AGAIN">
+        <source>New a&amp;gain:</source>
+        <extracomment>The new first password again</extracomment>
+        <translation>Ni&amp;euw herhalen:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_GROUP">
+        <source>Second password</source>
+        <translation>Tweede wachtwoord</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_CURRENT">
+        <source>C&amp;urrent:</source>
+        <translation>Huidi&amp;g:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_NEW">
+        <source>N&amp;ew:</source>
+        <translation>N&amp;ieuw:</translation>
+    </message>
+    <message id="IDS_CHANGE_SECOND_AGAIN">
+        <source>New aga&amp;in:</source>
+        <translation>&amp;Nieuw herhalen:</translation>
+    </message>
+    <message id="IDS_CHANGE_TRIES">
+        <source>&amp;Tries allowed:</source>
+        <extracomment>How often a wrong second password may be entered</extracomment>
+        <translation>Toegestane &amp;pogingen:</translation>
+    </message>
+    <message id="IDS_CHANGE_TRIES_PLACEHOLDER">
+        <source>1–99</source>
+        <translation>1–99</translation>
+    </message>
+    <message id="IDS_CHANGE_CANCEL">
+        <source>Cance&amp;l</source>
+        <translation>&amp;Annuleren</translation>
+    </message>
+    <message id="IDS_CHANGE_OK">
+        <source>O&amp;K</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TITLE">
+        <source>ZELTO DISK: Passwords</source>
+        <translation>ZELTO DISK: wachtwoorden</translation>
+    </message>
+    <message id="IDS_PASSWORDS_HEADING">
+        <source>Choose the passwords of the secure area.</source>
+        <translation>Kies de wachtwoorden van het beveiligde gebied.</translation>
+    </message>
+    <message id="IDS_PASSWORDS_EXPLANATION">
+        <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
+        <translation>Een wachtwoord heeft 1 tot 32 letters, cijfers of leestekens, zonder accenten. Bij het eerste staat het station onbeperkt veel pogingen toe, dus maak het moeilijk te raden. Een vergeten wachtwoord kan niet worden hersteld.</translation>
+    </message>
+    <message id="IDS_PASSWORDS_NUMBER_NAME">
+        <source>Number of passwords</source>
+        <translation>Aantal wachtwoorden</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_ONLY">
+        <source>First password &amp;only</source>
+        <translation>&amp;Alleen eerste wachtwoord</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_AND_SECOND">
+        <source>First &amp;and second password</source>
+        <translation>Eerste en &amp;tweede wachtwoord</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_GROUP">
+        <source>First password</source>
+        <translation>Eerste wachtwoord</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST">
+        <source>&amp;Password:</source>
+        <translation>&amp;Wachtwoord:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_FIRST_AGAIN">
+        <source>A&amp;gain:</source>
+        <extracomment>The password again</extracomment>
+        <translation>He&amp;rhalen:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND_GROUP">
+        <source>Second password</source>
+        <translation>Tweede wachtwoord</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND">
+        <source>Pass&amp;word:</source>
+        <translation>Wa&amp;chtwoord:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_SECOND_AGAIN">
+        <source>Aga&amp;in:</source>
+        <translation>H&amp;erhalen:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TRIES">
+        <source>&amp;Tries allowed:</source>
+        <translation>Toegestane &amp;pogingen:</translation>
+    </message>
+    <message id="IDS_PASSWORDS_TRIES_PLACEHOLDER">
+        <source>1–99</source>
+        <translation>1–99</translation>
+    </message>
+    <message id="IDS_PASSWORDS_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnuleren</translation>
+    </message>
+    <message id="IDS_PASSWORDS_OK">
+        <source>O&amp;K</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_SELECT_TITLE">
+        <source>ZELTO DISK</source>
+        <translation>ZELTO DISK</translation>
+    </message>
+    <message id="IDS_SELECT_HEADING">
+        <source>Which drive do you want to use?</source>
+        <translation>Welk station wilt u gebruiken?</translation>
+    </message>
+    <message id="IDS_SELECT_EXPLANATION">
+        <source>These drives are plugged in. For one that is missing, start the program again.</source>
+        <translation>Deze stations zijn aangesloten. Start het programma opnieuw als er een ontbreekt.</translation>
+    </message>
+    <message id="IDS_SELECT_DRIVE">
+        <source>&amp;Drive:</source>
+        <extracomment>The USB drive as a whole: a list follows</extracomment>
+        <translation>&amp;Station:</translation>
+    </message>
+    <message id="IDS_SELECT_LOOK_AGAIN">
+        <source>&amp;Look Again</source>
+        <translation>Opnieuw &amp;zoeken</translation>
+    </message>
+    <message id="IDS_SELECT_LOOK_AGAIN_DESCRIPTION">
+        <source>Looks again for drives that were plugged in meanwhile</source>
+        <translation>Zoekt opnieuw naar stations die intussen zijn aangesloten</translation>
+    </message>
+    <message id="IDS_SELECT_CANCEL">
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuleren</translation>
+    </message>
+    <message id="IDS_SELECT_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="IDS_UNLOCKED_TITLE">
+        <source>ZELTO DISK: Unlocked</source>
+        <translation>ZELTO DISK: ontgrendeld</translation>
+    </message>
+    <message id="IDS_UNLOCKED_HEADING">
+        <source>Your drive is unlocked.</source>
+        <translation>Uw station is ontgrendeld.</translation>
+    </message>
+    <message id="IDS_UNLOCKED_EXPLANATION">
+        <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off before you unplug the drive or leave the computer.</source>
+        <translation>Het beveiligde gebied is open en staat bij uw andere schijven. Een nieuw gebied is leeg: formatteer het eenmaal. Meld u af voordat u het station loskoppelt of de computer verlaat.</translation>
+    </message>
+    <message id="IDS_UNLOCKED_SETTINGS">
+        <source>&amp;Settings…</source>
+        <extracomment>Opens the settings of the drive</extracomment>
+        <translation>&amp;Instellingen…</translation>
+    </message>
+    <message id="IDS_UNLOCKED_LOG_OFF">
+        <source>&amp;Log Off</source>
+        <extracomment>Of the drive, not of the computer’s session</extracomment>
+        <translation>&amp;Afmelden</translation>
+    </message>
+    <message id="IDS_UNLOCKED_LOG_OFF_DESCRIPTION">
+        <source>Locks the drive and closes the program</source>
+        <translation>Vergrendelt het station en sluit het programma</translation>
+    </message>
+    <message id="IDS_UNLOCKED_KEEP">
+        <source>&amp;Keep Unlocked and Close</source>
+        <translation>&amp;Ontgrendeld laten en sluiten</translation>
+    </message>
+    <message id="IDS_UNLOCKED_KEEP_DESCRIPTION">
+        <source>Closes the program; the drive stays unlocked</source>
+        <translation>Sluit het programma; het station blijft ontgrendeld</translation>
+    </message>
+    <message id="IDS_UNLOCKING_TITLE">
+        <source>ZELTO DISK: Unlocked</source>
+        <translation>ZELTO DISK: ontgrendeld</translation>
+    </message>
+    <message id="IDS_UNLOCKING_HEADING">
+        <source>Your drive is unlocked.</source>
+        <translation>Uw station is ontgrendeld.</translation>
+    </message>
+    <message id="IDS_UNLOCKING_EXPLANATION">
+        <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off to lock it again, or keep it unlocked and go on working with it.</source>
+        <translation>Het beveiligde gebied is open en staat bij uw andere schijven. Een nieuw gebied is leeg: formatteer het eenmaal. Meld u af om het weer te vergrendelen, of laat het ontgrendeld en werk ermee verder.</translation>
+    </message>
+    <message id="IDS_UNLOCKING_SETTINGS">
+        <source>&amp;Settings…</source>
+        <translation>&amp;Instellingen…</translation>
+    </message>
+    <message id="IDS_UNLOCKING_KEEP">
+        <source>&amp;Keep Unlocked and Close</source>
+        <translation>&amp;Ontgrendeld laten en sluiten</translation>
+    </message>
+    <message id="IDS_UNLOCKING_KEEP_DESCRIPTION">
+        <source>Closes the program; the drive stays unlocked</source>
+        <translation>Sluit het programma; het station blijft ontgrendeld</translation>
+    </message>
+    <message id="IDS_UNLOCKING_LOG_OFF">
+        <source>&amp;Log Off</source>
+        <translation>&amp;Afmelden</translation>
+    </message>
+    <message id="IDS_UNLOCKING_LOG_OFF_DESCRIPTION">
+        <source>Locks the drive and closes the program</source>
+        <translation>Vergrendelt het station en sluit het programma</translation>
+    </message>
+    <message id="IDS_SETUP_TITLE">
+        <source>ZELTO DISK: Setting Up</source>
+        <translation>ZELTO DISK: instellen</translation>
+    </message>
+    <message id="IDS_SETUP_HEADING">
+        <source>Your drive is being set up.</source>
+        <translation>Uw station wordt ingesteld.</translation>
+    </message>
+    <message id="IDS_SETUP_EXPLANATION">
+        <source>This takes about a minute. Leave the drive plugged in until it is finished.</source>
+        <translation>Dit duurt ongeveer een minuut. Laat het station aangesloten tot het klaar is.</translation>
+    </message>
+    <message id="IDS_SETUP_STEPS_NAME">
+        <source>Steps of the set-up</source>
+        <translation>Stappen van het instellen</translation>
+    </message>
+    <message id="IDS_SETUP_PROGRESS_NAME">
+        <source>Progress of the set-up</source>
+        <translation>Voortgang van het instellen</translation>
+    </message>
+    <message id="IDS_SETUP_FINISH">
+        <source>&amp;Finish</source>
+        <translation>&amp;Voltooien</translation>
+    </message>
+    <message id="IDS_SIZE_MB">
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message id="IDS_SIZE_GB">
+        <source>%1 GB</source>
+        <extracomment>%1 has one decimal: 3.7</extracomment>
+        <translation>%1 GB</translation>
+    </message>
+    <message id="IDS_SIZE_TB">
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message id="IDS_BAR_NORMAL">
+        <source>normal area</source>
+        <extracomment>In a sentence: Disk1, normal area, 244 MB</extracomment>
+        <translation>normaal gebied</translation>
+    </message>
+    <message id="IDS_BAR_SECURE">
+        <source>secure area</source>
+        <translation>beveiligd gebied</translation>
+    </message>
+    <message id="IDS_BAR_TOOL">
+        <source>tool area</source>
+        <extracomment>The small area that carries this program</extracomment>
+        <translation>programmagebied</translation>
+    </message>
+    <message id="IDS_BAR_FREE">
+        <source>not used</source>
+        <extracomment>Of a part of the drive</extracomment>
+        <translation>niet gebruikt</translation>
+    </message>
+    <message id="IDS_BAR_NAMED">
+        <source>%1, %2, %3</source>
+        <extracomment>Disk1, secure area, 244 MB</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message id="IDS_BAR_UNNAMED">
+        <source>%1, %2</source>
+        <extracomment>not used, 244 MB</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="IDS_BAR_SEPARATOR">
+        <source>; </source>
+        <extracomment>Between the areas of the list: Disk1, normal area, 244 MB; not used, 244 MB</extracomment>
+        <translation>; </translation>
+    </message>
+    <message id="IDS_BAR_TOO_LARGE">
+        <source>together more than the drive can hold</source>
+        <extracomment>Last in that list</extracomment>
+        <translation>samen meer dan er op het station past</translation>
+    </message>
+    <message id="IDS_LIST_SEPARATOR">
+        <source>, </source>
+        <extracomment>Between the names of programs</extracomment>
+        <translation>, </translation>
+    </message>
+    <message id="IDS_TABLE_AREA">
+        <source>Area</source>
+        <extracomment>Head of a column: Disk1, Disk2, Disk3</extracomment>
+        <translation>Gebied</translation>
+    </message>
+    <message id="IDS_TABLE_KIND">
+        <source>Kind</source>
+        <extracomment>Head of a column: normal or secure</extracomment>
+        <translation>Soort</translation>
+    </message>
+    <message id="IDS_TABLE_CAPACITY">
+        <source>Capacity</source>
+        <extracomment>Head of a column</extracomment>
+        <translation>Capaciteit</translation>
+    </message>
+    <message id="IDS_STEP_SETTINGS">
+        <source>The settings are on the drive</source>
+        <extracomment>One step of the set-up; done or under way</extracomment>
+        <translation>De instellingen staan op het station</translation>
+    </message>
+    <message id="IDS_STEP_RESTART">
+        <source>The drive starts anew</source>
+        <translation>Het station start opnieuw</translation>
+    </message>
+    <message id="IDS_STEP_TOOL_AREA">
+        <source>The tool area appears</source>
+        <translation>Het programmagebied verschijnt</translation>
+    </message>
+    <message id="IDS_STEP_COPY">
+        <source>The tool area is formatted and this program copied</source>
+        <translation>Het programmagebied wordt geformatteerd en dit programma gekopieerd</translation>
+    </message>
+    <message id="IDS_STEP_FINISHED">
+        <source>Finished</source>
+        <translation>Voltooid</translation>
+    </message>
+    <message id="IDS_STEP_CURRENT">
+        <source>Step %1 of %2: %3</source>
+        <extracomment>Read aloud; %3 is one of the steps</extracomment>
+        <translation>Stap %1 van %2: %3</translation>
+    </message>
+    <message id="IDS_STEP_FAILED">
+        <source>Step %1 of %2 failed: %3</source>
+        <translation>Stap %1 van %2 mislukt: %3</translation>
+    </message>
+    <message id="IDS_FIELD_ENTRIES_MATCH">
+        <source>The two entries match.</source>
+        <translation>De twee invoeren zijn gelijk.</translation>
+    </message>
+    <message id="IDS_FIELD_ENTRIES_DIFFER">
+        <source>The two entries differ.</source>
+        <translation>De twee invoeren verschillen.</translation>
+    </message>
+    <message id="IDS_FIELD_DIGITS">
+        <source>%1 of 128 digits</source>
+        <translation>%1 van 128 cijfers</translation>
+    </message>
+    <message id="IDS_FIELD_DIGITS_ODD">
+        <source>%1 of 128 digits, one is missing</source>
+        <extracomment>Two digits make a byte; the number is odd</extracomment>
+        <translation>%1 van 128 cijfers, er ontbreekt er een</translation>
+    </message>
+    <message id="IDS_FIELD_REVEAL">
+        <source>Hold to see the password</source>
+        <extracomment>Of a button that is held down</extracomment>
+        <translation>Ingedrukt houden om het wachtwoord te zien</translation>
+    </message>
+    <message id="IDS_FIELD_CAPS_LOCK">
+        <source>Caps Lock seems to be on</source>
+        <extracomment>The key as it is called in the language</extracomment>
+        <translation>Caps Lock lijkt aan te staan</translation>
+    </message>
+    <message id="IDS_FIELD_PASTE">
+        <source>&amp;Paste</source>
+        <extracomment>In the menu of a field</extracomment>
+        <translation>&amp;Plakken</translation>
+    </message>
+    <message id="IDS_FIELD_SELECT_ALL">
+        <source>Select &amp;All</source>
+        <extracomment>In the menu of a field</extracomment>
+        <translation>&amp;Alles selecteren</translation>
+    </message>
+    <message id="IDS_AWAKE_SETUP">
+        <source>The drive is being set up</source>
+        <extracomment>Why the computer does not go to sleep now, shown by the desktop</extracomment>
+        <translation>Het station wordt ingesteld</translation>
+    </message>
+    <message id="IDS_AWAKE_PASSWORDS">
+        <source>The passwords are being changed</source>
+        <extracomment>Why the computer does not go to sleep now</extracomment>
+        <translation>De wachtwoorden worden gewijzigd</translation>
+    </message>
+    <message id="IDS_AWAKE_RELEASE">
+        <source>The drive’s volumes are being released</source>
+        <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
+        <translation>De volumes van het station worden ontkoppeld</translation>
+    </message>
+    <message id="IDS_RULE_TITLE">
+        <source>ZELTO DISK: Device Rule</source>
+        <translation>ZELTO DISK: apparaatregel</translation>
+    </message>
+    <message id="IDS_RULE_HEADING">
+        <source>Let this computer’s users use the drive.</source>
+        <translation>Laat de gebruikers van deze computer het station gebruiken.</translation>
+    </message>
+    <message id="IDS_RULE_EXPLANATION">
+        <source>An administrator enters this &amp;command in a terminal. It adds the device rule that it holds. Then plug the drive in again.</source>
+        <translation>&amp;Een beheerder voert deze opdracht in een terminal in. De opdracht voegt de apparaatregel toe die erin staat. Sluit het station daarna opnieuw aan.</translation>
+    </message>
+    <message id="IDS_RULE_CLOSE">
+        <source>C&amp;lose</source>
+        <translation>&amp;Sluiten</translation>
+    </message>
+    <message id="IDS_RULE_COPY">
+        <source>Co&amp;py Command</source>
+        <translation>&amp;Opdracht kopiëren</translation>
+    </message>
+    <message id="IDS_SELECT_SHOW_RULE">
+        <source>Show &amp;Rule…</source>
+        <translation>&amp;Regel tonen…</translation>
+    </message>
+    <message id="IDS_SELECT_SHOW_RULE_DESCRIPTION">
+        <source>Shows the device rule and the command that adds it to this computer</source>
+        <translation>Toont de apparaatregel en de opdracht die hem aan deze computer toevoegt</translation>
+    </message>
+    <message id="IDS_DRIVE_SERIAL">
+        <source>Serial number: %1</source>
+        <translation>Serienummer: %1</translation>
+    </message>
+    <message id="IDS_DRIVE_SERIAL_AND_PORT">
+        <source>Serial number: %1, in USB port %2</source>
+        <translation>Serienummer: %1, in USB-poort %2</translation>
+    </message>
+    <message id="IDS_DRIVE_PORT">
+        <source>No serial number, in USB port %1</source>
+        <translation>Geen serienummer, in USB-poort %1</translation>
+    </message>
+    <message id="IDS_STRENGTH_WEAK">
+        <source>Strength: weak</source>
+        <extracomment>Of a new password; a bar of four parts stands before it</extracomment>
+        <translation>Sterkte: zwak</translation>
+    </message>
+    <message id="IDS_STRENGTH_FAIR">
+        <source>Strength: fair</source>
+        <translation>Sterkte: redelijk</translation>
+    </message>
+    <message id="IDS_STRENGTH_GOOD">
+        <source>Strength: good</source>
+        <translation>Sterkte: goed</translation>
+    </message>
+    <message id="IDS_STRENGTH_STRONG">
+        <source>Strength: strong</source>
+        <translation>Sterkte: sterk</translation>
+    </message>
+    <message id="IDS_HELP_BUTTON">
+        <source>&amp;Help</source>
+        <extracomment>In every window; no other button there may have its underlined letter</extracomment>
+        <translation>&amp;Hulp</translation>
+    </message>
+    <message id="IDS_HELP_DESCRIPTION">
+        <source>Opens the manual’s page about this window (F1). This is version %1 of the program.</source>
+        <translation>Opent de pagina van de handleiding over dit venster (F1). Dit is versie %1 van het programma.</translation>
+    </message>
+    <message id="IDS_HINT_NO_MANUAL">
+        <source>The manual could not be opened: it was not found beside the program, or this computer has nothing to show it with.</source>
+        <translation>De handleiding kon niet worden geopend: ze staat niet bij het programma, of deze computer kan haar niet tonen.</translation>
+    </message>
+    <message id="IDS_HINT_VERSION">
+        <source>Version %1 of the program.</source>
+        <extracomment>Below messages that support is asked about</extracomment>
+        <translation>Versie %1 van het programma.</translation>
+    </message>
+</context>
+</TS>
