@@ -213,6 +213,7 @@ void AppDelegate::showSettingsCues() {
     show(*MainSettingsWindow.MainSettingsAreasCue, cues.areas);
     show(*MainSettingsWindow.MainSettingsClockCue, cues.clock);
     show(*MainSettingsWindow.MainSettingsPeriodsCue, cues.periods);
+    MainSettingsWindow.MainSettingsCommitCue->setWarns(Settings.InitialSetting);
     show(*MainSettingsWindow.MainSettingsCommitCue, cues.commit);
 }
 

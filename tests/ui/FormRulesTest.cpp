@@ -259,6 +259,23 @@ TEST_P(FormRules, F1AsksForHelpWhateverHasTheFocus) {
     }
 }
 
+TEST_P(FormRules, AControlIsDescribedByItsConsequence) {
+    for (auto* label : form->findChildren<ConsequenceLabel*>()) {
+        if (label->text().isEmpty()) {
+            label->setText(QStringLiteral("All will be lost."));
+        }
+    }
+    show();
+    for (const auto* label : form->findChildren<ConsequenceLabel*>()) {
+        auto* const control = form->findChild<QWidget*>(label->control());
+        ASSERT_NE(control, nullptr) << label->control().toStdString();
+        QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(control);
+        ASSERT_NE(heard, nullptr);
+        EXPECT_TRUE(heard->text(QAccessible::Description).contains(label->text()))
+            << label->control().toStdString();
+    }
+}
+
 TEST_P(FormRules, NothingHasAFixedSize) {
     for (const QWidget* widget : controlsOf(*form)) {
         const std::string name = widget->objectName().toStdString();

@@ -1,9 +1,12 @@
 #include "ui/Forms.h"
+#include "ui/Glyph.h"
 #include "ui/Strings.h"
 
 #include <QApplication>
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace zelto::test {
 namespace {
@@ -107,6 +110,39 @@ TEST(StrengthHintTest, TheBarGrowsWithTheStrengthFromTheSideThatIsReadFirst) {
         }
     }
 }
+
+class ConsequenceLabelTest : public ::testing::TestWithParam<Qt::LayoutDirection> {
+protected:
+    /// Where the sign is: the pixels of its colour, per half.
+    static std::pair<int, int> signsOf(ConsequenceLabel& label) {
+        label.resize(label.sizeHint());
+        const QImage picture = label.grab().toImage();
+        const QColor colour = warningColour(label.palette());
+        std::pair<int, int> found;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixelColor(x, y) == colour) {
+                    ++(x < picture.width() / 2 ? found.first : found.second);
+                }
+            }
+        }
+        return found;
+    }
+};
+
+TEST_P(ConsequenceLabelTest, ASignWarnsBeforeTheWords) {
+    ConsequenceLabel label;
+    label.setLayoutDirection(GetParam());
+    label.setText(QStringLiteral("Without its key the secure area can never be read again."));
+    auto [left, right] = signsOf(label);
+    EXPECT_EQ(left > 0, GetParam() == Qt::LeftToRight);
+    EXPECT_EQ(right > 0, GetParam() == Qt::RightToLeft);
+    label.setWarns(false);
+    EXPECT_EQ(signsOf(label), std::make_pair(0, 0));
+}
+
+INSTANTIATE_TEST_SUITE_P(BothDirections, ConsequenceLabelTest,
+                         ::testing::Values(Qt::LeftToRight, Qt::RightToLeft));
 
 TEST(DigitCountHintTest, CountsAndTellsAHalfByte) {
     Form<Ui::EncryptionKeyWindow> form;
