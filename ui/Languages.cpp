@@ -10,7 +10,7 @@
 namespace zelto {
 namespace {
 
-const QLatin1String English("en");
+const QLatin1String LastResort("en");
 
 bool canRead(const QLocale& wanted, const QString& language) {
     const QLocale available(language);
@@ -38,7 +38,7 @@ QString languageFor(const QStringList& wanted, const QStringList& available) {
             return *found;
         }
     }
-    return English;
+    return LastResort;
 }
 
 QStringList desktopLanguages() {
