@@ -145,7 +145,8 @@ private:
     [[nodiscard]] IOReturn altered(IOUSBDevRequest& request) {
         const IOReturn result = ForwardingDevice::DeviceRequest(request);
         if (request.wLength > 0) {
-            request.pData[m_input.takeByte() % request.wLength] = m_input.takeByte();
+            const std::size_t place = m_input.takeByte() % request.wLength;
+            request.pData[place] = m_input.takeByte();
         }
         return result == kIOReturnNoDevice ? result : kIOReturnSuccess;
     }
@@ -228,6 +229,7 @@ private:
             setup.secondPassword = "second";
         }
         if (which % 4 == 3) {
+            setup.areas[1].label = "PRIVATE";
             setup.autoClearSeconds = 86400;
             setup.showsRemainingTime = true;
         }
