@@ -1,8 +1,11 @@
 #include "tests/support/ControllerBench.h"
 
+#include "tests/support/AlertWeights.h"
 #include "ui/Strings.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace zelto::test {
 
@@ -18,7 +21,9 @@ ControllerBench::ControllerBench()
     });
 }
 
-ControllerBench::~ControllerBench() = default;
+ControllerBench::~ControllerBench() {
+    std::ranges::for_each(alerts.panels(), expectWeightOfWords);
+}
 
 ControllerBench::Drive ControllerBench::plugNewDrive(const std::string& serial,
                                                      std::uint64_t sectors) {

@@ -19,7 +19,8 @@ namespace zelto::test {
 
 /// A bench for tests of the whole controller: a virtual computer, alerts with scripted answers, the
 /// utility with its real windows, and somebody who drives them. Nothing sleeps and no real time
-/// passes. What that somebody cannot do fails the test.
+/// passes. What that somebody cannot do fails the test; so does an alert that looks more or less
+/// serious than what it says.
 class ControllerBench {
 public:
     using Drive = std::shared_ptr<simulator::DriveOnBus>;
