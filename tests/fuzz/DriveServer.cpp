@@ -58,9 +58,12 @@ public:
         m_typed = std::move(ends->first);
         m_terminal = std::move(ends->second);
         m_console->use(m_terminal.get(), m_terminal.get());
-        std::string error;
-        require(m_host->listen("127.0.0.1:0", error), "there is a port");
         const std::uint8_t shape = m_input.takeByte();
+        std::string error;
+        constexpr std::array Nowhere{"nowhere", "localhost:0", "192.0.2.1:0", "[x]:1"};
+        require(!m_host->listen(Nowhere.at(shape >> 4U & 3U), error) && !error.empty(),
+                "an address that is none is refused");
+        require(m_host->listen("127.0.0.1:0", error), "there is a port");
         if ((shape & 1U) != 0) {
             constexpr std::array<std::string_view, 4> Controllers{"free", "full", "none", "none"};
             const auto name = Controllers.at(shape >> 2U & 3U);
