@@ -29,6 +29,26 @@ protected:
     void TearDown() override { installStrings(QStringLiteral("en")); }
 };
 
+TEST_F(EveryLanguage, SaysAllThatTheEnglishSays) {
+    const auto english = textsOf(QStringLiteral("en"));
+    ASSERT_GE(textLanguages().size(), 15);
+    for (const QString& language : textLanguages()) {
+        SCOPED_TRACE(language.toStdString());
+        const auto texts = textsOf(language);
+        for (const auto& [id, message] : english) {
+            const auto found = texts.find(id);
+            if (found == texts.end()) {
+                ADD_FAILURE() << id.toStdString() << " is missing";
+                continue;
+            }
+            EXPECT_TRUE(language == u"en" || found->second.isFinished) << id.toStdString();
+            EXPECT_EQ(found->second.source.toStdString(), message.source.toStdString())
+                << id.toStdString() << ": the English has changed since";
+        }
+        EXPECT_EQ(texts.size(), english.size());
+    }
+}
+
 TEST_F(EveryLanguage, KeepsArgumentsAndNames) {
     for (const QString& language : textLanguages()) {
         if (language == QStringLiteral("en")) {
@@ -75,7 +95,7 @@ TEST_F(EveryLanguage, ThatIsNotThereIsRefusedAndEnglishStays) {
 
 // "&Erase Key...", as it reads.
 QString nameOfButton(const char* id) {
-    static const QRegularExpression added(QStringLiteral("\\(&\\w\\)|&|\u2026"));
+    static const QRegularExpression added(QStringLiteral("\\s*\\(&.\\)|&|\u2026"));
     return localized(id).remove(added).trimmed();
 }
 

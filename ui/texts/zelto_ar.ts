@@ -365,7 +365,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_AREAS_DISK1">
         <source>Disk&amp;1:</source>
         <extracomment>Disk1, Disk2 and Disk3 are given names: never translated</extracomment>
-        <translation>Disk&amp;1:</translation>
+        <translation>‏Disk&amp;1:</translation>
     </message>
     <message id="IDS_AREAS_DISK1_UNIT">
         <source>MB</source>
@@ -374,7 +374,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_DISK1_SECURE">
         <source>&amp;Secure area</source>
-        <translation>منط&amp;قة آمنة</translation>
+        <translation>منطقة آمنة (&amp;ق)</translation>
     </message>
     <message id="IDS_AREAS_DISK1_SECURE_NAME">
         <source>Disk1 is a secure area</source>
@@ -382,7 +382,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_DISK2">
         <source>Disk&amp;2:</source>
-        <translation>Disk&amp;2:</translation>
+        <translation>‏Disk&amp;2:</translation>
     </message>
     <message id="IDS_AREAS_DISK2_UNIT">
         <source>MB</source>
@@ -390,7 +390,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_DISK2_SECURE">
         <source>S&amp;ecure area</source>
-        <translation>من&amp;طقة آمنة</translation>
+        <translation>منطقة آمنة (&amp;ط)</translation>
     </message>
     <message id="IDS_AREAS_DISK2_SECURE_NAME">
         <source>Disk2 is a secure area</source>
@@ -398,7 +398,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_DISK3">
         <source>Disk&amp;3:</source>
-        <translation>Disk&amp;3:</translation>
+        <translation>‏Disk&amp;3:</translation>
     </message>
     <message id="IDS_AREAS_DISK3_UNIT">
         <source>MB</source>
@@ -406,7 +406,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_DISK3_SECURE">
         <source>Secure &amp;area</source>
-        <translation>م&amp;نطقة آمنة</translation>
+        <translation>منطقة آمنة (&amp;ن)</translation>
     </message>
     <message id="IDS_AREAS_DISK3_SECURE_NAME">
         <source>Disk3 is a secure area</source>
@@ -418,11 +418,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_CANCEL">
         <source>&amp;Cancel</source>
-        <translation>إ&amp;لغاء</translation>
+        <translation>إلغاء (&amp;ل)</translation>
     </message>
     <message id="IDS_AREAS_OK">
         <source>&amp;OK</source>
-        <translation>م&amp;وافق</translation>
+        <translation>موافق (&amp;و)</translation>
     </message>
     <message id="IDS_LOGIN_TITLE">
         <source>ZELTO DISK: Log In</source>
@@ -434,7 +434,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_LOGIN_PASSWORD">
         <source>&amp;Password:</source>
-        <translation>&amp;كلمة السر:</translation>
+        <translation>كلمة السر (&amp;ك):</translation>
     </message>
     <message id="IDS_LOGIN_CLOCK">
         <source>Drive’s clock:</source>
@@ -455,11 +455,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_LOGIN_CANCEL">
         <source>&amp;Cancel</source>
-        <translation>إ&amp;لغاء</translation>
+        <translation>إلغاء (&amp;ل)</translation>
     </message>
     <message id="IDS_LOGIN_SUBMIT">
         <source>&amp;Log In</source>
-        <translation>&amp;تسجيل الدخول</translation>
+        <translation>تسجيل الدخول (&amp;ت)</translation>
     </message>
     <message id="IDS_KEY_TITLE">
         <source>ZELTO DISK: Encryption Key</source>
@@ -476,15 +476,15 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_KEY_KEY">
         <source>&amp;Key:</source>
         <extracomment>The encryption key; a field follows</extracomment>
-        <translation>&amp;المفتاح:</translation>
+        <translation>المفتاح (&amp;ا):</translation>
     </message>
     <message id="IDS_KEY_CANCEL">
         <source>&amp;Cancel</source>
-        <translation>إ&amp;لغاء</translation>
+        <translation>إلغاء (&amp;ل)</translation>
     </message>
     <message id="IDS_KEY_OK">
         <source>&amp;OK</source>
-        <translation>م&amp;وافق</translation>
+        <translation>موافق (&amp;و)</translation>
     </message>
     <message id="IDS_SETTINGS_TITLE">
         <source>ZELTO DISK: Settings</source>
@@ -497,7 +497,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETTINGS_DRIVE">
         <source>Dri&amp;ve:</source>
-        <translation>&amp;القرص:</translation>
+        <translation>القرص (&amp;ا):</translation>
     </message>
     <message id="IDS_SETTINGS_COMPUTER_CLOCK">
         <source>Computer’s clock:</source>
@@ -517,7 +517,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETTINGS_SET_CLOCK">
         <source>&amp;Set Clock</source>
-        <translation>&amp;ضبط الساعة</translation>
+        <translation>ضبط الساعة (&amp;ض)</translation>
     </message>
     <message id="IDS_SETTINGS_SET_CLOCK_DESCRIPTION">
         <source>Sets the drive’s clock to the computer’s time</source>
@@ -545,7 +545,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETTINGS_AREAS">
         <source>&amp;Areas…</source>
-        <translation>ا&amp;لمناطق…</translation>
+        <translation>المناطق (&amp;ل)…</translation>
     </message>
     <message id="IDS_SETTINGS_PROTECTION_GROUP">
         <source>Protection of the secure area</source>
@@ -557,7 +557,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETTINGS_PASSWORDS">
         <source>&amp;Passwords…</source>
-        <translation>&amp;كلمات السر…</translation>
+        <translation>كلمات السر (&amp;ك)…</translation>
     </message>
     <message id="IDS_SETTINGS_KEY_LABEL">
         <source>Encryption key:</source>
@@ -570,16 +570,16 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_SETTINGS_KEY_BY_DRIVE">
         <source>&amp;Made by the drive</source>
         <extracomment>The encryption key</extracomment>
-        <translation>ي&amp;نشئه القرص</translation>
+        <translation>ينشئه القرص (&amp;ن)</translation>
     </message>
     <message id="IDS_SETTINGS_KEY_BY_HAND">
         <source>&amp;Entered by hand</source>
         <extracomment>The encryption key</extracomment>
-        <translation>يُ&amp;دخل يدويًا</translation>
+        <translation>يُدخل يدويًا (&amp;د)</translation>
     </message>
     <message id="IDS_SETTINGS_ENTER_KEY">
         <source>Enter &amp;Key…</source>
-        <translation>إد&amp;خال المفتاح…</translation>
+        <translation>إدخال المفتاح (&amp;خ)…</translation>
     </message>
     <message id="IDS_SETTINGS_AUTOMATIC_GROUP">
         <source>Automatic protection</source>
@@ -588,7 +588,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_SETTINGS_AUTO_CLEAR">
         <source>Erase the key af&amp;ter</source>
         <extracomment>Reads on: [12] (•) days ( ) minutes</extracomment>
-        <translation>محو المفتاح &amp;بعد</translation>
+        <translation>محو المفتاح بعد (&amp;ب)</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_CLEAR_PERIOD_NAME">
         <source>Period until the key is erased</source>
@@ -601,17 +601,17 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_SETTINGS_AUTO_CLEAR_DAYS">
         <source>&amp;days</source>
         <extracomment>Ends the line “Erase the key after [12]”</extracomment>
-        <translation>&amp;يوم</translation>
+        <translation>يوم (&amp;ي)</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_CLEAR_MINUTES">
         <source>m&amp;inutes</source>
         <extracomment>Ends the line “Erase the key after [12]”</extracomment>
-        <translation>د&amp;قيقة</translation>
+        <translation>دقيقة (&amp;ق)</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF">
         <source>Lo&amp;g off after</source>
         <extracomment>Reads on: [12] minutes without use</extracomment>
-        <translation>&amp;تسجيل الخروج بعد</translation>
+        <translation>تسجيل الخروج بعد (&amp;ت)</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
         <source>Minutes without use until the drive logs off</source>
@@ -624,7 +624,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETTINGS_SHOW_REMAINING_TIME">
         <source>Show the &amp;remaining time at log-in</source>
-        <translation>إظهار الوقت المتبقي &amp;عند تسجيل الدخول</translation>
+        <translation>إظهار الوقت المتبقي عند تسجيل الدخول (&amp;ع)</translation>
     </message>
     <message id="IDS_SETTINGS_ERASE_GROUP">
         <source>Erase</source>
@@ -637,7 +637,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETTINGS_ERASE_KEY">
         <source>Erase Ke&amp;y…</source>
-        <translation>م&amp;حو المفتاح…</translation>
+        <translation>محو المفتاح (&amp;ح)…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
         <source>Clearing removes every area, password and setting.</source>
@@ -645,15 +645,15 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>
-        <translation>م&amp;سح الكل…</translation>
+        <translation>مسح الكل (&amp;س)…</translation>
     </message>
     <message id="IDS_SETTINGS_CANCEL">
         <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;غ)</translation>
     </message>
     <message id="IDS_SETTINGS_OK">
         <source>&amp;OK</source>
-        <translation>م&amp;وافق</translation>
+        <translation>موافق (&amp;و)</translation>
     </message>
     <message id="IDS_CHANGE_TITLE">
         <source>ZELTO DISK: Change Passwords</source>
@@ -673,11 +673,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_CHANGE_FIRST_ONLY">
         <source>First password &amp;only</source>
-        <translation>كلمة السر الأولى &amp;فقط</translation>
+        <translation>كلمة السر الأولى فقط (&amp;ف)</translation>
     </message>
     <message id="IDS_CHANGE_FIRST_AND_SECOND">
         <source>First &amp;and second password</source>
-        <translation>&amp;كلمتا السر الأولى والثانية</translation>
+        <translation>كلمتا السر الأولى والثانية (&amp;ك)</translation>
     </message>
     <message id="IDS_CHANGE_FIRST_GROUP">
         <source>First password</source>
@@ -686,17 +686,17 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_CHANGE_FIRST_CURRENT">
         <source>&amp;Current:</source>
         <extracomment>The current first password</extracomment>
-        <translation>الحال&amp;ية:</translation>
+        <translation>الحالية (&amp;ي):</translation>
     </message>
     <message id="IDS_CHANGE_FIRST_NEW">
         <source>&amp;New:</source>
         <extracomment>The new first password</extracomment>
-        <translation>الج&amp;ديدة:</translation>
+        <translation>الجديدة (&amp;د):</translation>
     </message>
     <message id="IDS_CHANGE_FIRST_AGAIN">
         <source>New a&amp;gain:</source>
         <extracomment>The new first password again</extracomment>
-        <translation>ال&amp;جديدة مجددًا:</translation>
+        <translation>الجديدة مجددًا (&amp;ج):</translation>
     </message>
     <message id="IDS_CHANGE_SECOND_GROUP">
         <source>Second password</source>
@@ -704,20 +704,20 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_CHANGE_SECOND_CURRENT">
         <source>C&amp;urrent:</source>
-        <translation>ال&amp;حالية:</translation>
+        <translation>الحالية (&amp;ح):</translation>
     </message>
     <message id="IDS_CHANGE_SECOND_NEW">
         <source>N&amp;ew:</source>
-        <translation>ا&amp;لجديدة:</translation>
+        <translation>الجديدة (&amp;ل):</translation>
     </message>
     <message id="IDS_CHANGE_SECOND_AGAIN">
         <source>New aga&amp;in:</source>
-        <translation>&amp;الجديدة مجددًا:</translation>
+        <translation>الجديدة مجددًا (&amp;ا):</translation>
     </message>
     <message id="IDS_CHANGE_TRIES">
         <source>&amp;Tries allowed:</source>
         <extracomment>How often a wrong second password may be entered</extracomment>
-        <translation>المحا&amp;ولات المسموحة:</translation>
+        <translation>المحاولات المسموحة (&amp;و):</translation>
     </message>
     <message id="IDS_CHANGE_TRIES_PLACEHOLDER">
         <source>1–99</source>
@@ -725,11 +725,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_CHANGE_CANCEL">
         <source>Cance&amp;l</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;غ)</translation>
     </message>
     <message id="IDS_CHANGE_OK">
         <source>O&amp;K</source>
-        <translation>مواف&amp;ق</translation>
+        <translation>موافق (&amp;ق)</translation>
     </message>
     <message id="IDS_PASSWORDS_TITLE">
         <source>ZELTO DISK: Passwords</source>
@@ -749,11 +749,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_PASSWORDS_FIRST_ONLY">
         <source>First password &amp;only</source>
-        <translation>كلمة السر الأولى &amp;فقط</translation>
+        <translation>كلمة السر الأولى فقط (&amp;ف)</translation>
     </message>
     <message id="IDS_PASSWORDS_FIRST_AND_SECOND">
         <source>First &amp;and second password</source>
-        <translation>&amp;كلمتا السر الأولى والثانية</translation>
+        <translation>كلمتا السر الأولى والثانية (&amp;ك)</translation>
     </message>
     <message id="IDS_PASSWORDS_FIRST_GROUP">
         <source>First password</source>
@@ -761,12 +761,12 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_PASSWORDS_FIRST">
         <source>&amp;Password:</source>
-        <translation>كلمة ال&amp;سر:</translation>
+        <translation>كلمة السر (&amp;س):</translation>
     </message>
     <message id="IDS_PASSWORDS_FIRST_AGAIN">
         <source>A&amp;gain:</source>
         <extracomment>The password again</extracomment>
-        <translation>مج&amp;ددًا:</translation>
+        <translation>مجددًا (&amp;د):</translation>
     </message>
     <message id="IDS_PASSWORDS_SECOND_GROUP">
         <source>Second password</source>
@@ -774,15 +774,15 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_PASSWORDS_SECOND">
         <source>Pass&amp;word:</source>
-        <translation>كلمة &amp;السر:</translation>
+        <translation>كلمة السر (&amp;ا):</translation>
     </message>
     <message id="IDS_PASSWORDS_SECOND_AGAIN">
         <source>Aga&amp;in:</source>
-        <translation>م&amp;جددًا:</translation>
+        <translation>مجددًا (&amp;ج):</translation>
     </message>
     <message id="IDS_PASSWORDS_TRIES">
         <source>&amp;Tries allowed:</source>
-        <translation>ا&amp;لمحاولات المسموحة:</translation>
+        <translation>المحاولات المسموحة (&amp;ل):</translation>
     </message>
     <message id="IDS_PASSWORDS_TRIES_PLACEHOLDER">
         <source>1–99</source>
@@ -790,11 +790,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_PASSWORDS_CANCEL">
         <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;غ)</translation>
     </message>
     <message id="IDS_PASSWORDS_OK">
         <source>O&amp;K</source>
-        <translation>م&amp;وافق</translation>
+        <translation>موافق (&amp;و)</translation>
     </message>
     <message id="IDS_SELECT_TITLE">
         <source>ZELTO DISK</source>
@@ -811,11 +811,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_SELECT_DRIVE">
         <source>&amp;Drive:</source>
         <extracomment>The USB drive as a whole: a list follows</extracomment>
-        <translation>ا&amp;لقرص:</translation>
+        <translation>القرص (&amp;ل):</translation>
     </message>
     <message id="IDS_SELECT_LOOK_AGAIN">
         <source>&amp;Look Again</source>
-        <translation>&amp;بحث مجدد</translation>
+        <translation>بحث مجدد (&amp;ب)</translation>
     </message>
     <message id="IDS_SELECT_LOOK_AGAIN_DESCRIPTION">
         <source>Looks again for drives that were plugged in meanwhile</source>
@@ -823,11 +823,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SELECT_CANCEL">
         <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;غ)</translation>
     </message>
     <message id="IDS_SELECT_OK">
         <source>&amp;OK</source>
-        <translation>م&amp;وافق</translation>
+        <translation>موافق (&amp;و)</translation>
     </message>
     <message id="IDS_UNLOCKED_TITLE">
         <source>ZELTO DISK: Unlocked</source>
@@ -844,12 +844,12 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_UNLOCKED_SETTINGS">
         <source>&amp;Settings…</source>
         <extracomment>Opens the settings of the drive</extracomment>
-        <translation>ا&amp;لإعدادات…</translation>
+        <translation>الإعدادات (&amp;ل)…</translation>
     </message>
     <message id="IDS_UNLOCKED_LOG_OFF">
         <source>&amp;Log Off</source>
         <extracomment>Of the drive, not of the computer’s session</extracomment>
-        <translation>&amp;تسجيل الخروج</translation>
+        <translation>تسجيل الخروج (&amp;ت)</translation>
     </message>
     <message id="IDS_UNLOCKED_LOG_OFF_DESCRIPTION">
         <source>Locks the drive and closes the program</source>
@@ -857,7 +857,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_UNLOCKED_KEEP">
         <source>&amp;Keep Unlocked and Close</source>
-        <translation>إبقاء &amp;القفل مفتوحًا والإغلاق</translation>
+        <translation>إبقاء القفل مفتوحًا والإغلاق (&amp;ا)</translation>
     </message>
     <message id="IDS_UNLOCKED_KEEP_DESCRIPTION">
         <source>Closes the program; the drive stays unlocked</source>
@@ -877,11 +877,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_UNLOCKING_SETTINGS">
         <source>&amp;Settings…</source>
-        <translation>ا&amp;لإعدادات…</translation>
+        <translation>الإعدادات (&amp;ل)…</translation>
     </message>
     <message id="IDS_UNLOCKING_KEEP">
         <source>&amp;Keep Unlocked and Close</source>
-        <translation>إبقاء &amp;القفل مفتوحًا والإغلاق</translation>
+        <translation>إبقاء القفل مفتوحًا والإغلاق (&amp;ا)</translation>
     </message>
     <message id="IDS_UNLOCKING_KEEP_DESCRIPTION">
         <source>Closes the program; the drive stays unlocked</source>
@@ -889,7 +889,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_UNLOCKING_LOG_OFF">
         <source>&amp;Log Off</source>
-        <translation>&amp;تسجيل الخروج</translation>
+        <translation>تسجيل الخروج (&amp;ت)</translation>
     </message>
     <message id="IDS_UNLOCKING_LOG_OFF_DESCRIPTION">
         <source>Locks the drive and closes the program</source>
@@ -917,7 +917,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETUP_FINISH">
         <source>&amp;Finish</source>
-        <translation>إ&amp;نهاء</translation>
+        <translation>إنهاء (&amp;ن)</translation>
     </message>
     <message id="IDS_SIZE_MB">
         <source>%1 MB</source>
@@ -1051,12 +1051,12 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>
         <extracomment>In the menu of a field</extracomment>
-        <translation>&amp;لصق</translation>
+        <translation>لصق (&amp;ل)</translation>
     </message>
     <message id="IDS_FIELD_SELECT_ALL">
         <source>Select &amp;All</source>
         <extracomment>In the menu of a field</extracomment>
-        <translation>&amp;تحديد الكل</translation>
+        <translation>تحديد الكل (&amp;ت)</translation>
     </message>
     <message id="IDS_AWAKE_SETUP">
         <source>The drive is being set up</source>
@@ -1083,19 +1083,19 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_RULE_EXPLANATION">
         <source>An administrator enters this &amp;command in a terminal. It adds the device rule that it holds. Then plug the drive in again.</source>
-        <translation>&amp;يُدخل المدير هذا الأمر في طرفية. يضيف الأمر قاعدة الجهاز التي يحتويها. صِل القرص من جديد بعد ذلك.</translation>
+        <translation>يُدخل المدير هذا الأمر في طرفية. يضيف الأمر قاعدة الجهاز التي يحتويها. صِل القرص من جديد بعد ذلك. (&amp;ي)</translation>
     </message>
     <message id="IDS_RULE_CLOSE">
         <source>C&amp;lose</source>
-        <translation>إ&amp;غلاق</translation>
+        <translation>إغلاق (&amp;غ)</translation>
     </message>
     <message id="IDS_RULE_COPY">
         <source>Co&amp;py Command</source>
-        <translation>&amp;نسخ الأمر</translation>
+        <translation>نسخ الأمر (&amp;ن)</translation>
     </message>
     <message id="IDS_SELECT_SHOW_RULE">
         <source>Show &amp;Rule…</source>
-        <translation>إظهار &amp;القاعدة…</translation>
+        <translation>إظهار القاعدة (&amp;ا)…</translation>
     </message>
     <message id="IDS_SELECT_SHOW_RULE_DESCRIPTION">
         <source>Shows the device rule and the command that adds it to this computer</source>
@@ -1133,7 +1133,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_HELP_BUTTON">
         <source>&amp;Help</source>
         <extracomment>In every window; no other button there may have its underlined letter</extracomment>
-        <translation>&amp;مساعدة</translation>
+        <translation>مساعدة (&amp;م)</translation>
     </message>
     <message id="IDS_HELP_DESCRIPTION">
         <source>Opens the manual’s page about this window (F1). This is version %1 of the program.</source>

@@ -23,7 +23,7 @@
     </message>
     <message id="IDS_ENTER_1ST_PASSWORD">
         <source>Enter the password; the first one if the drive has two.</source>
-        <translation>Saisissez le mot de passe ; le premier si le disque en a deux.</translation>
+        <translation>Saisissez le mot de passe&#xa0;; le premier si le disque en a deux.</translation>
     </message>
     <message id="IDS_ENTER_2ND_PASSWORD">
         <source>Enter the second password.</source>
@@ -34,31 +34,31 @@
 
 Set the drive’s clock to this computer’s time, %1? Check first that this time is right. If the drive still has its key, you can log in to it afterwards.</source>
         <extracomment>%1 is a date and time</extracomment>
-        <translation>L’horloge du disque s’est arrêtée ; le disque s’est donc verrouillé.
+        <translation>L’horloge du disque s’est arrêtée&#xa0;; le disque s’est donc verrouillé.
 
-Régler l’horloge du disque sur l’heure de cet ordinateur, %1 ? Vérifiez d’abord que cette heure est exacte. Si le disque a encore sa clé, vous pourrez ensuite vous y connecter.</translation>
+Régler l’horloge du disque sur l’heure de cet ordinateur, %1&#xa0;? Vérifiez d’abord que cette heure est exacte. Si le disque a encore sa clé, vous pourrez ensuite vous y connecter.</translation>
     </message>
     <message id="IDS_SET_CURRENT_YIME">
         <source>The drive’s clock has been set. The program now closes. Start it again: it then says whether you can log in.</source>
-        <translation>L’horloge du disque a été réglée. Le programme va se fermer. Relancez-le : il vous dira si vous pouvez vous connecter.</translation>
+        <translation>L’horloge du disque a été réglée. Le programme va se fermer. Relancez-le&#xa0;: il vous dira si vous pouvez vous connecter.</translation>
     </message>
     <message id="IDS_ERR_ZELTO_DRIVE_LOST">
         <source>The drive has locked itself for good and its key is gone: after too many wrong passwords, because its time ran out, or because the key was erased. What was in the secure area cannot be read any more, by anyone.
 
 To use the drive again, start this program if it has closed, choose “Clear All” in the settings, then plug the drive out and in and start the program once more to set it up.</source>
-        <translation>Le disque s’est verrouillé définitivement et sa clé est perdue : après trop de mots de passe erronés, parce que son délai a expiré ou parce que la clé a été effacée. Plus personne ne peut lire ce que contenait la zone sécurisée.
+        <translation>Le disque s’est verrouillé définitivement et sa clé est perdue&#xa0;: après trop de mots de passe erronés, parce que son délai a expiré ou parce que la clé a été effacée. Plus personne ne peut lire ce que contenait la zone sécurisée.
 
-Pour réutiliser le disque, relancez ce programme s’il s’est fermé, choisissez « Tout effacer » dans les paramètres, puis débranchez et rebranchez le disque et relancez le programme pour le configurer.</translation>
+Pour réutiliser le disque, relancez ce programme s’il s’est fermé, choisissez «&#xa0;Tout effacer&#xa0;» dans les paramètres, puis débranchez et rebranchez le disque et relancez le programme pour le configurer.</translation>
     </message>
     <message id="IDS_ERR_AUTHENTICATE_FAILED">
         <source>This password is not right. Check Caps Lock and try again; the drive may allow only a few tries.</source>
-        <translation>Ce mot de passe est incorrect. Vérifiez la touche Verr. Maj et réessayez ; le disque n’autorise peut-être que quelques essais.</translation>
+        <translation>Ce mot de passe est incorrect. Vérifiez la touche Verr. Maj et réessayez&#xa0;; le disque n’autorise peut-être que quelques essais.</translation>
     </message>
     <message id="IDS_ERR_UNMOUNT">
         <source>The drive’s volumes could not be released; most often a program still uses a file on them. Nothing else was done: a drive that was unlocked is still unlocked.
 
 Close all files and windows that show the drive, then try again. Start this program again if it has closed.</source>
-        <translation>Les volumes du disque n’ont pas pu être démontés ; le plus souvent, un programme y utilise encore un fichier. Rien d’autre n’a été fait : un disque déverrouillé l’est toujours.
+        <translation>Les volumes du disque n’ont pas pu être démontés&#xa0;; le plus souvent, un programme y utilise encore un fichier. Rien d’autre n’a été fait&#xa0;: un disque déverrouillé l’est toujours.
 
 Fermez tous les fichiers et toutes les fenêtres qui montrent le disque, puis réessayez. Relancez ce programme s’il s’est fermé.</translation>
     </message>
@@ -69,7 +69,7 @@ For support: sense key %1, code %2, qualifier %3.</source>
         <extracomment>Numbers that identify an error</extracomment>
         <translation>Le disque n’a pas exécuté cette opération. Si cela se reproduit, fermez ce programme, débranchez et rebranchez le disque, puis relancez le programme.
 
-Pour l’assistance : clé de détection %1, code %2, qualificatif %3.</translation>
+Pour l’assistance&#xa0;: clé de détection %1, code %2, qualificatif %3.</translation>
     </message>
     <message id="IDS_COMMAND_FAIL">
         <source>The drive does not answer. Close this program, plug the drive out and in, and start the program again.</source>
@@ -102,7 +102,7 @@ Pour l’assistance : clé de détection %1, code %2, qualificatif %3.</transla
     </message>
     <message id="IDS_TIME_SYNC_COMPLETE">
         <source>The drive’s clock has been set to this computer’s time. The program now closes; start it again to go on.</source>
-        <translation>L’horloge du disque a été réglée sur l’heure de cet ordinateur. Le programme va se fermer ; relancez-le pour continuer.</translation>
+        <translation>L’horloge du disque a été réglée sur l’heure de cet ordinateur. Le programme va se fermer&#xa0;; relancez-le pour continuer.</translation>
     </message>
     <message id="IDS_NOW_SETTING">
         <source>Setting up the drive. Please do not unplug it.</source>
@@ -111,11 +111,11 @@ Pour l’assistance : clé de détection %1, code %2, qualificatif %3.</transla
     </message>
     <message id="IDS_SETTING_COMPLETE">
         <source>The drive is set up. Its areas are still blank: format each once before you use it, a secure one after you have logged in.</source>
-        <translation>Le disque est configuré. Ses zones sont encore vierges : formatez chacune une fois avant de l’utiliser, la zone sécurisée après vous être connecté.</translation>
+        <translation>Le disque est configuré. Ses zones sont encore vierges&#xa0;: formatez chacune une fois avant de l’utiliser, la zone sécurisée après vous être connecté.</translation>
     </message>
     <message id="IDS_ERR_FORMAT">
         <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
-        <translation>Le disque est configuré et peut être utilisé. Seule sa zone d’outils n’a pas pu être formatée, il ne contient donc pas ce programme : utilisez le disque avec le programme de cet ordinateur.</translation>
+        <translation>Le disque est configuré et peut être utilisé. Seule sa zone d’outils n’a pas pu être formatée, il ne contient donc pas ce programme&#xa0;: utilisez le disque avec le programme de cet ordinateur.</translation>
     </message>
     <message id="IDS_ERR_FILE_COPY">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
@@ -123,14 +123,14 @@ Pour l’assistance : clé de détection %1, code %2, qualificatif %3.</transla
 From: %1
 To: %2</source>
         <extracomment>%1 and %2 are names of files</extracomment>
-        <translation>Le disque est configuré et peut être utilisé. Seul ce programme n’a pas pu être copié dans sa zone d’outils : utilisez le disque avec le programme de cet ordinateur.
+        <translation>Le disque est configuré et peut être utilisé. Seul ce programme n’a pas pu être copié dans sa zone d’outils&#xa0;: utilisez le disque avec le programme de cet ordinateur.
 
-De : %1
-Vers : %2</translation>
+De&#xa0;: %1
+Vers&#xa0;: %2</translation>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
-        <translation>Le disque n’est pas devenu prêt ; rien n’y a été modifié. Le programme va se fermer. Débranchez et rebranchez le disque, puis relancez le programme.</translation>
+        <translation>Le disque n’est pas devenu prêt&#xa0;; rien n’y a été modifié. Le programme va se fermer. Débranchez et rebranchez le disque, puis relancez le programme.</translation>
     </message>
     <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
         <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
@@ -138,11 +138,11 @@ Vers : %2</translation>
     </message>
     <message id="IDS_ERR_CURRENT_1ST_PASSWORD_INVALID">
         <source>The current first password is not right, so the first password was not changed. If you are changing two passwords, the second one has been changed already: from now on its current password is the new one. Check Caps Lock and enter the passwords again.</source>
-        <translation>Le premier mot de passe actuel est incorrect ; le premier mot de passe n’a donc pas été modifié. Si vous modifiez deux mots de passe, le second l’a déjà été : désormais, son mot de passe actuel est le nouveau. Vérifiez la touche Verr. Maj et saisissez de nouveau les mots de passe.</translation>
+        <translation>Le premier mot de passe actuel est incorrect&#xa0;; le premier mot de passe n’a donc pas été modifié. Si vous modifiez deux mots de passe, le second l’a déjà été&#xa0;: désormais, son mot de passe actuel est le nouveau. Vérifiez la touche Verr. Maj et saisissez de nouveau les mots de passe.</translation>
     </message>
     <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
         <source>The current second password is not right, so no password was changed. Check Caps Lock and enter it again.</source>
-        <translation>Le second mot de passe actuel est incorrect ; aucun mot de passe n’a donc été modifié. Vérifiez la touche Verr. Maj et saisissez-le de nouveau.</translation>
+        <translation>Le second mot de passe actuel est incorrect&#xa0;; aucun mot de passe n’a donc été modifié. Vérifiez la touche Verr. Maj et saisissez-le de nouveau.</translation>
     </message>
     <message id="IDS_ERR_ZELTO_NOT_UNLOCKING">
         <source>The drive is locked. Log in to it first, then try again.</source>
@@ -152,7 +152,7 @@ Vers : %2</translation>
         <source>Clear everything on this drive?
 
 All areas with all their files, all passwords and all settings will be gone. This cannot be undone.</source>
-        <translation>Effacer tout le contenu de ce disque ?
+        <translation>Effacer tout le contenu de ce disque&#xa0;?
 
 Toutes les zones avec tous leurs fichiers, tous les mots de passe et tous les paramètres seront perdus. Cette action est irréversible.</translation>
     </message>
@@ -160,19 +160,19 @@ Toutes les zones avec tous leurs fichiers, tous les mots de passe et tous les pa
         <source>Erase the encryption key of this drive?
 
 Everything in the secure area becomes unreadable for good, even with the right password. This cannot be undone.</source>
-        <translation>Effacer la clé de chiffrement de ce disque ?
+        <translation>Effacer la clé de chiffrement de ce disque&#xa0;?
 
 Tout le contenu de la zone sécurisée deviendra définitivement illisible, même avec le bon mot de passe. Cette action est irréversible.</translation>
     </message>
     <message id="IDS_TOTAL_CAPACITY">
         <source>Total: %1 MB</source>
         <extracomment>%1 is a whole number of MB</extracomment>
-        <translation>Total : %1 Mo</translation>
+        <translation>Total&#xa0;: %1 Mo</translation>
     </message>
     <message id="IDS_FREE_CAPACITY">
         <source>Free: %1 MB</source>
         <extracomment>%1 is a whole number of MB</extracomment>
-        <translation>Libre : %1 Mo</translation>
+        <translation>Libre&#xa0;: %1 Mo</translation>
     </message>
     <message id="IDS_CAPACITY_OVER">
         <source>The areas are larger than the drive.</source>
@@ -213,15 +213,15 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
         <extracomment>%1 is a list of programs</extracomment>
-        <translation>Utilisent encore le disque : %1</translation>
+        <translation>Utilisent encore le disque&#xa0;: %1</translation>
     </message>
     <message id="IDS_HINT_NEXT_AREAS">
         <source>Next: lay out the areas.</source>
-        <translation>Étape suivante : répartir les zones.</translation>
+        <translation>Étape suivante&#xa0;: répartir les zones.</translation>
     </message>
     <message id="IDS_HINT_NEXT_PASSWORDS">
         <source>Next: choose the passwords.</source>
-        <translation>Étape suivante : choisir les mots de passe.</translation>
+        <translation>Étape suivante&#xa0;: choisir les mots de passe.</translation>
     </message>
     <message id="IDS_HINT_NOTHING_CHANGED">
         <source>Nothing has been changed yet.</source>
@@ -229,15 +229,15 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_AUTO_CLEAR_DAYS">
         <source>Erase the key after: enter 1 to 9999 days.</source>
-        <translation>Effacer la clé après : saisissez 1 à 9999 jours.</translation>
+        <translation>Effacer la clé après&#xa0;: saisissez 1 à 9999 jours.</translation>
     </message>
     <message id="IDS_HINT_AUTO_CLEAR_MINUTES">
         <source>Erase the key after: enter 1 to 999 minutes.</source>
-        <translation>Effacer la clé après : saisissez 1 à 999 minutes.</translation>
+        <translation>Effacer la clé après&#xa0;: saisissez 1 à 999 minutes.</translation>
     </message>
     <message id="IDS_HINT_AUTO_LOG_OFF_MINUTES">
         <source>Log off after: enter 1 to 999 minutes.</source>
-        <translation>Se déconnecter après : saisissez 1 à 999 minutes.</translation>
+        <translation>Se déconnecter après&#xa0;: saisissez 1 à 999 minutes.</translation>
     </message>
     <message id="IDS_HINT_AREA_DIGITS">
         <source>Sizes are whole numbers of MB.</source>
@@ -245,15 +245,15 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_AREA_DISK1">
         <source>Next: enter a size for Disk1.</source>
-        <translation>Étape suivante : saisir une taille pour Disk1.</translation>
+        <translation>Étape suivante&#xa0;: saisir une taille pour Disk1.</translation>
     </message>
     <message id="IDS_HINT_FIRST_MISSING">
         <source>Next: enter the first password.</source>
-        <translation>Étape suivante : saisir le premier mot de passe.</translation>
+        <translation>Étape suivante&#xa0;: saisir le premier mot de passe.</translation>
     </message>
     <message id="IDS_HINT_FIRST_AGAIN">
         <source>Next: enter the first password again.</source>
-        <translation>Étape suivante : saisir de nouveau le premier mot de passe.</translation>
+        <translation>Étape suivante&#xa0;: saisir de nouveau le premier mot de passe.</translation>
     </message>
     <message id="IDS_HINT_FIRST_DIFFERS">
         <source>The two entries of the first password differ.</source>
@@ -261,11 +261,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_SECOND_MISSING">
         <source>Next: enter the second password.</source>
-        <translation>Étape suivante : saisir le second mot de passe.</translation>
+        <translation>Étape suivante&#xa0;: saisir le second mot de passe.</translation>
     </message>
     <message id="IDS_HINT_SECOND_AGAIN">
         <source>Next: enter the second password again.</source>
-        <translation>Étape suivante : saisir de nouveau le second mot de passe.</translation>
+        <translation>Étape suivante&#xa0;: saisir de nouveau le second mot de passe.</translation>
     </message>
     <message id="IDS_HINT_SECOND_DIFFERS">
         <source>The two entries of the second password differ.</source>
@@ -273,11 +273,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_CURRENT_FIRST_MISSING">
         <source>Next: enter the current first password.</source>
-        <translation>Étape suivante : saisir le premier mot de passe actuel.</translation>
+        <translation>Étape suivante&#xa0;: saisir le premier mot de passe actuel.</translation>
     </message>
     <message id="IDS_HINT_CURRENT_SECOND_MISSING">
         <source>Next: enter the current second password.</source>
-        <translation>Étape suivante : saisir le second mot de passe actuel.</translation>
+        <translation>Étape suivante&#xa0;: saisir le second mot de passe actuel.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_ACCENTS">
         <source>Letters with accents cannot be used in a password.</source>
@@ -289,11 +289,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_TRIALS">
         <source>Next: enter how many tries are allowed, 1 to 99.</source>
-        <translation>Étape suivante : saisir le nombre d’essais autorisés, 1 à 99.</translation>
+        <translation>Étape suivante&#xa0;: saisir le nombre d’essais autorisés, 1 à 99.</translation>
     </message>
     <message id="IDS_HINT_KEY_MISSING">
         <source>Next: enter the digits of the key.</source>
-        <translation>Étape suivante : saisir les chiffres de la clé.</translation>
+        <translation>Étape suivante&#xa0;: saisir les chiffres de la clé.</translation>
     </message>
     <message id="IDS_HINT_KEY_DIGITS">
         <source>Only the digits 0 to 9 and A to F can be used.</source>
@@ -305,7 +305,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_KEY_TOO_LONG">
         <source>%1 of 128 digits: that is too many.</source>
-        <translation>%1 chiffres sur 128 : c’est trop.</translation>
+        <translation>%1 chiffres sur 128&#xa0;: c’est trop.</translation>
     </message>
     <message id="IDS_HINT_SETUP_ERASES">
         <source>OK erases everything on this drive and closes this window.</source>
@@ -314,7 +314,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_SETUP_OPEN">
         <source>No secure area: anyone can read this drive. Passwords and a key that were entered are not used.</source>
-        <translation>Aucune zone sécurisée : tout le monde peut lire ce disque. Les mots de passe et la clé saisis ne sont pas utilisés.</translation>
+        <translation>Aucune zone sécurisée&#xa0;: tout le monde peut lire ce disque. Les mots de passe et la clé saisis ne sont pas utilisés.</translation>
     </message>
     <message id="IDS_HINT_SETUP_RETRY">
         <source>Before you try again, open the areas and confirm them once more.</source>
@@ -331,7 +331,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_SET_CLOCK_CLOSES">
         <source>Setting the clock closes the program; what was entered is lost.</source>
-        <translation>Le réglage de l’horloge ferme le programme ; les données saisies sont perdues.</translation>
+        <translation>Le réglage de l’horloge ferme le programme&#xa0;; les données saisies sont perdues.</translation>
     </message>
     <message id="IDS_HINT_PERIOD_ZERO">
         <source>A period that shows 0 is switched off by OK.</source>
@@ -348,7 +348,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_AREAS_TITLE">
         <source>ZELTO DISK: Areas</source>
-        <translation>ZELTO DISK : zones</translation>
+        <translation>ZELTO DISK&#xa0;: zones</translation>
     </message>
     <message id="IDS_AREAS_HEADING">
         <source>Divide the drive into areas.</source>
@@ -356,7 +356,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Trois zones au plus ; laissez à 0 Mo celles qui sont inutiles. L’une d’elles peut être sécurisée : elle reste cachée jusqu’à votre connexion.</translation>
+        <translation>Trois zones au plus&#xa0;; laissez à 0 Mo celles qui sont inutiles. L’une d’elles peut être sécurisée&#xa0;: elle reste cachée jusqu’à votre connexion.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>
@@ -365,7 +365,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_AREAS_DISK1">
         <source>Disk&amp;1:</source>
         <extracomment>Disk1, Disk2 and Disk3 are given names: never translated</extracomment>
-        <translation>Disk&amp;1 :</translation>
+        <translation>Disk&amp;1&#xa0;:</translation>
     </message>
     <message id="IDS_AREAS_DISK1_UNIT">
         <source>MB</source>
@@ -382,7 +382,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_AREAS_DISK2">
         <source>Disk&amp;2:</source>
-        <translation>Disk&amp;2 :</translation>
+        <translation>Disk&amp;2&#xa0;:</translation>
     </message>
     <message id="IDS_AREAS_DISK2_UNIT">
         <source>MB</source>
@@ -398,7 +398,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_AREAS_DISK3">
         <source>Disk&amp;3:</source>
-        <translation>Disk&amp;3 :</translation>
+        <translation>Disk&amp;3&#xa0;:</translation>
     </message>
     <message id="IDS_AREAS_DISK3_UNIT">
         <source>MB</source>
@@ -426,7 +426,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_LOGIN_TITLE">
         <source>ZELTO DISK: Log In</source>
-        <translation>ZELTO DISK : connexion</translation>
+        <translation>ZELTO DISK&#xa0;: connexion</translation>
     </message>
     <message id="IDS_LOGIN_MESSAGE">
         <source>Enter the password of your drive.</source>
@@ -434,11 +434,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_LOGIN_PASSWORD">
         <source>&amp;Password:</source>
-        <translation>&amp;Mot de passe :</translation>
+        <translation>&amp;Mot de passe&#xa0;:</translation>
     </message>
     <message id="IDS_LOGIN_CLOCK">
         <source>Drive’s clock:</source>
-        <translation>Horloge du disque :</translation>
+        <translation>Horloge du disque&#xa0;:</translation>
     </message>
     <message id="IDS_LOGIN_CLOCK_NAME">
         <source>Drive’s clock</source>
@@ -447,7 +447,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_LOGIN_TIME_LEFT">
         <source>Key erased in:</source>
         <extracomment>A time follows: 12 d 5 h 30 min</extracomment>
-        <translation>Clé effacée dans :</translation>
+        <translation>Clé effacée dans&#xa0;:</translation>
     </message>
     <message id="IDS_LOGIN_TIME_LEFT_NAME">
         <source>Time left until the drive erases its key</source>
@@ -463,7 +463,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_KEY_TITLE">
         <source>ZELTO DISK: Encryption Key</source>
-        <translation>ZELTO DISK : clé de chiffrement</translation>
+        <translation>ZELTO DISK&#xa0;: clé de chiffrement</translation>
     </message>
     <message id="IDS_KEY_HEADING">
         <source>Enter the encryption key.</source>
@@ -476,7 +476,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_KEY_KEY">
         <source>&amp;Key:</source>
         <extracomment>The encryption key; a field follows</extracomment>
-        <translation>&amp;Clé :</translation>
+        <translation>&amp;Clé&#xa0;:</translation>
     </message>
     <message id="IDS_KEY_CANCEL">
         <source>&amp;Cancel</source>
@@ -488,7 +488,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_SETTINGS_TITLE">
         <source>ZELTO DISK: Settings</source>
-        <translation>ZELTO DISK : paramètres</translation>
+        <translation>ZELTO DISK&#xa0;: paramètres</translation>
     </message>
     <message id="IDS_SETTINGS_DRIVE_GROUP">
         <source>Drive</source>
@@ -497,11 +497,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_SETTINGS_DRIVE">
         <source>Dri&amp;ve:</source>
-        <translation>D&amp;isque :</translation>
+        <translation>D&amp;isque&#xa0;:</translation>
     </message>
     <message id="IDS_SETTINGS_COMPUTER_CLOCK">
         <source>Computer’s clock:</source>
-        <translation>Horloge de l’ordinateur :</translation>
+        <translation>Horloge de l’ordinateur&#xa0;:</translation>
     </message>
     <message id="IDS_SETTINGS_COMPUTER_CLOCK_NAME">
         <source>Computer’s clock</source>
@@ -509,7 +509,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_SETTINGS_DRIVE_CLOCK">
         <source>Drive’s clock:</source>
-        <translation>Horloge du disque :</translation>
+        <translation>Horloge du disque&#xa0;:</translation>
     </message>
     <message id="IDS_SETTINGS_DRIVE_CLOCK_NAME">
         <source>Drive’s clock</source>
@@ -553,7 +553,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_SETTINGS_PASSWORDS_LABEL">
         <source>Passwords for log-in:</source>
-        <translation>Mots de passe de connexion :</translation>
+        <translation>Mots de passe de connexion&#xa0;:</translation>
     </message>
     <message id="IDS_SETTINGS_PASSWORDS">
         <source>&amp;Passwords…</source>
@@ -561,7 +561,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_SETTINGS_KEY_LABEL">
         <source>Encryption key:</source>
-        <translation>Clé de chiffrement :</translation>
+        <translation>Clé de chiffrement&#xa0;:</translation>
     </message>
     <message id="IDS_SETTINGS_KEY_ORIGIN_NAME">
         <source>Encryption key</source>
@@ -657,7 +657,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_CHANGE_TITLE">
         <source>ZELTO DISK: Change Passwords</source>
-        <translation>ZELTO DISK : modification des mots de passe</translation>
+        <translation>ZELTO DISK&#xa0;: modification des mots de passe</translation>
     </message>
     <message id="IDS_CHANGE_HEADING">
         <source>Change the passwords of the secure area.</source>
@@ -665,7 +665,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_CHANGE_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Un mot de passe comporte de 1 à 32 lettres non accentuées, chiffres ou signes. Le disque autorise un nombre illimité d’essais pour le premier : choisissez-le difficile à deviner. Un mot de passe oublié ne peut pas être récupéré.</translation>
+        <translation>Un mot de passe comporte de 1 à 32 lettres non accentuées, chiffres ou signes. Le disque autorise un nombre illimité d’essais pour le premier&#xa0;: choisissez-le difficile à deviner. Un mot de passe oublié ne peut pas être récupéré.</translation>
     </message>
     <message id="IDS_CHANGE_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -686,17 +686,17 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_CHANGE_FIRST_CURRENT">
         <source>&amp;Current:</source>
         <extracomment>The current first password</extracomment>
-        <translation>Act&amp;uel :</translation>
+        <translation>Act&amp;uel&#xa0;:</translation>
     </message>
     <message id="IDS_CHANGE_FIRST_NEW">
         <source>&amp;New:</source>
         <extracomment>The new first password</extracomment>
-        <translation>N&amp;ouveau :</translation>
+        <translation>N&amp;ouveau&#xa0;:</translation>
     </message>
     <message id="IDS_CHANGE_FIRST_AGAIN">
         <source>New a&amp;gain:</source>
         <extracomment>The new first password again</extracomment>
-        <translation>&amp;Confirmer le nouveau :</translation>
+        <translation>&amp;Confirmer le nouveau&#xa0;:</translation>
     </message>
     <message id="IDS_CHANGE_SECOND_GROUP">
         <source>Second password</source>
@@ -704,20 +704,20 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_CHANGE_SECOND_CURRENT">
         <source>C&amp;urrent:</source>
-        <translation>Ac&amp;tuel :</translation>
+        <translation>Ac&amp;tuel&#xa0;:</translation>
     </message>
     <message id="IDS_CHANGE_SECOND_NEW">
         <source>N&amp;ew:</source>
-        <translation>Nou&amp;veau :</translation>
+        <translation>Nou&amp;veau&#xa0;:</translation>
     </message>
     <message id="IDS_CHANGE_SECOND_AGAIN">
         <source>New aga&amp;in:</source>
-        <translation>Confirmer &amp;le nouveau :</translation>
+        <translation>Confirmer &amp;le nouveau&#xa0;:</translation>
     </message>
     <message id="IDS_CHANGE_TRIES">
         <source>&amp;Tries allowed:</source>
         <extracomment>How often a wrong second password may be entered</extracomment>
-        <translation>&amp;Essais autorisés :</translation>
+        <translation>&amp;Essais autorisés&#xa0;:</translation>
     </message>
     <message id="IDS_CHANGE_TRIES_PLACEHOLDER">
         <source>1–99</source>
@@ -733,7 +733,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_PASSWORDS_TITLE">
         <source>ZELTO DISK: Passwords</source>
-        <translation>ZELTO DISK : mots de passe</translation>
+        <translation>ZELTO DISK&#xa0;: mots de passe</translation>
     </message>
     <message id="IDS_PASSWORDS_HEADING">
         <source>Choose the passwords of the secure area.</source>
@@ -741,7 +741,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_PASSWORDS_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Un mot de passe comporte de 1 à 32 lettres non accentuées, chiffres ou signes. Le disque autorise un nombre illimité d’essais pour le premier : choisissez-le difficile à deviner. Un mot de passe oublié ne peut pas être récupéré.</translation>
+        <translation>Un mot de passe comporte de 1 à 32 lettres non accentuées, chiffres ou signes. Le disque autorise un nombre illimité d’essais pour le premier&#xa0;: choisissez-le difficile à deviner. Un mot de passe oublié ne peut pas être récupéré.</translation>
     </message>
     <message id="IDS_PASSWORDS_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -761,12 +761,12 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_PASSWORDS_FIRST">
         <source>&amp;Password:</source>
-        <translation>Mot &amp;de passe :</translation>
+        <translation>Mot &amp;de passe&#xa0;:</translation>
     </message>
     <message id="IDS_PASSWORDS_FIRST_AGAIN">
         <source>A&amp;gain:</source>
         <extracomment>The password again</extracomment>
-        <translation>C&amp;onfirmer :</translation>
+        <translation>C&amp;onfirmer&#xa0;:</translation>
     </message>
     <message id="IDS_PASSWORDS_SECOND_GROUP">
         <source>Second password</source>
@@ -774,15 +774,15 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_PASSWORDS_SECOND">
         <source>Pass&amp;word:</source>
-        <translation>&amp;Mot de passe :</translation>
+        <translation>&amp;Mot de passe&#xa0;:</translation>
     </message>
     <message id="IDS_PASSWORDS_SECOND_AGAIN">
         <source>Aga&amp;in:</source>
-        <translation>&amp;Confirmer :</translation>
+        <translation>&amp;Confirmer&#xa0;:</translation>
     </message>
     <message id="IDS_PASSWORDS_TRIES">
         <source>&amp;Tries allowed:</source>
-        <translation>&amp;Essais autorisés :</translation>
+        <translation>&amp;Essais autorisés&#xa0;:</translation>
     </message>
     <message id="IDS_PASSWORDS_TRIES_PLACEHOLDER">
         <source>1–99</source>
@@ -802,7 +802,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_SELECT_HEADING">
         <source>Which drive do you want to use?</source>
-        <translation>Quel disque voulez-vous utiliser ?</translation>
+        <translation>Quel disque voulez-vous utiliser&#xa0;?</translation>
     </message>
     <message id="IDS_SELECT_EXPLANATION">
         <source>These drives are plugged in. For one that is missing, start the program again.</source>
@@ -811,7 +811,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_SELECT_DRIVE">
         <source>&amp;Drive:</source>
         <extracomment>The USB drive as a whole: a list follows</extracomment>
-        <translation>&amp;Disque :</translation>
+        <translation>&amp;Disque&#xa0;:</translation>
     </message>
     <message id="IDS_SELECT_LOOK_AGAIN">
         <source>&amp;Look Again</source>
@@ -831,7 +831,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_UNLOCKED_TITLE">
         <source>ZELTO DISK: Unlocked</source>
-        <translation>ZELTO DISK : déverrouillé</translation>
+        <translation>ZELTO DISK&#xa0;: déverrouillé</translation>
     </message>
     <message id="IDS_UNLOCKED_HEADING">
         <source>Your drive is unlocked.</source>
@@ -839,7 +839,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_UNLOCKED_EXPLANATION">
         <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off before you unplug the drive or leave the computer.</source>
-        <translation>La zone sécurisée est ouverte et apparaît à côté de vos autres disques. Une zone neuve est vierge : formatez-la une fois. Déconnectez-vous avant de débrancher le disque ou de quitter l’ordinateur.</translation>
+        <translation>La zone sécurisée est ouverte et apparaît à côté de vos autres disques. Une zone neuve est vierge&#xa0;: formatez-la une fois. Déconnectez-vous avant de débrancher le disque ou de quitter l’ordinateur.</translation>
     </message>
     <message id="IDS_UNLOCKED_SETTINGS">
         <source>&amp;Settings…</source>
@@ -861,11 +861,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_UNLOCKED_KEEP_DESCRIPTION">
         <source>Closes the program; the drive stays unlocked</source>
-        <translation>Ferme le programme ; le disque reste déverrouillé</translation>
+        <translation>Ferme le programme&#xa0;; le disque reste déverrouillé</translation>
     </message>
     <message id="IDS_UNLOCKING_TITLE">
         <source>ZELTO DISK: Unlocked</source>
-        <translation>ZELTO DISK : déverrouillé</translation>
+        <translation>ZELTO DISK&#xa0;: déverrouillé</translation>
     </message>
     <message id="IDS_UNLOCKING_HEADING">
         <source>Your drive is unlocked.</source>
@@ -873,7 +873,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_UNLOCKING_EXPLANATION">
         <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off to lock it again, or keep it unlocked and go on working with it.</source>
-        <translation>La zone sécurisée est ouverte et apparaît à côté de vos autres disques. Une zone neuve est vierge : formatez-la une fois. Déconnectez-vous pour la verrouiller de nouveau, ou laissez-la déverrouillée et continuez à travailler avec.</translation>
+        <translation>La zone sécurisée est ouverte et apparaît à côté de vos autres disques. Une zone neuve est vierge&#xa0;: formatez-la une fois. Déconnectez-vous pour la verrouiller de nouveau, ou laissez-la déverrouillée et continuez à travailler avec.</translation>
     </message>
     <message id="IDS_UNLOCKING_SETTINGS">
         <source>&amp;Settings…</source>
@@ -885,7 +885,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_UNLOCKING_KEEP_DESCRIPTION">
         <source>Closes the program; the drive stays unlocked</source>
-        <translation>Ferme le programme ; le disque reste déverrouillé</translation>
+        <translation>Ferme le programme&#xa0;; le disque reste déverrouillé</translation>
     </message>
     <message id="IDS_UNLOCKING_LOG_OFF">
         <source>&amp;Log Off</source>
@@ -897,7 +897,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_SETUP_TITLE">
         <source>ZELTO DISK: Setting Up</source>
-        <translation>ZELTO DISK : configuration</translation>
+        <translation>ZELTO DISK&#xa0;: configuration</translation>
     </message>
     <message id="IDS_SETUP_HEADING">
         <source>Your drive is being set up.</source>
@@ -964,7 +964,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_BAR_SEPARATOR">
         <source>; </source>
         <extracomment>Between the areas of the list: Disk1, normal area, 244 MB; not used, 244 MB</extracomment>
-        <translation> ; </translation>
+        <translation>&#xa0;; </translation>
     </message>
     <message id="IDS_BAR_TOO_LARGE">
         <source>together more than the drive can hold</source>
@@ -1015,11 +1015,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_STEP_CURRENT">
         <source>Step %1 of %2: %3</source>
         <extracomment>Read aloud; %3 is one of the steps</extracomment>
-        <translation>Étape %1 sur %2 : %3</translation>
+        <translation>Étape %1 sur %2&#xa0;: %3</translation>
     </message>
     <message id="IDS_STEP_FAILED">
         <source>Step %1 of %2 failed: %3</source>
-        <translation>Échec de l’étape %1 sur %2 : %3</translation>
+        <translation>Échec de l’étape %1 sur %2&#xa0;: %3</translation>
     </message>
     <message id="IDS_FIELD_ENTRIES_MATCH">
         <source>The two entries match.</source>
@@ -1075,7 +1075,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
-        <translation>ZELTO DISK : règle de périphérique</translation>
+        <translation>ZELTO DISK&#xa0;: règle de périphérique</translation>
     </message>
     <message id="IDS_RULE_HEADING">
         <source>Let this computer’s users use the drive.</source>
@@ -1103,11 +1103,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_DRIVE_SERIAL">
         <source>Serial number: %1</source>
-        <translation>Numéro de série : %1</translation>
+        <translation>Numéro de série&#xa0;: %1</translation>
     </message>
     <message id="IDS_DRIVE_SERIAL_AND_PORT">
         <source>Serial number: %1, in USB port %2</source>
-        <translation>Numéro de série : %1, sur le port USB %2</translation>
+        <translation>Numéro de série&#xa0;: %1, sur le port USB %2</translation>
     </message>
     <message id="IDS_DRIVE_PORT">
         <source>No serial number, in USB port %1</source>
@@ -1116,19 +1116,19 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_STRENGTH_WEAK">
         <source>Strength: weak</source>
         <extracomment>Of a new password; a bar of four parts stands before it</extracomment>
-        <translation>Robustesse : faible</translation>
+        <translation>Robustesse&#xa0;: faible</translation>
     </message>
     <message id="IDS_STRENGTH_FAIR">
         <source>Strength: fair</source>
-        <translation>Robustesse : moyenne</translation>
+        <translation>Robustesse&#xa0;: moyenne</translation>
     </message>
     <message id="IDS_STRENGTH_GOOD">
         <source>Strength: good</source>
-        <translation>Robustesse : bonne</translation>
+        <translation>Robustesse&#xa0;: bonne</translation>
     </message>
     <message id="IDS_STRENGTH_STRONG">
         <source>Strength: strong</source>
-        <translation>Robustesse : élevée</translation>
+        <translation>Robustesse&#xa0;: élevée</translation>
     </message>
     <message id="IDS_HELP_BUTTON">
         <source>&amp;Help</source>
@@ -1141,7 +1141,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_NO_MANUAL">
         <source>The manual could not be opened: it was not found beside the program, or this computer has nothing to show it with.</source>
-        <translation>Le manuel n’a pas pu être ouvert : il est introuvable à côté du programme, ou cet ordinateur n’a rien pour l’afficher.</translation>
+        <translation>Le manuel n’a pas pu être ouvert&#xa0;: il est introuvable à côté du programme, ou cet ordinateur n’a rien pour l’afficher.</translation>
     </message>
     <message id="IDS_HINT_VERSION">
         <source>Version %1 of the program.</source>
