@@ -36,6 +36,13 @@ QString shortSize(std::uint64_t mebibytes) {
     return localized("IDS_SIZE_MB", mebibytes);
 }
 
+// In a line from right to left "40 MB" would read "MB 40".
+QString isolated(const QString& text) {
+    constexpr QChar FirstStrongIsolate = u'\u2068';
+    constexpr QChar PopDirectionalIsolate = u'\u2069';
+    return FirstStrongIsolate + text + PopDirectionalIsolate;
+}
+
 QString kindWord(AreaBar::Kind kind) {
     switch (kind) {
     case AreaBar::Kind::Normal:
@@ -92,6 +99,7 @@ void AreaBar::setSegments(std::vector<Segment> segments, Fit fit) {
         description.append(localized("IDS_BAR_TOO_LARGE"));
     }
     setAccessibleDescription(description.join(localized("IDS_BAR_SEPARATOR")));
+    updateGeometry();
     update();
 }
 
@@ -122,26 +130,92 @@ std::vector<int> AreaBar::widthsOf(const std::vector<Segment>& segments, int wid
     return widths;
 }
 
+std::vector<int> AreaBar::captionsOf(const std::vector<int>& segments,
+                                     const std::vector<int>& captions, int width) {
+    const int count = static_cast<int>(captions.size());
+    std::vector<int> lefts(captions.size());
+    if (std::accumulate(captions.begin(), captions.end(), 0) > width) {
+        for (int index = 0; index < count; ++index) {
+            lefts[static_cast<std::size_t>(index)] = std::max(0, width) * index / count;
+        }
+        return lefts;
+    }
+    int segment = 0;
+    int free = 0;
+    for (std::size_t index = 0; index < captions.size(); ++index) {
+        lefts[index] = std::max(segment, free);
+        free = lefts[index] + captions[index];
+        segment += segments[index];
+    }
+    int end = width;
+    for (std::size_t index = captions.size(); index-- > 0;) {
+        lefts[index] = std::min(lefts[index], end - captions[index]);
+        end = lefts[index];
+    }
+    return lefts;
+}
+
 QSize AreaBar::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
-    return {metrics.averageCharWidth() * 48, barHeight() + metrics.lineSpacing() * 2};
+    const int usual = metrics.averageCharWidth() * 48;
+    return {std::max(usual, minimumSizeHint().width()), barHeight() + metrics.lineSpacing() * 2};
 }
 
 QSize AreaBar::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 24, sizeHint().height()};
+    const std::vector<int> captions = captionWidths();
+    const int all = std::accumulate(captions.begin(), captions.end(), 0);
+    return {std::max(fontMetrics().averageCharWidth() * 24, all),
+            barHeight() + fontMetrics().lineSpacing() * 2};
 }
 
 int AreaBar::barHeight() const {
     return fontMetrics().height() * 2;
 }
 
+int AreaBar::swatchSide() const {
+    return fontMetrics().ascent() * 3 / 4;
+}
+
+int AreaBar::gap() const {
+    return fontMetrics().averageCharWidth() / 2;
+}
+
 std::vector<int> AreaBar::visibleWidths() const {
-    return widthsOf(m_segments, width(), fontMetrics().averageCharWidth() * 6);
+    return widthsOf(m_segments, width(), fontMetrics().height());
+}
+
+std::vector<int> AreaBar::captionWidths() const {
+    const QFontMetrics metrics = fontMetrics();
+    std::vector<int> widths;
+    for (const Segment& segment : m_segments) {
+        const int text =
+            std::max(metrics.horizontalAdvance(segment.name),
+                     metrics.horizontalAdvance(isolated(shortSize(segment.mebibytes))));
+        widths.push_back(swatchSide() + gap() + text + 2 * gap());
+    }
+    return widths;
+}
+
+QRectF AreaBar::placed(int left, int width, int top, int height) const {
+    const int from = layoutDirection() == Qt::RightToLeft ? this->width() - left - width : left;
+    return QRectF(from, top, width, height);
 }
 
 void AreaBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    paintBar(painter);
+    const std::vector<int> captions = captionWidths();
+    const std::vector<int> lefts = captionsOf(visibleWidths(), captions, width());
+    for (std::size_t index = 0; index < lefts.size(); ++index) {
+        const int end = index + 1 < lefts.size() ? lefts[index + 1] : width();
+        const int room = std::min(captions[index], end - lefts[index]);
+        paintCaption(painter, m_segments[index],
+                     placed(lefts[index], room, barHeight(), height() - barHeight()));
+    }
+}
+
+void AreaBar::paintBar(QPainter& painter) const {
     const QRectF bar = QRectF(0.5, 0.5, width() - 1, barHeight() - 1);
     const double radius = fontMetrics().height() / 3.0;
     QPainterPath outline;
@@ -150,37 +224,21 @@ void AreaBar::paintEvent(QPaintEvent*) {
     painter.save();
     painter.setClipPath(outline);
     painter.fillRect(bar, palette().color(QPalette::Base));
+    int left = 0;
     const std::vector<int> widths = visibleWidths();
-    double left = 0;
     for (std::size_t index = 0; index < widths.size(); ++index) {
-        const QRectF logical(left, 0, widths[index], barHeight());
-        const double mirroredLeft = width() - logical.right();
-        const QRectF box = layoutDirection() == Qt::RightToLeft
-                               ? logical.translated(mirroredLeft - logical.left(), 0)
-                               : logical;
-        paintSegment(painter, m_segments[index], box);
-        painter.setClipping(false);
-        paintCaption(painter, m_segments[index],
-                     QRectF(box.left(), barHeight(), box.width(), height() - barHeight()));
-        painter.setClipPath(outline);
+        paintSegment(painter, m_segments[index], placed(left, widths[index], 0, barHeight()));
         left += widths[index];
     }
     painter.restore();
 
     const bool warns = m_fit == Fit::TooLarge;
-    const QColor line = warns ? warningColour(palette())
-                              : mixed(palette().color(QPalette::Window),
-                                      palette().color(QPalette::WindowText), 0.4);
-    painter.strokePath(outline, QPen(line, warns ? 2.0 : 1.0));
+    painter.strokePath(outline, QPen(warns ? warningColour(palette()) : outlineColour(palette()),
+                                     warns ? 2.0 : 1.0));
 }
 
 void AreaBar::paintSegment(QPainter& painter, const Segment& segment, const QRectF& box) const {
-    painter.fillRect(box, fillOf(segment.kind, palette()));
-    if (segment.kind == Kind::Free) {
-        const QColor hatch =
-            mixed(palette().color(QPalette::Base), palette().color(QPalette::WindowText), 0.25);
-        painter.fillRect(box, QBrush(hatch, Qt::BDiagPattern));
-    }
+    paintFill(painter, segment.kind, box);
     if (segment.kind == Kind::Secure) {
         const double side = std::min<double>(fontMetrics().height() * 1.2, box.width() - 4);
         QRectF lock(0, 0, side, side);
@@ -188,18 +246,38 @@ void AreaBar::paintSegment(QPainter& painter, const Segment& segment, const QRec
         paintGlyph(painter, Glyph::Lock, lock, palette().color(QPalette::HighlightedText));
     }
     painter.fillRect(QRectF(box.right() - 1, box.top(), 1, box.height()),
-                     palette().color(QPalette::Window));
+                     isHighContrast(palette()) ? outlineColour(palette())
+                                               : palette().color(QPalette::Window));
+}
+
+void AreaBar::paintFill(QPainter& painter, Kind kind, const QRectF& box) const {
+    painter.fillRect(box, fillOf(kind, palette()));
+    if (kind == Kind::Free) {
+        const QColor hatch =
+            mixed(palette().color(QPalette::Base), palette().color(QPalette::WindowText), 0.25);
+        painter.fillRect(box, QBrush(hatch, Qt::BDiagPattern));
+    }
 }
 
 void AreaBar::paintCaption(QPainter& painter, const Segment& segment, const QRectF& box) const {
     const QFontMetrics metrics = fontMetrics();
-    const double room = box.width() - metrics.averageCharWidth() / 2.0;
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    const int side = swatchSide();
+    QRectF swatch(0, box.top() + (metrics.lineSpacing() - side) / 2.0, side, side);
+    swatch.moveLeft(mirrored ? box.right() - side - 0.5 : box.left() + 0.5);
+    paintFill(painter, segment.kind, swatch);
+    painter.setPen(outlineColour(palette()));
+    painter.drawRect(swatch);
+
+    const int taken = side + gap();
+    const double room = box.width() - taken;
+    painter.setPen(palette().color(QPalette::WindowText));
     double top = box.top();
-    for (const QString& line : {segment.name, shortSize(segment.mebibytes)}) {
-        const QString shown = metrics.elidedText(line, Qt::ElideRight, qRound(room));
-        painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(QRectF(box.left(), top, room, metrics.lineSpacing()),
-                         static_cast<int>(Qt::AlignLeading | Qt::AlignVCenter), shown);
+    for (const QString& line : {segment.name, isolated(shortSize(segment.mebibytes))}) {
+        painter.drawText(
+            QRectF(mirrored ? box.left() : box.left() + taken, top, room, metrics.lineSpacing()),
+            static_cast<int>(Qt::AlignLeading | Qt::AlignVCenter),
+            metrics.elidedText(line, Qt::ElideRight, qRound(room)));
         top += metrics.lineSpacing();
     }
 }

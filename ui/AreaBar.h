@@ -9,7 +9,8 @@
 namespace zelto {
 
 /// The areas of a drive as one bar, each as wide as its share. An area too small to be seen in
-/// proportion is still drawn, a little wider than its share.
+/// proportion is still drawn, a little wider than its share. Below the bar each area's name and
+/// size stand in full, in the same order, as near to their area as there is room.
 class AreaBar : public QWidget {
     Q_OBJECT
 
@@ -35,6 +36,11 @@ public:
     [[nodiscard]] static std::vector<int> widthsOf(const std::vector<Segment>& segments, int width,
                                                    int smallest);
 
+    /// Where captions of these widths begin in a row of `width` pixels: where their segments do,
+    /// or as near to that as leaves room for all. Captions that have no room in sum share it.
+    [[nodiscard]] static std::vector<int> captionsOf(const std::vector<int>& segments,
+                                                     const std::vector<int>& captions, int width);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -44,8 +50,14 @@ protected:
 
 private:
     [[nodiscard]] std::vector<int> visibleWidths() const;
+    [[nodiscard]] std::vector<int> captionWidths() const;
     [[nodiscard]] int barHeight() const;
+    [[nodiscard]] int swatchSide() const;
+    [[nodiscard]] int gap() const;
+    [[nodiscard]] QRectF placed(int left, int width, int top, int height) const;
+    void paintBar(QPainter& painter) const;
     void paintSegment(QPainter& painter, const Segment& segment, const QRectF& box) const;
+    void paintFill(QPainter& painter, Kind kind, const QRectF& box) const;
     void paintCaption(QPainter& painter, const Segment& segment, const QRectF& box) const;
 
     std::vector<Segment> m_segments;

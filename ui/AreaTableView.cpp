@@ -2,6 +2,9 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace zelto {
 namespace {
@@ -22,14 +25,44 @@ AreaTableView::AreaTableView(QWidget* parent) : QTableView(parent) {
 void AreaTableView::setModel(QAbstractItemModel* model) {
     QTableView::setModel(model);
     if (model != nullptr) {
-        horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+        horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        connect(model, &QAbstractItemModel::modelReset, this, [this] {
+            followContents();
+            updateGeometry();
+        });
+        followContents();
+    }
+}
+
+int AreaTableView::contentWidth(int column) const {
+    return std::max(horizontalHeader()->sectionSizeHint(column), sizeHintForColumn(column));
+}
+
+int AreaTableView::contentWidth() const {
+    int width = 0;
+    for (int column = 0; column < horizontalHeader()->count(); ++column) {
+        width += contentWidth(column);
+    }
+    return width;
+}
+
+void AreaTableView::followContents() {
+    const int columns = horizontalHeader()->count();
+    const int left = std::max(0, viewport()->width() - contentWidth());
+    for (int column = 0; column < columns; ++column) {
+        const int share = left * (column + 1) / columns - left * column / columns;
+        setColumnWidth(column, contentWidth(column) + share);
     }
 }
 
 QSize AreaTableView::sizeHint() const {
+    ensurePolished();
     const int rows = verticalHeader()->defaultSectionSize() * UsualRows;
     const int frame = 2 * frameWidth();
-    return {fontMetrics().averageCharWidth() * WidthInCharacters + frame,
+    const bool scrolls = model() != nullptr && model()->rowCount() > UsualRows;
+    const int bar = scrolls ? verticalScrollBar()->sizeHint().width() : 0;
+    return {std::max(fontMetrics().averageCharWidth() * WidthInCharacters, contentWidth() + bar) +
+                frame,
             horizontalHeader()->sizeHint().height() + rows + frame};
 }
 
@@ -38,6 +71,11 @@ void AreaTableView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         followFont();
     }
+}
+
+void AreaTableView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    followContents();
 }
 
 void AreaTableView::followFont() {

@@ -5,7 +5,7 @@
 namespace zelto {
 
 /// The area table, sized for the rows it can usually have: three areas and the tool area. More
-/// than that scroll.
+/// than that scroll. Its columns are as wide as their contents, and share what is left.
 class AreaTableView : public QTableView {
     Q_OBJECT
 
@@ -19,9 +19,13 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void followFont();
+    void followContents();
+    [[nodiscard]] int contentWidth(int column) const;
+    [[nodiscard]] int contentWidth() const;
 };
 
 } // namespace zelto

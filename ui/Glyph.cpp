@@ -6,6 +6,9 @@
 #include <QPen>
 #include <QPixmap>
 
+#include <algorithm>
+#include <cmath>
+
 namespace zelto {
 namespace {
 
@@ -80,6 +83,13 @@ QPixmap glyphPixmap(Glyph glyph, const QColor& colour, int size, double ratio) {
     return pixmap;
 }
 
+/// As the guidelines for accessible contents weigh it; all but black and white roughly.
+double luminance(const QColor& colour) {
+    const auto linear = [](double channel) { return std::pow(channel, 2.2); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
 } // namespace
 
 void paintGlyph(QPainter& painter, Glyph glyph, const QRectF& box, const QColor& colour) {
@@ -121,6 +131,20 @@ QIcon glyphIcon(Glyph glyph, const QPalette& palette, int sizeInPixels, double d
 QColor warningColour(const QPalette& palette) {
     const bool onDark = palette.color(QPalette::Window).lightnessF() < 0.5F;
     return onDark ? QColor(0xFF, 0xB4, 0x54) : QColor(0xA8, 0x4A, 0x00);
+}
+
+bool isHighContrast(const QPalette& palette) {
+    constexpr double EnoughForAnybody = 15;
+    const QColor window = palette.color(QPalette::Window);
+    const double first = luminance(window);
+    const double second = luminance(palette.color(QPalette::WindowText));
+    const double contrast = (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+    return (window == Qt::black || window == Qt::white) && contrast > EnoughForAnybody;
+}
+
+QColor outlineColour(const QPalette& palette) {
+    const QColor text = palette.color(QPalette::WindowText);
+    return isHighContrast(palette) ? text : mixed(palette.color(QPalette::Window), text, 0.4);
 }
 
 QColor mixed(const QColor& base, const QColor& over, double amount) {

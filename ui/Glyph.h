@@ -23,6 +23,13 @@ void paintGlyph(QPainter& painter, Glyph glyph, const QRectF& box, const QColor&
 /// A colour that warns and can be read on the palette's window colour.
 [[nodiscard]] QColor warningColour(const QPalette& palette);
 
+/// The palette is one for people who need the strongest contrast: text and window are black and
+/// white, or all but that on black or white.
+[[nodiscard]] bool isHighContrast(const QPalette& palette);
+
+/// A colour for the lines around things; as strong as text in a palette of high contrast.
+[[nodiscard]] QColor outlineColour(const QPalette& palette);
+
 /// `amount` of `over` laid on `base`; 0 is all base, 1 all over.
 [[nodiscard]] QColor mixed(const QColor& base, const QColor& over, double amount);
 

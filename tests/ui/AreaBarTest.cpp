@@ -64,6 +64,34 @@ TEST(AreaBarWidths, NeedNoAreasAndNoRoom) {
     EXPECT_EQ(sum(AreaBar::widthsOf(sizes({0, 0}), 100, 0)), 0);
 }
 
+TEST(AreaBarCaptions, BeginWhereTheirAreasDo) {
+    EXPECT_THAT(AreaBar::captionsOf({200, 100, 100}, {50, 50, 50}, 400), ElementsAre(0, 200, 300));
+}
+
+TEST(AreaBarCaptions, MoveAsideForOthersWithoutLeavingTheRow) {
+    EXPECT_THAT(AreaBar::captionsOf({10, 380, 10}, {80, 80, 80}, 400), ElementsAre(0, 80, 320));
+    EXPECT_THAT(AreaBar::captionsOf({385, 5, 10}, {80, 80, 80}, 400), ElementsAre(0, 240, 320));
+    EXPECT_THAT(AreaBar::captionsOf({1, 1, 1}, {1, 1, 1}, 3), ElementsAre(0, 1, 2));
+}
+
+TEST(AreaBarCaptions, ShareARowThatIsTooNarrow) {
+    EXPECT_THAT(AreaBar::captionsOf({30, 30}, {80, 80}, 60), ElementsAre(0, 30));
+    EXPECT_THAT(AreaBar::captionsOf({}, {}, 60), IsEmpty());
+    EXPECT_THAT(AreaBar::captionsOf({0, 0}, {8, 8}, -3), ElementsAre(0, 0));
+}
+
+TEST(AreaBarTest, AsksForRoomForEveryNameAndSize) {
+    AreaBar bar;
+    bar.setSegments({{QStringLiteral("Disk1"), 500, Kind::Normal},
+                     {QStringLiteral("Disk2"), 2'000'000, Kind::Secure},
+                     {QStringLiteral("Disk3"), 20, Kind::Tool},
+                     {QString(40, u'x'), 36, Kind::Free}});
+    const QFontMetrics metrics = bar.fontMetrics();
+    EXPECT_GT(bar.minimumSizeHint().width(), metrics.horizontalAdvance(QString(40, u'x')) +
+                                                 3 * metrics.horizontalAdvance(u'0') * 6);
+    EXPECT_GE(bar.sizeHint().width(), bar.minimumSizeHint().width());
+}
+
 TEST(AreaBarTest, TellsTheAreasToThoseWhoDoNotSeeThem) {
     AreaBar bar;
     bar.setSegments({{QStringLiteral("Disk1"), 500, Kind::Normal},

@@ -2,6 +2,7 @@
 #include "ui/AreaTableView.h"
 
 #include <QAbstractItemModelTester>
+#include <QHeaderView>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -83,6 +84,24 @@ TEST_F(AreaTableTest, TheViewHasRoomForThreeAreasAndTheToolArea) {
     view.show();
     const QRect last = view.visualRect(model.index(3, 0));
     EXPECT_TRUE(view.viewport()->rect().contains(last));
+}
+
+TEST_F(AreaTableTest, ItsColumnsFitTheirContentsAndFillTheView) {
+    AreaTableView view;
+    view.verticalHeader()->hide();
+    view.setModel(&model);
+    model.reloadData();
+    view.show();
+    for (const int extra : {0, 1, 200}) {
+        view.resize(view.sizeHint() + QSize(extra, 0));
+        int width = 0;
+        for (int column = 0; column < 3; ++column) {
+            const QString text = cell(0, column);
+            EXPECT_GT(view.columnWidth(column), view.fontMetrics().horizontalAdvance(text));
+            width += view.columnWidth(column);
+        }
+        EXPECT_EQ(width, view.viewport()->width());
+    }
 }
 
 } // namespace
