@@ -170,7 +170,7 @@ QVariant SecretField::inputMethodQuery(Qt::InputMethodQuery query) const {
 void SecretField::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton && QApplication::clipboard()->supportsSelection()) {
         deselect();
-        setCursorPosition(cursorPositionAt(event->position().toPoint()));
+        setCursorPosition(positionAt(event->position().toPoint()));
         paste(QClipboard::Selection);
         return;
     }
@@ -197,6 +197,21 @@ void SecretField::paintEvent(QPaintEvent* event) {
     }
 }
 
+int SecretField::positionAt(const QPoint& point) {
+    return cursorPositionAt(point);
+}
+
+void SecretField::paintCharacter(QPainter& painter, int index, const QRectF& cell) const {
+    const bool isSelected = hasSelectedText() && index >= selectionStart() &&
+                            index < selectionStart() + selectionLength();
+    if (isSelected) {
+        painter.fillRect(cell, palette().highlight());
+    }
+    painter.setPen(palette().color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+    painter.drawText(cell.adjusted(-cell.width(), 0, cell.width(), 0), Qt::AlignCenter,
+                     QString(QChar(m_secret.view()[place(index)])));
+}
+
 /// Each character in the place of its bullet.
 void SecretField::paintText() {
     QStyleOptionFrame frame;
@@ -214,17 +229,9 @@ void SecretField::paintText() {
     const int size = static_cast<int>(m_secret.size());
     const int ahead = isRightToLeft() ? size - cursorPosition() : cursorPosition();
     const qreal left = cursorRect().center().x() - ahead * cell;
-    const int selectionEnds = selectionStart() + selectionLength();
     for (int index = 0; index < size; ++index) {
-        const QRectF box(left + index * cell, room.top(), cell, room.height());
-        const bool isSelected =
-            hasSelectedText() && index >= selectionStart() && index < selectionEnds;
-        if (isSelected) {
-            painter.fillRect(box, palette().highlight());
-        }
-        painter.setPen(palette().color(isSelected ? QPalette::HighlightedText : QPalette::Text));
-        painter.drawText(box.adjusted(-cell, 0, cell, 0), Qt::AlignCenter,
-                         QString(QChar(m_secret.view()[place(index)])));
+        paintCharacter(painter, index,
+                       QRectF(left + index * cell, room.top(), cell, room.height()));
     }
     if (hasFocus()) {
         const qreal caret = left + cursorPosition() * cell;

@@ -49,6 +49,11 @@ protected:
 
     void setShown(Shown shown);
 
+    /// Before which character a click at this point means to stand.
+    [[nodiscard]] virtual int positionAt(const QPoint& point);
+    /// Draws one character of the text into its cell, as selected if it is.
+    void paintCharacter(QPainter& painter, int index, const QRectF& cell) const;
+
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
