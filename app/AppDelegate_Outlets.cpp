@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/Outlets.h"
+#include "ui/Strings.h"
 
 #include <initializer_list>
 
@@ -33,6 +34,7 @@ void AppDelegate::connectSessionWindows() {
     onClick(UnlockingWindow.UnlockingSetup, this, &AppDelegate::UnlockingSetupAction);
     onClose(UnlockingWindow, this, &AppDelegate::UnlockingCancelAction);
 
+    ZeltoSettingWindow.ZeltoSettingText->setHolds(localized("IDS_SETTING_COMPLETE"));
     onClick(ZeltoSettingWindow.ZeltoSettingOKButton, this, &AppDelegate::ZeltoSettingOKAction);
     // The last window: closing it is a request to quit, refused while set-up is under way.
     onClose(ZeltoSettingWindow, this, &AppDelegate::TerminateApplication);

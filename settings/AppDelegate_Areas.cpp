@@ -104,7 +104,10 @@ void AppDelegate::UpdateAreaSettingsWindow() {
             ? localized("IDS_CAPACITY_OVER")
             : localized("IDS_FREE_CAPACITY", static_cast<std::uint32_t>(verdict.leftMebibytes)));
     form.AreaSettingsOKButton->setEnabled(verdict.isComplete);
-    showObstacle(*form.AreaSettingsObstacle, areaObstacle(texts, verdict));
+    // Of areas that are too large the line above has told already.
+    const Obstacle obstacle = areaObstacle(texts, verdict);
+    showObstacle(*form.AreaSettingsObstacle,
+                 obstacle == Obstacle{"IDS_CAPACITY_OVER"} ? Obstacle{} : obstacle);
     showAreaSettingsBar();
 }
 

@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "app/Outlets.h"
 #include "ui/AreaTableModel.h"
+#include "ui/Strings.h"
 
 namespace zelto {
 
@@ -25,6 +26,7 @@ void AppDelegate::connectMainSettingsWindow() {
                                int row) { return tableViewObjectValue(column, row); }},
         form.AreaInfosTableView);
     form.AreaInfosTableView->setModel(m_areaTable);
+    form.MainSettingsClockCue->setHolds(localized("IDS_HINT_SET_CLOCK_CLOSES"));
 
     onClick(form.MainSettingsOKButton, this, &AppDelegate::MainSettingsOKAction);
     onClick(form.MainSettingsCancelButton, this, &AppDelegate::MainSettingsCancelAction);

@@ -1,20 +1,63 @@
 #include "ui/SteadyLabel.h"
 
-#include <QEvent>
 #include <QFontMetrics>
+
+#include <algorithm>
 
 namespace zelto {
 
-QSize SteadyLabel::roomFor(const QSize& size) const {
-    m_largest = m_largest.expandedTo(size).expandedTo({0, fontMetrics().height()});
-    return m_largest;
+SteadyLabel::SteadyLabel(QWidget* parent) : QLabel(parent) {
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
 }
 
-void SteadyLabel::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        m_largest = {};
+void SteadyLabel::setHolds(const QString& text) {
+    m_holds = text;
+    updateGeometry();
+}
+
+QSize SteadyLabel::sizeHint() const {
+    return room([](const QLabel& label) { return label.QLabel::sizeHint(); });
+}
+
+QSize SteadyLabel::minimumSizeHint() const {
+    return room([](const QLabel& label) { return label.QLabel::minimumSizeHint(); });
+}
+
+int SteadyLabel::heightForWidth(int width) const {
+    return room([width](const QLabel& label) {
+               return QSize(0, label.QLabel::heightForWidth(width));
+           })
+        .height();
+}
+
+QSize SteadyLabel::room(const std::function<QSize(const QLabel&)>& measure) const {
+    if (advanceOf(text()) > advanceOf(m_widest)) {
+        m_widest = text();
     }
-    QLabel::changeEvent(event);
+    QSize size = measure(*this).expandedTo({0, fontMetrics().height()});
+    for (const QString& other : {m_widest, withWidestDigits(m_holds)}) {
+        QLabel sample(other);
+        sample.setFont(font());
+        sample.setTextFormat(textFormat());
+        sample.setWordWrap(wordWrap());
+        size = size.expandedTo(measure(sample));
+    }
+    return size;
+}
+
+int SteadyLabel::advanceOf(const QString& text) const {
+    return fontMetrics().horizontalAdvance(text);
+}
+
+QString SteadyLabel::withWidestDigits(QString text) const {
+    const QString digits = QStringLiteral("0123456789");
+    const QChar widest = *std::ranges::max_element(
+        digits, {}, [this](QChar digit) { return fontMetrics().horizontalAdvance(digit); });
+    std::ranges::replace_if(
+        text, [](QChar character) { return character.isDigit(); }, widest);
+    return text;
 }
 
 } // namespace zelto

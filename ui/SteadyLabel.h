@@ -1,29 +1,37 @@
 #pragma once
 
 #include <QLabel>
+#include <QString>
+
+#include <functional>
 
 namespace zelto {
 
-/// A label that keeps the room of the largest text it has shown, so that a text that comes and
-/// goes doesn't move what is around it.
+/// A label for a text that changes while its window is open: it has room from the beginning for
+/// the text it is known to hold later, and keeps the room of the widest that it has shown, also
+/// while it is hidden. So what is around it doesn't move.
 class SteadyLabel : public QLabel {
     Q_OBJECT
+    Q_PROPERTY(QString holds READ holds WRITE setHolds)
 
 public:
-    explicit SteadyLabel(QWidget* parent = nullptr) : QLabel(parent) {}
+    explicit SteadyLabel(QWidget* parent = nullptr);
 
-    [[nodiscard]] QSize sizeHint() const override { return roomFor(QLabel::sizeHint()); }
-    [[nodiscard]] QSize minimumSizeHint() const override {
-        return roomFor(QLabel::minimumSizeHint());
-    }
+    /// What it is going to hold at the most; each digit stands for any.
+    [[nodiscard]] const QString& holds() const { return m_holds; }
+    void setHolds(const QString& text);
 
-protected:
-    void changeEvent(QEvent* event) override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] int heightForWidth(int width) const override;
 
 private:
-    [[nodiscard]] QSize roomFor(const QSize& size) const;
+    [[nodiscard]] QSize room(const std::function<QSize(const QLabel&)>& measure) const;
+    [[nodiscard]] int advanceOf(const QString& text) const;
+    [[nodiscard]] QString withWidestDigits(QString text) const;
 
-    mutable QSize m_largest;
+    QString m_holds;
+    mutable QString m_widest;
 };
 
 } // namespace zelto

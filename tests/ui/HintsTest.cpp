@@ -187,6 +187,27 @@ TEST(SteadyLabelTest, KeepsTheRoomOfItsLargestTextAndOfOneLineAtLeast) {
     EXPECT_EQ(label.minimumSizeHint(), filled);
 }
 
+TEST(SteadyLabelTest, HasRoomFromTheBeginningForWhatItIsGoingToHold) {
+    SteadyLabel label;
+    label.setHolds(QStringLiteral("0000/00/00 00:00:00"));
+    const QSize empty = label.sizeHint();
+    for (const QChar digit : QStringLiteral("0123456789")) {
+        label.setText(QStringLiteral("0000/00/00 00:00:00").replace(u'0', digit));
+        EXPECT_EQ(label.sizeHint(), empty) << digit.toLatin1();
+        EXPECT_EQ(label.minimumSizeHint(), empty) << digit.toLatin1();
+    }
+}
+
+TEST(SteadyLabelTest, HasRoomForTheLinesThatATextWillWrapInto) {
+    SteadyLabel label;
+    label.setWordWrap(true);
+    label.setHolds(QString(40, u' ').replace(QStringLiteral(" "), QStringLiteral("word ")));
+    const int empty = label.heightForWidth(100);
+    label.setText(label.holds());
+    EXPECT_EQ(label.heightForWidth(100), empty);
+    EXPECT_GT(empty, 3 * label.fontMetrics().height());
+}
+
 TEST(NumberFieldTest, IsAsWideAsItsDigitsAndRefusesNothing) {
     NumberField narrow;
     NumberField wide;
