@@ -3,15 +3,26 @@
 #include <QApplication>
 #include <QEvent>
 
+#include <algorithm>
+
 namespace zelto {
 namespace {
 
 constexpr double HeadingScale = 1.2;
+/// In characters.
+constexpr int LongestLine = 64;
 
 } // namespace
 
 HeadingLabel::HeadingLabel(QWidget* parent) : QLabel(parent) {
+    setWordWrap(true);
     followApplicationFont();
+}
+
+QSize HeadingLabel::sizeHint() const {
+    const int line = fontMetrics().boundingRect(text()).width() + fontMetrics().averageCharWidth();
+    const int width = std::min(line, fontMetrics().averageCharWidth() * LongestLine);
+    return {width, heightForWidth(width)};
 }
 
 void HeadingLabel::changeEvent(QEvent* event) {

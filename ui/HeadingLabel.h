@@ -11,6 +11,9 @@ class HeadingLabel : public QLabel {
 public:
     explicit HeadingLabel(QWidget* parent = nullptr);
 
+    /// One line, unless the heading is very long.
+    [[nodiscard]] QSize sizeHint() const override;
+
 protected:
     void changeEvent(QEvent* event) override;
 

@@ -67,7 +67,7 @@ QSize SetupStepsView::sizeHint() const {
     for (int step = 0; step < StepCount; ++step) {
         widest = std::max(widest, metrics.horizontalAdvance(titleOf(step)));
     }
-    return {lineHeight() * 3 / 2 + widest, lineHeight() * StepCount};
+    return {lineHeight() * 5 / 4 + widest, lineHeight() * StepCount};
 }
 
 void SetupStepsView::paintEvent(QPaintEvent*) {

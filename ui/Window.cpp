@@ -1,5 +1,6 @@
 #include "ui/Window.h"
 
+#include "ui/FittingArea.h"
 // Included for its own sake: a form that does not compile fails here and not in the controller.
 #include "ui/Forms.h"
 #include "ui/ProductIcon.h"
@@ -14,6 +15,9 @@ namespace zelto {
 namespace {
 
 constexpr auto StartsOn = "startsOn";
+/// Of the screen's height: the window's title bar, which is not there before the window is, and
+/// panels, of which Wayland tells nothing.
+constexpr int TitleBarAndPanels = 60;
 
 bool takesInput(const QWidget& widget) {
     const bool isField = qobject_cast<const QLineEdit*>(&widget) != nullptr ||
@@ -29,12 +33,13 @@ Window::Window() {
     setWindowIcon(ProductIcon::icon());
 }
 
+void Window::makeContentsFit() {
+    m_contents = new FittingArea(*qobject_cast<QBoxLayout*>(layout()));
+}
+
 void Window::centreAndMakeKeyAndOrderFront() {
-    resizeToFit();
-    const QRect available = availableScreen();
-    const QPoint centred = available.center() - rect().center();
-    // A window larger than its screen keeps its title bar on it.
-    move(std::max(centred.x(), available.left()), std::max(centred.y(), available.top()));
+    resizeToFit(roomOnScreen());
+    move(screen()->availableGeometry().center() - rect().center());
     focusWhereTheUserStarts();
     show();
     raise();
@@ -48,7 +53,7 @@ void Window::orderOut() {
 int Window::runModal(QWidget* parent) {
     setParent(parent, windowFlags());
     setWindowModality(Qt::ApplicationModal);
-    resizeToFit();
+    resizeToFit(roomOnScreen());
     focusWhereTheUserStarts();
     m_modalRun = true;
     m_modalCode = ModalCancel;
@@ -79,23 +84,38 @@ bool Window::event(QEvent* event) {
     return handled;
 }
 
-QRect Window::availableScreen() const {
-    return screen()->availableGeometry();
+QSize Window::roomOnScreen() const {
+    return screen()->availableGeometry().size() - QSize(0, TitleBarAndPanels);
 }
 
 // Not adjustSize: that stops at two thirds of the screen and squeezes what doesn't fit.
-void Window::resizeToFit() {
+void Window::resizeToFit(const QSize& available) {
+    m_available = available;
     ensurePolished();
     layout()->activate();
-    resize(layout()->totalSizeHint().expandedTo(layout()->totalMinimumSize()));
+    m_contents->foldInto(roomForContents(available.width()));
+    layout()->activate();
+    m_contents->setRoom(
+        roomForContents(std::min(layout()->totalSizeHint().width(), available.width())));
+    layout()->activate();
+    resize(layout()->totalSizeHint().expandedTo(layout()->totalMinimumSize()).boundedTo(available));
+}
+
+/// What the buttons and the margins of a window so wide leave.
+QSize Window::roomForContents(int width) const {
+    const QMargins margins = layout()->contentsMargins();
+    const int inner = margins.left() + margins.right();
+    const int others =
+        layout()->totalHeightForWidth(width) - m_contents->heightForWidth(width - inner);
+    return {m_available.width() - inner, m_available.height() - others};
 }
 
 // A text that appears in an open window may wrap into lines that a layout doesn't make room for.
 void Window::growToFit() {
-    const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width())
-                                                     : layout()->totalMinimumSize().height();
+    m_contents->setRoom(roomForContents(width()));
+    const int needed = layout()->totalHeightForWidth(width());
     if (needed > height()) {
-        resize(width(), std::min(needed, std::max(height(), availableScreen().height())));
+        resize(width(), std::min(needed, std::max(height(), m_available.height())));
     }
 }
 

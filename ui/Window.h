@@ -6,6 +6,8 @@
 
 namespace zelto {
 
+class FittingArea;
+
 /// A window of the utility. The controller shows and hides it; the user's own ways of closing it
 /// (Escape, the title bar) do what its cancel button does. The focus starts in the first field
 /// that takes input, or in the control that the form's property "startsOn" names.
@@ -17,6 +19,10 @@ public:
     enum ModalCode { ModalOK = 0, ModalCancel = 1 };
 
     Window();
+
+    /// Makes the window as large as its contents ask for, within `available`. Where that is too
+    /// little they scroll, and the buttons below them stay.
+    void resizeToFit(const QSize& available);
 
     /// Centres the window on its screen, shows it, brings it to the front and gives it the focus.
     void centreAndMakeKeyAndOrderFront();
@@ -38,14 +44,20 @@ Q_SIGNALS:
     void closeRequested();
 
 protected:
+    /// Once the form's layout is there: lets its contents scroll where they have to.
+    void makeContentsFit();
+
     bool event(QEvent* event) override;
 
 private:
-    [[nodiscard]] QRect availableScreen() const;
-    void resizeToFit();
+    [[nodiscard]] QSize roomOnScreen() const;
+    [[nodiscard]] QSize roomForContents(int width) const;
     void growToFit();
     void focusWhereTheUserStarts();
 
+    FittingArea* m_contents = nullptr;
+    /// What there was for the window as it opened.
+    QSize m_available;
     bool m_modalRun = false;
     ModalCode m_modalCode = ModalCancel;
     ReturnKey m_returnKey{*this, ReturnKey::Presses::FocusedButton};
@@ -55,7 +67,10 @@ private:
 template <typename Layout>
 class Form : public Window, public Layout {
 public:
-    Form() { this->setupUi(this); }
+    Form() {
+        this->setupUi(this);
+        makeContentsFit();
+    }
 };
 
 } // namespace zelto

@@ -1,6 +1,5 @@
 #include "simulator/demo/DemoPanel.h"
 #include "simulator/demo/Story.h"
-#include "ui/Resources.h"
 #include "ui/Strings.h"
 
 #include <QApplication>
@@ -50,7 +49,6 @@ int playStories(int argc, char** argv, const std::filesystem::path& pictures) {
     qInstallMessageHandler(printRemark);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    zelto::initResources();
     zelto::installStrings();
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     bool failed = false;
@@ -69,7 +67,6 @@ int showWindows(int argc, char** argv) {
     const QApplication application(argc, argv);
     // The utility's windows come and go; the demo ends with its own panel.
     QApplication::setQuitOnLastWindowClosed(false);
-    zelto::initResources();
     zelto::installStrings();
     zelto::simulator::DemoWorld world;
     zelto::simulator::DemoPanel panel(world);

@@ -1,9 +1,9 @@
 #include "simulator/demo/Story.h"
 
+#include "ui/ClippedTexts.h"
 #include "ui/Strings.h"
 #include "ui/Window.h"
 
-#include <QApplication>
 #include <QPixmap>
 
 #include <algorithm>
@@ -35,23 +35,23 @@ void Story::save(QWidget& window, const std::string& name) {
     if (m_pictures.empty()) {
         return;
     }
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    char number[16] = {};
-    static_cast<void>(std::snprintf(number, sizeof number, "%02d-", ++m_picture));
-    const std::filesystem::path path = m_pictures / (m_name + "-" + number + name + ".png");
-    const bool saved = window.grab().save(QString::fromStdString(path.string()), "PNG");
-    if (!saved) {
+    settle(window);
+    if (const QString cut = clippedTexts(window).join(u';'); !cut.isEmpty()) {
+        check("all texts are whole: " + cut.toStdString(), false);
+    }
+    const std::string number = QString::asprintf("-%02d-", ++m_picture).toStdString();
+    const std::filesystem::path path = m_pictures / (m_name + number + name + ".png");
+    if (!window.grab().save(QString::fromStdString(path.string()), "PNG")) {
         check("picture " + path.string() + " saved", false);
     }
 }
 
 void Story::picture(const std::string& name) {
-    Window* const window = person.visibleWindow();
-    if (window == nullptr) {
+    if (Window* const window = person.visibleWindow()) {
+        save(*window, name);
+    } else {
         check("a window is open for the picture " + name, false);
-        return;
     }
-    save(*window, name);
 }
 
 void Story::startUtility() {

@@ -1,0 +1,152 @@
+#include "ui/FittingArea.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace zelto {
+namespace {
+
+QBoxLayout::Direction turned(QBoxLayout::Direction direction) {
+    return direction == QBoxLayout::TopToBottom ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+}
+
+/// While a window is hidden no layout tells the one around it what has changed in it.
+void layOutAnew(QWidget& widget) {
+    for (QWidget* child : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        layOutAnew(*child);
+    }
+    if (QLayout* const layout = widget.layout()) {
+        layout->invalidate();
+        layout->activate();
+    }
+}
+
+void moveFirst(QBoxLayout& from, QBoxLayout& to) {
+    QLayoutItem* const item = from.takeAt(0);
+    if (QLayout* const layout = item->layout()) {
+        to.addLayout(layout);
+    } else if (QWidget* const widget = item->widget()) {
+        to.addWidget(widget, 0, item->alignment());
+        delete item;
+    } else {
+        to.addItem(item);
+    }
+}
+
+} // namespace
+
+FittingArea::FittingArea(QBoxLayout& window) : QScrollArea(window.parentWidget()) {
+    auto* const widget = new QWidget;
+    widget->setObjectName(QStringLiteral("WindowContents"));
+    m_contents = new QVBoxLayout(widget);
+    m_contents->setContentsMargins({});
+    m_contents->setSpacing(window.spacing());
+    setWidget(widget);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    // The window's own background shows through, whatever the style paints there.
+    widget->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+    // The controls in it take the focus, and are brought into view by it.
+    setFocusPolicy(Qt::NoFocus);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* now) { showFocused(now); });
+
+    while (window.count() > 1) {
+        moveFirst(window, *m_contents);
+    }
+    window.insertWidget(0, this);
+    // Assistive technology reads a window's parts in this order.
+    lower();
+    m_columns = widget->findChild<QBoxLayout*>(QLatin1String(ColumnsName));
+    if (m_columns != nullptr) {
+        m_designed = m_columns->direction();
+    }
+}
+
+void FittingArea::setRoom(const QSize& room) {
+    if (room != m_room) {
+        m_room = room;
+        updateGeometry();
+    }
+}
+
+void FittingArea::foldInto(const QSize& room) {
+    layOutAnew(*widget());
+    updateGeometry();
+    setRoom(room);
+    if (m_columns == nullptr) {
+        return;
+    }
+    const auto other = turned(m_designed);
+    const Cost costOfOther = costAs(other);
+    if (costOfOther < costAs(m_designed)) {
+        turn(other);
+    }
+}
+
+void FittingArea::turn(QBoxLayout::Direction direction) {
+    m_columns->setDirection(direction);
+    m_contents->activate();
+}
+
+/// Scrolling to the side costs more than any scrolling downwards.
+FittingArea::Cost FittingArea::costAs(QBoxLayout::Direction direction) {
+    turn(direction);
+    if (wholeSize().boundedTo(m_room) == wholeSize()) {
+        return {0, 0};
+    }
+    const int least = m_contents->totalMinimumSize().width();
+    const bool scrollsToTheSide = least + scrollBarWidth() > m_room.width();
+    return scrollsToTheSide ? Cost{2, least} : Cost{1, wholeSize().height()};
+}
+
+QSize FittingArea::wholeSize() const {
+    return m_contents->totalSizeHint().expandedTo(m_contents->totalMinimumSize());
+}
+
+int FittingArea::scrollBarWidth() const {
+    return verticalScrollBar()->sizeHint().width();
+}
+
+/// With room for the bar beside contents that scroll.
+QSize FittingArea::asked(QSize size) const {
+    if (wholeSize().height() > m_room.height()) {
+        size.rwidth() += scrollBarWidth();
+    }
+    return size.boundedTo(m_room);
+}
+
+QSize FittingArea::sizeHint() const {
+    return asked(wholeSize());
+}
+
+QSize FittingArea::minimumSizeHint() const {
+    return asked(m_contents->totalMinimumSize());
+}
+
+int FittingArea::heightForWidth(int width) const {
+    const int whole = m_contents->hasHeightForWidth() ? m_contents->totalHeightForWidth(width)
+                                                      : wholeSize().height();
+    return std::min(whole, m_room.height());
+}
+
+bool FittingArea::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+        // The toolkit's area follows its contents when it is asked to by name.
+        QScrollArea::event(event);
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void FittingArea::showFocused(QWidget* focused) {
+    if (focused != nullptr && widget()->isAncestorOf(focused)) {
+        ensureWidgetVisible(focused);
+    }
+}
+
+} // namespace zelto
