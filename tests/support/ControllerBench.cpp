@@ -5,13 +5,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace zelto::test {
 
 ControllerBench::ControllerBench()
     : person([](const std::string& what) { ADD_FAILURE() << what; }) {
     installStrings(QStringLiteral("en"));
+    alerts.setExpectation(expectWeightOfWords);
     computer.usb.addHandleLayer(
         [forgeries = m_forgeries](std::unique_ptr<UsbDeviceInterface> handle) {
             return std::make_unique<ForgedReplies>(std::move(handle), forgeries);
@@ -21,9 +20,7 @@ ControllerBench::ControllerBench()
     });
 }
 
-ControllerBench::~ControllerBench() {
-    std::ranges::for_each(alerts.panels(), expectWeightOfWords);
-}
+ControllerBench::~ControllerBench() = default;
 
 ControllerBench::Drive ControllerBench::plugNewDrive(const std::string& serial,
                                                      std::uint64_t sectors) {

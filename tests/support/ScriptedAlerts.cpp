@@ -11,7 +11,7 @@ AlertButton ScriptedAlerts::NSRunAlertPanel(const AlertPanel& panel) {
         m_answers.pop_front();
     }
     ++m_open;
-    for (const WhileOpen& happening : {m_whileOpen, answer.whileOpen}) {
+    for (const WhileOpen& happening : {m_expect, m_whileOpen, answer.whileOpen}) {
         if (happening) {
             happening(panel);
         }

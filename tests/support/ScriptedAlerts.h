@@ -25,6 +25,9 @@ public:
     /// Runs for every panel while it is open, before the answer's own.
     void setWhileOpen(WhileOpen whileOpen) { m_whileOpen = std::move(whileOpen); }
 
+    /// What is expected of every panel; looked at before anything else happens to it.
+    void setExpectation(WhileOpen expect) { m_expect = std::move(expect); }
+
     [[nodiscard]] const std::vector<AlertPanel>& panels() const { return m_panels; }
     [[nodiscard]] std::vector<QString> messages() const;
     /// Panels open at this moment; more than one is a nested alert.
@@ -41,6 +44,7 @@ private:
     std::vector<AlertPanel> m_panels;
     std::deque<Answer> m_answers;
     WhileOpen m_whileOpen;
+    WhileOpen m_expect;
     int m_open = 0;
 };
 
