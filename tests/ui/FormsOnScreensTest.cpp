@@ -2,6 +2,8 @@
 #include "tests/ui/FilledForms.h"
 #include "ui/ClippedTexts.h"
 #include "ui/FittingArea.h"
+#include "ui/Languages.h"
+#include "ui/Strings.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -64,6 +66,7 @@ protected:
     void SetUp() override { m_font = QApplication::font(); }
     void TearDown() override {
         QApplication::setFont(m_font);
+        installStrings(QStringLiteral("en"));
         QApplication::setLayoutDirection(Qt::LeftToRight);
     }
 
@@ -122,6 +125,16 @@ TEST_P(FormsOnScreens, FitWithTextsThatAreAThirdLonger) {
     QCoreApplication::installTranslator(&longer);
     expectAllFitsEverywhere();
     QCoreApplication::removeTranslator(&longer);
+}
+
+TEST_P(FormsOnScreens, FitInEveryLanguageWithTheLargestFont) {
+    for (const QString& language : textLanguages()) {
+        ASSERT_TRUE(installStrings(language));
+        for (const Screen& screen : Screens) {
+            SCOPED_TRACE(language.toStdString() + " on " + screen.name);
+            expectAllFits(*open(*std::ranges::max_element(PointSizes)), screen.room());
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryForm, FormsOnScreens, ::testing::ValuesIn(allForms()),

@@ -1006,7 +1006,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_STEP_COPY">
         <source>The tool area is formatted and this program copied</source>
-        <translation>Het programmagebied wordt geformatteerd en dit programma gekopieerd</translation>
+        <translation>Programmagebied formatteren en dit programma kopiëren</translation>
     </message>
     <message id="IDS_STEP_FINISHED">
         <source>Finished</source>

@@ -1006,7 +1006,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_STEP_COPY">
         <source>The tool area is formatted and this program copied</source>
-        <translation>Форматирование служебной области и копирование этой программы</translation>
+        <translation>Форматируется служебная область и копируется программа</translation>
     </message>
     <message id="IDS_STEP_FINISHED">
         <source>Finished</source>
