@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 namespace zelto {
 namespace {
@@ -46,6 +47,26 @@ QWidget* windowToBelongTo() {
     return shown;
 }
 
+/// The box is never wider than some 500 pixels for texts that can be wrapped, however long they
+/// are: on a low screen, or with large letters, its buttons would be below the screen's edge.
+void widenWhereTooTall(const QMessageBox& box) {
+    const QFontMetrics metrics = box.fontMetrics();
+    const QSize room = box.screen()->availableGeometry().size();
+    constexpr int UsualWidth = 500;
+    constexpr int IconAndMargins = 140;
+    int lines = 0;
+    for (const QString& text : {box.text(), box.informativeText()}) {
+        const QRect column(0, 0, UsualWidth - IconAndMargins, QWIDGETSIZE_MAX);
+        lines += metrics.boundingRect(column, Qt::TextWordWrap, text).height();
+    }
+    const int buttonsAndTitle = 8 * metrics.lineSpacing();
+    auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (label != nullptr && lines + buttonsAndTitle > room.height()) {
+        label->setWordWrap(true);
+        label->setMinimumWidth(room.width() - IconAndMargins);
+    }
+}
+
 } // namespace
 
 AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
@@ -76,6 +97,7 @@ AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
     ReturnKey returnKey(box, confirms ? ReturnKey::Presses::DefaultButton
                                       : ReturnKey::Presses::FocusedButton);
     returnKey.watchControls();
+    widenWhereTooTall(box);
     box.exec();
     return second != nullptr && box.clickedButton() == second ? AlertButton::Alternate
                                                               : AlertButton::Default;

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -100,6 +101,22 @@ TEST(AlertPresenterTest, ReturnOnCancelCancelsAQuestionWhoseDefaultIsOk) {
     };
     EXPECT_EQ(answer(panel, returnOn(QStringLiteral("Cancel"))), AlertButton::Alternate);
     EXPECT_EQ(answer(panel, returnOn(QStringLiteral("OK"))), AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, FitsTheScreenWithLongTextsInLargeLetters) {
+    const QFont normal = QApplication::font();
+    QFont large = normal;
+    large.setPointSize(24);
+    QApplication::setFont(large);
+    AlertPanel panel = confirmation();
+    panel.message = QString(50, u' ').replace(QStringLiteral(" "), QStringLiteral("letters "));
+    (void)answer(panel, [](QMessageBox& box) {
+        const QSize screen = box.screen()->availableGeometry().size();
+        EXPECT_LE(box.width(), screen.width());
+        EXPECT_LE(box.height(), screen.height());
+        box.reject();
+    });
+    QApplication::setFont(normal);
 }
 
 TEST(AlertPresenterTest, HasTheWeightOfItsNews) {
