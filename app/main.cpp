@@ -2,6 +2,7 @@
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/PrivateMemory.h"
 #include "ui/AlertPresenter.h"
+#include "ui/OutlinedStyle.h"
 #include "ui/ProductIcon.h"
 #include "ui/ProductVersion.h"
 #include "ui/Strings.h"
@@ -24,8 +25,9 @@ int NSApplicationMain(int argc, char** argv) {
     // The controller decides what the closing of a window means.
     QApplication::setQuitOnLastWindowClosed(false);
     zelto::installStrings();
-    QApplication::setApplicationDisplayName(zelto::localized("IDS_APP_TITLE"));
+    // No display name: the toolkit would append it to the titles, which begin with it.
     QApplication::setWindowIcon(zelto::ProductIcon::icon());
+    zelto::OutlinedStyle::installWhereNeeded();
 
     zelto::AlertPresenter alerts;
     zelto::linux_platform::LinuxPlatform linuxPlatform(

@@ -88,13 +88,14 @@ void AppDelegate::AuthenticateSubmitAction() {
         form.AuthenticateTextField->selectAll();
         return;
     }
-    form.orderOut();
     form.AuthenticateTextField->wipe();
-    if (TextInputMode == TextInputModes::AuthenticateFurtherStep) {
-        DisplayUnlockedWindow();
-    } else {
-        ProcessBySecurityState();
-    }
+    form.giveWayTo([this] {
+        if (TextInputMode == TextInputModes::AuthenticateFurtherStep) {
+            DisplayUnlockedWindow();
+        } else {
+            ProcessBySecurityState();
+        }
+    });
 }
 
 /// The pauses pace repeated wrong passwords.

@@ -85,7 +85,7 @@ void AppDelegate::quitWithoutWindow() {
     const std::array<const Window*, 6> windows{&SelectZeltoWindow,  &AuthenticateWindow,
                                                &UnlockedWindow,     &UnlockingWindow,
                                                &ZeltoSettingWindow, &MainSettingsWindow};
-    if (std::ranges::none_of(windows, &QWidget::isVisible)) {
+    if (std::ranges::none_of(windows, &Window::isInUse)) {
         TerminateApplication();
     }
 }
@@ -184,12 +184,11 @@ void AppDelegate::DeviceRuleCloseAction() {
 }
 
 void AppDelegate::SelectZeltoOKAction() {
-    SelectZeltoWindow.orderOut();
     const auto index =
         static_cast<std::uint8_t>(SelectZeltoWindow.SelectZeltoComboBox->currentIndex());
     Drives.CurrentUsbIntf = Drives.UsbIntf.at(index);
     Drives.SelectedZeltoIndex = index;
-    ProcessBySecurityState();
+    SelectZeltoWindow.giveWayTo([this] { ProcessBySecurityState(); });
 }
 
 void AppDelegate::SelectZeltoCancelAction() {

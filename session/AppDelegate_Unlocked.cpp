@@ -18,8 +18,7 @@ void AppDelegate::UnlockedLogOffAction() {
 }
 
 void AppDelegate::UnlockedSetupAction() {
-    UnlockedWindow.orderOut();
-    DisplayMainSettingsWindow(false);
+    UnlockedWindow.giveWayTo([this] { DisplayMainSettingsWindow(false); });
     quitWithoutWindow();
 }
 
@@ -37,8 +36,7 @@ void AppDelegate::UnlockingCancelAction() {
 }
 
 void AppDelegate::UnlockingSetupAction() {
-    UnlockingWindow.orderOut();
-    DisplayMainSettingsWindow(false);
+    UnlockingWindow.giveWayTo([this] { DisplayMainSettingsWindow(false); });
     quitWithoutWindow();
 }
 

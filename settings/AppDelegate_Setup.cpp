@@ -87,9 +87,8 @@ void AppDelegate::beginSetupProgress() {
     // A drive that leaves the bus at once may not answer any more.
     (void)TKVR21_Reconnect(Device(), 1, 1);
 
-    MainSettingsWindow.orderOut();
     showSetup({});
-    ZeltoSettingWindow.centreAndMakeKeyAndOrderFront();
+    MainSettingsWindow.giveWayTo([this] { ZeltoSettingWindow.centreAndMakeKeyAndOrderFront(); });
 }
 
 } // namespace zelto

@@ -10,6 +10,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace zelto {
 namespace {
@@ -38,8 +39,11 @@ void Window::makeContentsFit() {
 }
 
 void Window::centreAndMakeKeyAndOrderFront() {
+    const bool staysWhereItIs = isVisible() && std::exchange(m_givesWay, false);
     resizeToFit(roomOnScreen());
-    move(screen()->availableGeometry().center() - rect().center());
+    if (!staysWhereItIs) {
+        move(screen()->availableGeometry().center() - rect().center());
+    }
     focusWhereTheUserStarts();
     show();
     raise();
@@ -48,6 +52,14 @@ void Window::centreAndMakeKeyAndOrderFront() {
 
 void Window::orderOut() {
     hide();
+}
+
+void Window::giveWayTo(const std::function<void()>& showNext) {
+    m_givesWay = true;
+    showNext();
+    if (std::exchange(m_givesWay, false)) {
+        orderOut();
+    }
 }
 
 int Window::runModal(QWidget* parent) {

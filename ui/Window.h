@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 namespace zelto {
 
 class FittingArea;
@@ -28,6 +30,12 @@ public:
     void centreAndMakeKeyAndOrderFront();
     /// Takes the window off the screen; closeRequested is not emitted.
     void orderOut();
+
+    /// As orderOut(), but not before `showNext` has shown the window that follows, so that the
+    /// desktop's other windows don't flash up between. If that is this window again, it stays.
+    void giveWayTo(const std::function<void()>& showNext);
+    /// On the screen, and not only until the next window is.
+    [[nodiscard]] bool isInUse() const { return isVisible() && !m_givesWay; }
 
     /// Runs the window as an application-modal dialog over `parent` and returns its code, a
     /// ModalCode. Blocks until the dialog has ended; the window is off the screen then. A run that
@@ -58,6 +66,7 @@ private:
     FittingArea* m_contents = nullptr;
     /// What there was for the window as it opened.
     QSize m_available;
+    bool m_givesWay = false;
     bool m_modalRun = false;
     ModalCode m_modalCode = ModalCancel;
     ReturnKey m_returnKey{*this, ReturnKey::Presses::FocusedButton};

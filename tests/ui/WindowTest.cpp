@@ -75,6 +75,39 @@ TEST(WindowTest, ItsTitleBarAsksOnceAndTheWindowStays) {
     EXPECT_TRUE(form.isVisible());
 }
 
+TEST(WindowTest, StaysOnTheScreenUntilTheNextIsThere) {
+    Form<Ui::UnlockedWindow> first;
+    Form<Ui::MainSettingsWindow> second;
+    first.centreAndMakeKeyAndOrderFront();
+    first.giveWayTo([&] {
+        EXPECT_TRUE(first.isVisible());
+        EXPECT_FALSE(first.isInUse());
+        second.centreAndMakeKeyAndOrderFront();
+        EXPECT_TRUE(first.isVisible());
+    });
+    EXPECT_FALSE(first.isVisible());
+    EXPECT_TRUE(second.isInUse());
+}
+
+TEST(WindowTest, GoesAlsoWhenNoOtherFollows) {
+    Form<Ui::UnlockedWindow> form;
+    form.centreAndMakeKeyAndOrderFront();
+    form.giveWayTo([] {});
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST(WindowTest, ThatFollowsItselfStaysWhereThePersonHasPutIt) {
+    Form<Ui::AuthenticateWindow> form;
+    form.centreAndMakeKeyAndOrderFront();
+    const QPoint moved = form.pos() + QPoint(50, 30);
+    form.move(moved);
+    form.AuthenticateCancel->setFocus();
+    form.giveWayTo([&] { form.centreAndMakeKeyAndOrderFront(); });
+    EXPECT_TRUE(form.isInUse());
+    EXPECT_EQ(form.pos(), moved);
+    EXPECT_EQ(form.focusWidget(), form.AuthenticateTextField);
+}
+
 class ModalRun : public ::testing::Test {
 protected:
     int run(const std::function<void()>& user) {
