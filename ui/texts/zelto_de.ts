@@ -69,7 +69,7 @@ For support: sense key %1, code %2, qualifier %3.</source>
         <extracomment>Numbers that identify an error</extracomment>
         <translation>Das Laufwerk hat diesen Schritt nicht ausgeführt. Wenn das wieder geschieht, beenden Sie dieses Programm, ziehen Sie das Laufwerk ab, stecken Sie es wieder ein und starten Sie das Programm erneut.
 
-Für die Kundenhilfe: Sense-Schlüssel %1, Code %2, Zusatz %3.</translation>
+Für den Support: Sense-Schlüssel %1, Code %2, Zusatz %3.</translation>
     </message>
     <message id="IDS_COMMAND_FAIL">
         <source>The drive does not answer. Close this program, plug the drive out and in, and start the program again.</source>
@@ -115,7 +115,7 @@ Für die Kundenhilfe: Sense-Schlüssel %1, Code %2, Zusatz %3.</translation>
     </message>
     <message id="IDS_ERR_FORMAT">
         <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
-        <translation>Das Laufwerk ist eingerichtet und kann verwendet werden. Nur sein Programmbereich konnte nicht formatiert werden, deshalb trägt es dieses Programm nicht bei sich: Verwenden Sie das Laufwerk mit dem Programm auf diesem Computer.</translation>
+        <translation>Das Laufwerk ist eingerichtet und kann verwendet werden. Nur sein Programmbereich konnte nicht formatiert werden, deshalb enthält es dieses Programm nicht: Verwenden Sie das Laufwerk mit dem Programm auf diesem Computer.</translation>
     </message>
     <message id="IDS_ERR_FILE_COPY">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
@@ -130,7 +130,7 @@ Nach: %2</translation>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
-        <translation>Das Laufwerk wurde nicht bereit, deshalb wurde darauf nichts geändert. Das Programm wird jetzt beendet. Ziehen Sie das Laufwerk ab, stecken Sie es wieder ein und starten Sie das Programm erneut.</translation>
+        <translation>Das Laufwerk war nicht bereit, deshalb wurde darauf nichts geändert. Das Programm wird jetzt beendet. Ziehen Sie das Laufwerk ab, stecken Sie es wieder ein und starten Sie das Programm erneut.</translation>
     </message>
     <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
         <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
@@ -204,7 +204,7 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
     </message>
     <message id="IDS_HINT_OTHER_SESSION">
         <source>One ZELTO DISK that is plugged in is not in this list, because it belongs to another user’s session on this computer. Use it from that session, or log in at this computer’s own screen and plug it in again.</source>
-        <translation>Eine angeschlossene ZELTO DISK steht nicht in dieser Liste, weil sie zur Sitzung eines anderen Benutzers dieses Computers gehört. Verwenden Sie sie aus jener Sitzung, oder melden Sie sich direkt an diesem Computer an und stecken Sie sie erneut ein.</translation>
+        <translation>Eine angeschlossene ZELTO DISK steht nicht in dieser Liste, weil sie zur Sitzung eines anderen Benutzers dieses Computers gehört. Verwenden Sie sie in jener Sitzung, oder melden Sie sich direkt an diesem Computer an und stecken Sie sie erneut ein.</translation>
     </message>
     <message id="IDS_HINT_DRIVE_IN_USE">
         <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
@@ -213,7 +213,7 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
         <extracomment>%1 is a list of programs</extracomment>
-        <translation>Verwenden das Laufwerk noch: %1</translation>
+        <translation>Laufwerk noch verwendet von: %1</translation>
     </message>
     <message id="IDS_HINT_NEXT_AREAS">
         <source>Next: lay out the areas.</source>
@@ -281,7 +281,7 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
     </message>
     <message id="IDS_HINT_PASSWORD_ACCENTS">
         <source>Letters with accents cannot be used in a password.</source>
-        <translation>Umlaute und Buchstaben mit Akzenten sind in Passwörtern nicht möglich.</translation>
+        <translation>Umlaute, ß und Buchstaben mit Akzenten sind in Passwörtern nicht möglich.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>
@@ -665,7 +665,7 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
     </message>
     <message id="IDS_CHANGE_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Ein Passwort hat 1 bis 32 Buchstaben ohne Umlaute und Akzente, Ziffern oder Zeichen. Beim ersten erlaubt das Laufwerk beliebig viele Versuche, es sollte also schwer zu erraten sein. Ein vergessenes Passwort lässt sich nicht wiederherstellen.</translation>
+        <translation>Ein Passwort hat 1 bis 32 Buchstaben, Ziffern oder Zeichen, ohne Umlaute, ß und Akzente. Beim ersten erlaubt das Laufwerk beliebig viele Versuche, es sollte also schwer zu erraten sein. Ein vergessenes Passwort lässt sich nicht wiederherstellen.</translation>
     </message>
     <message id="IDS_CHANGE_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -741,7 +741,7 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
     </message>
     <message id="IDS_PASSWORDS_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Ein Passwort hat 1 bis 32 Buchstaben ohne Umlaute und Akzente, Ziffern oder Zeichen. Beim ersten erlaubt das Laufwerk beliebig viele Versuche, es sollte also schwer zu erraten sein. Ein vergessenes Passwort lässt sich nicht wiederherstellen.</translation>
+        <translation>Ein Passwort hat 1 bis 32 Buchstaben, Ziffern oder Zeichen, ohne Umlaute, ß und Akzente. Beim ersten erlaubt das Laufwerk beliebig viele Versuche, es sollte also schwer zu erraten sein. Ein vergessenes Passwort lässt sich nicht wiederherstellen.</translation>
     </message>
     <message id="IDS_PASSWORDS_NUMBER_NAME">
         <source>Number of passwords</source>

@@ -111,7 +111,7 @@ Para soporte técnico: clave de detección %1, código %2, calificador %3.</tran
     </message>
     <message id="IDS_SETTING_COMPLETE">
         <source>The drive is set up. Its areas are still blank: format each once before you use it, a secure one after you have logged in.</source>
-        <translation>La unidad está configurada. Sus áreas aún están vacías: formatee cada una antes de usarla; un área segura, después de iniciar sesión.</translation>
+        <translation>La unidad está configurada. Sus áreas aún están vacías: formatee cada una, una sola vez, antes de usarla; un área segura, después de iniciar sesión.</translation>
     </message>
     <message id="IDS_ERR_FORMAT">
         <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
@@ -213,7 +213,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
         <extracomment>%1 is a list of programs</extracomment>
-        <translation>Aún usan la unidad: %1</translation>
+        <translation>Unidad aún en uso por: %1</translation>
     </message>
     <message id="IDS_HINT_NEXT_AREAS">
         <source>Next: lay out the areas.</source>
@@ -596,7 +596,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     </message>
     <message id="IDS_SETTINGS_AUTO_CLEAR_UNIT_NAME">
         <source>Unit of the period until the key is erased</source>
-        <translation>Unidad del plazo hasta que se borra la clave</translation>
+        <translation>Unidad de tiempo hasta que se borra la clave</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_CLEAR_DAYS">
         <source>&amp;days</source>
@@ -641,7 +641,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
         <source>Clearing removes every area, password and setting.</source>
-        <translation>Elimina todas las áreas, contraseñas y ajustes.</translation>
+        <translation>Elimina todas las áreas, las contraseñas y los ajustes.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>
@@ -665,7 +665,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     </message>
     <message id="IDS_CHANGE_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Una contraseña tiene de 1 a 32 letras sin tilde ni eñe, dígitos o signos. La unidad permite cualquier número de intentos con la primera, así que elija una difícil de adivinar. Una contraseña olvidada no se puede recuperar.</translation>
+        <translation>Una contraseña tiene de 1 a 32 letras, dígitos o signos, sin tildes ni eñe. La unidad permite cualquier número de intentos con la primera, así que elija una difícil de adivinar. Una contraseña olvidada no se puede recuperar.</translation>
     </message>
     <message id="IDS_CHANGE_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -741,7 +741,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     </message>
     <message id="IDS_PASSWORDS_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Una contraseña tiene de 1 a 32 letras sin tilde ni eñe, dígitos o signos. La unidad permite cualquier número de intentos con la primera, así que elija una difícil de adivinar. Una contraseña olvidada no se puede recuperar.</translation>
+        <translation>Una contraseña tiene de 1 a 32 letras, dígitos o signos, sin tildes ni eñe. La unidad permite cualquier número de intentos con la primera, así que elija una difícil de adivinar. Una contraseña olvidada no se puede recuperar.</translation>
     </message>
     <message id="IDS_PASSWORDS_NUMBER_NAME">
         <source>Number of passwords</source>

@@ -130,7 +130,7 @@ Vers&#xa0;: %2</translation>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
-        <translation>Le disque n’est pas devenu prêt&#xa0;; rien n’y a été modifié. Le programme va se fermer. Débranchez et rebranchez le disque, puis relancez le programme.</translation>
+        <translation>Le disque n’était pas prêt&#xa0;; rien n’y a été modifié. Le programme va se fermer. Débranchez et rebranchez le disque, puis relancez le programme.</translation>
     </message>
     <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
         <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
@@ -208,12 +208,12 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_HINT_DRIVE_IN_USE">
         <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
-        <translation>Un ZELTO DISK branché n’est pas dans cette liste, car une autre instance de ce programme l’utilise. Fermez-la, puis relancez ce programme.</translation>
+        <translation>Un ZELTO DISK branché n’est pas dans cette liste, car une autre instance de ce programme l’utilise. Fermez cette instance, puis relancez ce programme.</translation>
     </message>
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
         <extracomment>%1 is a list of programs</extracomment>
-        <translation>Utilisent encore le disque&#xa0;: %1</translation>
+        <translation>Disque encore utilisé par&#xa0;: %1</translation>
     </message>
     <message id="IDS_HINT_NEXT_AREAS">
         <source>Next: lay out the areas.</source>

@@ -130,7 +130,7 @@ A: %2</translation>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
-        <translation>L’unità non è diventata pronta, quindi non è stato modificato nulla. Ora il programma si chiude. Scollegare e ricollegare l’unità e avviare di nuovo il programma.</translation>
+        <translation>L’unità non era pronta, quindi non vi è stato modificato nulla. Ora il programma si chiude. Scollegare e ricollegare l’unità e avviare di nuovo il programma.</translation>
     </message>
     <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
         <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
@@ -213,7 +213,7 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
         <extracomment>%1 is a list of programs</extracomment>
-        <translation>Usano ancora l’unità: %1</translation>
+        <translation>Unità ancora usata da: %1</translation>
     </message>
     <message id="IDS_HINT_NEXT_AREAS">
         <source>Next: lay out the areas.</source>
@@ -340,7 +340,7 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
     </message>
     <message id="IDS_HINT_SECURE_CHOICE_DROPPED">
         <source>Only Disk1 keeps its choice when this window opens. To make Disk2 or Disk3 secure, choose it again.</source>
-        <translation>Solo Disk1 mantiene la sua scelta quando si apre questa finestra. Per proteggere Disk2 o Disk3, sceglierlo di nuovo.</translation>
+        <translation>Solo Disk1 mantiene la sua scelta quando si apre questa finestra. Per proteggere Disk2 o Disk3, ripetere la scelta.</translation>
     </message>
     <message id="IDS_HINT_TRIALS_ERASE">
         <source>After that many wrong second passwords the drive erases its key for good.</source>
