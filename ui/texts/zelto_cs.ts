@@ -130,11 +130,11 @@ Kam: %2</translation>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
-        <translation>Jednotka se nestala připravenou, proto na ní nebylo nic změněno. Program se nyní zavře. Jednotku odpojte a připojte a spusťte program znovu.</translation>
+        <translation>Jednotka nebyla připravena, proto na ní nebylo nic změněno. Program se nyní zavře. Jednotku odpojte a připojte a spusťte program znovu.</translation>
     </message>
     <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
         <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
-        <translation>Zvolili jste ruční zadání šifrovacího klíče, ale žádný zatím není zadán. Zadejte klíč, nebo jej nechte vytvořit jednotku.</translation>
+        <translation>Zvolili jste ruční zadání šifrovacího klíče, ale žádný zatím není zadán. Zadejte klíč, nebo nechte jednotku, ať jej vytvoří.</translation>
     </message>
     <message id="IDS_ERR_CURRENT_1ST_PASSWORD_INVALID">
         <source>The current first password is not right, so the first password was not changed. If you are changing two passwords, the second one has been changed already: from now on its current password is the new one. Check Caps Lock and enter the passwords again.</source>
@@ -142,7 +142,7 @@ Kam: %2</translation>
     </message>
     <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
         <source>The current second password is not right, so no password was changed. Check Caps Lock and enter it again.</source>
-        <translation>Současné druhé heslo není správné, takže žádné heslo nebylo změněno. Zkontrolujte Caps Lock a zadejte jej znovu.</translation>
+        <translation>Současné druhé heslo není správné, takže žádné heslo nebylo změněno. Zkontrolujte Caps Lock a zadejte je znovu.</translation>
     </message>
     <message id="IDS_ERR_ZELTO_NOT_UNLOCKING">
         <source>The drive is locked. Log in to it first, then try again.</source>
@@ -665,7 +665,7 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     </message>
     <message id="IDS_CHANGE_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Heslo má 1 až 32 písmen bez diakritiky, číslic nebo znaků. U prvního dovoluje jednotka libovolný počet pokusů, proto je zvolte těžko uhodnutelné. Zapomenuté heslo nelze obnovit.</translation>
+        <translation>Heslo má 1 až 32 písmen bez diakritiky, číslic nebo symbolů. U prvního dovoluje jednotka libovolný počet pokusů, proto je zvolte těžko uhodnutelné. Zapomenuté heslo nelze obnovit.</translation>
     </message>
     <message id="IDS_CHANGE_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -741,7 +741,7 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     </message>
     <message id="IDS_PASSWORDS_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Heslo má 1 až 32 písmen bez diakritiky, číslic nebo znaků. U prvního dovoluje jednotka libovolný počet pokusů, proto je zvolte těžko uhodnutelné. Zapomenuté heslo nelze obnovit.</translation>
+        <translation>Heslo má 1 až 32 písmen bez diakritiky, číslic nebo symbolů. U prvního dovoluje jednotka libovolný počet pokusů, proto je zvolte těžko uhodnutelné. Zapomenuté heslo nelze obnovit.</translation>
     </message>
     <message id="IDS_PASSWORDS_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -1116,19 +1116,19 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     <message id="IDS_STRENGTH_WEAK">
         <source>Strength: weak</source>
         <extracomment>Of a new password; a bar of four parts stands before it</extracomment>
-        <translation>Síla: slabé</translation>
+        <translation>Síla: nízká</translation>
     </message>
     <message id="IDS_STRENGTH_FAIR">
         <source>Strength: fair</source>
-        <translation>Síla: průměrné</translation>
+        <translation>Síla: střední</translation>
     </message>
     <message id="IDS_STRENGTH_GOOD">
         <source>Strength: good</source>
-        <translation>Síla: dobré</translation>
+        <translation>Síla: dobrá</translation>
     </message>
     <message id="IDS_STRENGTH_STRONG">
         <source>Strength: strong</source>
-        <translation>Síla: silné</translation>
+        <translation>Síla: vysoká</translation>
     </message>
     <message id="IDS_HELP_BUTTON">
         <source>&amp;Help</source>

@@ -130,7 +130,7 @@ Naar: %2</translation>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
-        <translation>Het station werd niet gereed, daarom is er niets op gewijzigd. Het programma wordt nu gesloten. Koppel het station los en weer aan, en start het programma opnieuw.</translation>
+        <translation>Het station was niet gereed, daarom is er niets op gewijzigd. Het programma wordt nu gesloten. Koppel het station los en weer aan, en start het programma opnieuw.</translation>
     </message>
     <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
         <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
@@ -208,7 +208,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_HINT_DRIVE_IN_USE">
         <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
-        <translation>Een aangesloten ZELTO DISK staat niet in deze lijst, omdat dit programma nog eens draait en hem gebruikt. Sluit dat andere programma en start dit programma dan opnieuw.</translation>
+        <translation>Een aangesloten ZELTO DISK staat niet in deze lijst, omdat een ander exemplaar van dit programma hem gebruikt. Sluit dat exemplaar en start dit programma dan opnieuw.</translation>
     </message>
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
@@ -229,15 +229,15 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_HINT_AUTO_CLEAR_DAYS">
         <source>Erase the key after: enter 1 to 9999 days.</source>
-        <translation>Sleutel wissen na: voer 1 tot 9999 dagen in.</translation>
+        <translation>Sleutel wissen na: voer 1 t/m 9999 dagen in.</translation>
     </message>
     <message id="IDS_HINT_AUTO_CLEAR_MINUTES">
         <source>Erase the key after: enter 1 to 999 minutes.</source>
-        <translation>Sleutel wissen na: voer 1 tot 999 minuten in.</translation>
+        <translation>Sleutel wissen na: voer 1 t/m 999 minuten in.</translation>
     </message>
     <message id="IDS_HINT_AUTO_LOG_OFF_MINUTES">
         <source>Log off after: enter 1 to 999 minutes.</source>
-        <translation>Afmelden na: voer 1 tot 999 minuten in.</translation>
+        <translation>Afmelden na: voer 1 t/m 999 minuten in.</translation>
     </message>
     <message id="IDS_HINT_AREA_DIGITS">
         <source>Sizes are whole numbers of MB.</source>
@@ -289,7 +289,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_HINT_TRIALS">
         <source>Next: enter how many tries are allowed, 1 to 99.</source>
-        <translation>Volgende stap: het aantal toegestane pogingen invoeren, 1 tot 99.</translation>
+        <translation>Volgende stap: het aantal toegestane pogingen invoeren, 1 t/m 99.</translation>
     </message>
     <message id="IDS_HINT_KEY_MISSING">
         <source>Next: enter the digits of the key.</source>
@@ -297,7 +297,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_HINT_KEY_DIGITS">
         <source>Only the digits 0 to 9 and A to F can be used.</source>
-        <translation>Alleen de cijfers 0 tot 9 en A tot F kunnen worden gebruikt.</translation>
+        <translation>Alleen de cijfers 0 t/m 9 en A t/m F kunnen worden gebruikt.</translation>
     </message>
     <message id="IDS_HINT_KEY_ODD">
         <source>One digit is missing.</source>
@@ -331,12 +331,12 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_HINT_SET_CLOCK_CLOSES">
         <source>Setting the clock closes the program; what was entered is lost.</source>
-        <translation>Het gelijkzetten van de klok sluit het programma; wat is ingevoerd gaat verloren.</translation>
+        <translation>Het gelijkzetten van de klok sluit het programma; wat is ingevoerd, gaat verloren.</translation>
     </message>
     <message id="IDS_HINT_PERIOD_ZERO">
         <source>A period that shows 0 is switched off by OK.</source>
         <extracomment>Names the button OK</extracomment>
-        <translation>Een periode die 0 toont wordt met OK uitgeschakeld.</translation>
+        <translation>Een periode die 0 toont, wordt met OK uitgeschakeld.</translation>
     </message>
     <message id="IDS_HINT_SECURE_CHOICE_DROPPED">
         <source>Only Disk1 keeps its choice when this window opens. To make Disk2 or Disk3 secure, choose it again.</source>
@@ -344,7 +344,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_HINT_TRIALS_ERASE">
         <source>After that many wrong second passwords the drive erases its key for good.</source>
-        <translation>Na zo veel onjuiste tweede wachtwoorden wist het station zijn sleutel voorgoed.</translation>
+        <translation>Na dat aantal onjuiste tweede wachtwoorden wist het station zijn sleutel voorgoed.</translation>
     </message>
     <message id="IDS_AREAS_TITLE">
         <source>ZELTO DISK: Areas</source>
@@ -471,7 +471,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_KEY_EXPLANATION">
         <source>An even number of hexadecimal digits, 0 to 9 and A to F, 128 at the most. Keep a copy in a safe place.</source>
-        <translation>Een even aantal hexadecimale cijfers, 0 tot 9 en A tot F, hoogstens 128. Bewaar een kopie op een veilige plek.</translation>
+        <translation>Een even aantal hexadecimale cijfers, 0 t/m 9 en A t/m F, hoogstens 128. Bewaar een kopie op een veilige plek.</translation>
     </message>
     <message id="IDS_KEY_KEY">
         <source>&amp;Key:</source>
@@ -665,7 +665,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_CHANGE_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Een wachtwoord heeft 1 tot 32 letters, cijfers of leestekens, zonder accenten. Bij het eerste staat het station onbeperkt veel pogingen toe, dus maak het moeilijk te raden. Een vergeten wachtwoord kan niet worden hersteld.</translation>
+        <translation>Een wachtwoord heeft 1 t/m 32 letters, cijfers of symbolen, zonder accenten. Bij het eerste staat het station onbeperkt veel pogingen toe, dus maak het moeilijk te raden. Een vergeten wachtwoord kan niet worden hersteld.</translation>
     </message>
     <message id="IDS_CHANGE_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -741,7 +741,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_PASSWORDS_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Een wachtwoord heeft 1 tot 32 letters, cijfers of leestekens, zonder accenten. Bij het eerste staat het station onbeperkt veel pogingen toe, dus maak het moeilijk te raden. Een vergeten wachtwoord kan niet worden hersteld.</translation>
+        <translation>Een wachtwoord heeft 1 t/m 32 letters, cijfers of symbolen, zonder accenten. Bij het eerste staat het station onbeperkt veel pogingen toe, dus maak het moeilijk te raden. Een vergeten wachtwoord kan niet worden hersteld.</translation>
     </message>
     <message id="IDS_PASSWORDS_NUMBER_NAME">
         <source>Number of passwords</source>

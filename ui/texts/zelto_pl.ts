@@ -633,7 +633,7 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
     </message>
     <message id="IDS_SETTINGS_ERASE_KEY_EXPLANATION">
         <source>Without its key the secure area can never be read again.</source>
-        <translation>Bez klucza obszaru bezpiecznego nie będzie można nigdy odczytać.</translation>
+        <translation>Bez klucza już nigdy nie odczytasz obszaru bezpiecznego.</translation>
     </message>
     <message id="IDS_SETTINGS_ERASE_KEY">
         <source>Erase Ke&amp;y…</source>
@@ -665,7 +665,7 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
     </message>
     <message id="IDS_CHANGE_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Hasło ma od 1 do 32 liter bez znaków diakrytycznych, cyfr lub znaków. Przy pierwszym napęd dopuszcza dowolną liczbę prób, więc powinno być trudne do odgadnięcia. Zapomnianego hasła nie można odzyskać.</translation>
+        <translation>Hasło ma od 1 do 32 liter bez znaków diakrytycznych, cyfr lub symboli. Przy pierwszym napęd dopuszcza dowolną liczbę prób, więc powinno być trudne do odgadnięcia. Zapomnianego hasła nie można odzyskać.</translation>
     </message>
     <message id="IDS_CHANGE_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -741,7 +741,7 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
     </message>
     <message id="IDS_PASSWORDS_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Hasło ma od 1 do 32 liter bez znaków diakrytycznych, cyfr lub znaków. Przy pierwszym napęd dopuszcza dowolną liczbę prób, więc powinno być trudne do odgadnięcia. Zapomnianego hasła nie można odzyskać.</translation>
+        <translation>Hasło ma od 1 do 32 liter bez znaków diakrytycznych, cyfr lub symboli. Przy pierwszym napęd dopuszcza dowolną liczbę prób, więc powinno być trudne do odgadnięcia. Zapomnianego hasła nie można odzyskać.</translation>
     </message>
     <message id="IDS_PASSWORDS_NUMBER_NAME">
         <source>Number of passwords</source>

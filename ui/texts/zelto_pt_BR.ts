@@ -123,7 +123,7 @@ Para o suporte: chave de detecção %1, código %2, qualificador %3.</translatio
 From: %1
 To: %2</source>
         <extracomment>%1 and %2 are names of files</extracomment>
-        <translation>A unidade está configurada e pode ser usada. Apenas este programa não pôde ser copiado para a área de ferramentas: use-a com o programa deste computador.
+        <translation>A unidade está configurada e pode ser usada. Apenas este programa não pôde ser copiado para a área de ferramentas: use a unidade com o programa deste computador.
 
 De: %1
 Para: %2</translation>
@@ -356,7 +356,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Até três áreas; deixe em 0 MB as que não precisar. Uma delas pode ser segura: fica oculta até você entrar.</translation>
+        <translation>Até três áreas; deixe em 0 MB as desnecessárias. Uma delas pode ser segura: fica oculta até você entrar.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>
@@ -665,7 +665,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     </message>
     <message id="IDS_CHANGE_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Uma senha tem de 1 a 32 letras sem acento nem cedilha, dígitos ou sinais. A unidade permite qualquer número de tentativas na primeira, então torne-a difícil de adivinhar. Uma senha esquecida não pode ser recuperada.</translation>
+        <translation>Uma senha tem de 1 a 32 letras sem acento nem cedilha, dígitos ou símbolos. A unidade permite qualquer número de tentativas na primeira, então torne-a difícil de adivinhar. Uma senha esquecida não pode ser recuperada.</translation>
     </message>
     <message id="IDS_CHANGE_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -741,7 +741,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     </message>
     <message id="IDS_PASSWORDS_EXPLANATION">
         <source>A password has 1 to 32 letters, digits or signs, without accents. The drive allows any number of tries at the first one, so make it hard to guess. A forgotten password can not be recovered.</source>
-        <translation>Uma senha tem de 1 a 32 letras sem acento nem cedilha, dígitos ou sinais. A unidade permite qualquer número de tentativas na primeira, então torne-a difícil de adivinhar. Uma senha esquecida não pode ser recuperada.</translation>
+        <translation>Uma senha tem de 1 a 32 letras sem acento nem cedilha, dígitos ou símbolos. A unidade permite qualquer número de tentativas na primeira, então torne-a difícil de adivinhar. Uma senha esquecida não pode ser recuperada.</translation>
     </message>
     <message id="IDS_PASSWORDS_NUMBER_NAME">
         <source>Number of passwords</source>
@@ -839,7 +839,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     </message>
     <message id="IDS_UNLOCKED_EXPLANATION">
         <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off before you unplug the drive or leave the computer.</source>
-        <translation>A área segura está aberta e aparece ao lado dos seus outros discos. Uma nova está vazia: formate-a uma vez. Saia antes de desconectar a unidade ou deixar o computador.</translation>
+        <translation>A área segura está aberta e aparece ao lado dos seus outros discos. Uma nova está vazia: formate-a uma vez. Saia da unidade antes de desconectá-la ou deixar o computador.</translation>
     </message>
     <message id="IDS_UNLOCKED_SETTINGS">
         <source>&amp;Settings…</source>
@@ -873,7 +873,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     </message>
     <message id="IDS_UNLOCKING_EXPLANATION">
         <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off to lock it again, or keep it unlocked and go on working with it.</source>
-        <translation>A área segura está aberta e aparece ao lado dos seus outros discos. Uma nova está vazia: formate-a uma vez. Saia para bloqueá-la de novo, ou mantenha-a desbloqueada e continue trabalhando com ela.</translation>
+        <translation>A área segura está aberta e aparece ao lado dos seus outros discos. Uma nova está vazia: formate-a uma vez. Saia da unidade para bloqueá-la de novo, ou mantenha-a desbloqueada e continue a usá-la.</translation>
     </message>
     <message id="IDS_UNLOCKING_SETTINGS">
         <source>&amp;Settings…</source>

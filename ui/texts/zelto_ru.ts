@@ -36,7 +36,7 @@ Set the drive’s clock to this computer’s time, %1? Check first that this tim
         <extracomment>%1 is a date and time</extracomment>
         <translation>Часы накопителя остановились, поэтому он заблокировался.
 
-Установить часы накопителя по времени этого компьютера, %1? Сначала убедитесь, что это время верно. Если у накопителя ещё есть ключ, затем в него можно будет войти.</translation>
+Установить часы накопителя по времени этого компьютера, %1? Сначала убедитесь, что это время верно. Если у накопителя ещё есть ключ, потом в него можно будет войти.</translation>
     </message>
     <message id="IDS_SET_CURRENT_YIME">
         <source>The drive’s clock has been set. The program now closes. Start it again: it then says whether you can log in.</source>
@@ -130,7 +130,7 @@ To: %2</source>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
-        <translation>Накопитель не пришёл в готовность, поэтому на нём ничего не изменено. Сейчас программа закроется. Отключите и подключите накопитель и запустите программу снова.</translation>
+        <translation>Накопитель не готов, поэтому на нём ничего не изменено. Сейчас программа закроется. Отключите и подключите накопитель и запустите программу снова.</translation>
     </message>
     <message id="IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP">
         <source>You chose to enter the encryption key by hand, but there is none yet. Enter a key, or let the drive make one.</source>
@@ -142,7 +142,7 @@ To: %2</source>
     </message>
     <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
         <source>The current second password is not right, so no password was changed. Check Caps Lock and enter it again.</source>
-        <translation>Текущий второй пароль неверен, поэтому ни один пароль не изменён. Проверьте Caps Lock и введите его снова.</translation>
+        <translation>Текущий второй пароль неверен, поэтому ни один пароль не изменён. Проверьте Caps Lock и введите пароль снова.</translation>
     </message>
     <message id="IDS_ERR_ZELTO_NOT_UNLOCKING">
         <source>The drive is locked. Log in to it first, then try again.</source>
@@ -281,7 +281,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_PASSWORD_ACCENTS">
         <source>Letters with accents cannot be used in a password.</source>
-        <translation>В пароле можно использовать только латинские буквы без диакритики.</translation>
+        <translation>Буквы в пароле могут быть только латинскими без диакритики.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>
@@ -633,7 +633,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETTINGS_ERASE_KEY_EXPLANATION">
         <source>Without its key the secure area can never be read again.</source>
-        <translation>Без ключа защищённую область никогда нельзя будет прочитать.</translation>
+        <translation>Без ключа защищённую область больше никогда не прочитать.</translation>
     </message>
     <message id="IDS_SETTINGS_ERASE_KEY">
         <source>Erase Ke&amp;y…</source>
@@ -1116,19 +1116,19 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_STRENGTH_WEAK">
         <source>Strength: weak</source>
         <extracomment>Of a new password; a bar of four parts stands before it</extracomment>
-        <translation>Надёжность: слабый</translation>
+        <translation>Надёжность: низкая</translation>
     </message>
     <message id="IDS_STRENGTH_FAIR">
         <source>Strength: fair</source>
-        <translation>Надёжность: средний</translation>
+        <translation>Надёжность: средняя</translation>
     </message>
     <message id="IDS_STRENGTH_GOOD">
         <source>Strength: good</source>
-        <translation>Надёжность: хороший</translation>
+        <translation>Надёжность: хорошая</translation>
     </message>
     <message id="IDS_STRENGTH_STRONG">
         <source>Strength: strong</source>
-        <translation>Надёжность: сильный</translation>
+        <translation>Надёжность: высокая</translation>
     </message>
     <message id="IDS_HELP_BUTTON">
         <source>&amp;Help</source>
