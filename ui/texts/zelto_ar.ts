@@ -115,7 +115,7 @@ For support: sense key %1, code %2, qualifier %3.</source>
     </message>
     <message id="IDS_ERR_FORMAT">
         <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
-        <translation>أُعدّ القرص ويمكن استخدامه. تعذّرت تهيئة منطقة الأدوات فقط، ولذلك لا يحمل القرص هذا البرنامج: استخدم القرص بالبرنامج الذي على هذا الحاسوب.</translation>
+        <translation>أُعدّ القرص ويمكن استخدامه. لكن تعذّرت تهيئة منطقة الأدوات، ولذلك لا يحمل القرص هذا البرنامج: استخدم القرص بالبرنامج الذي على هذا الحاسوب.</translation>
     </message>
     <message id="IDS_ERR_FILE_COPY">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
@@ -123,7 +123,7 @@ For support: sense key %1, code %2, qualifier %3.</source>
 From: %1
 To: %2</source>
         <extracomment>%1 and %2 are names of files</extracomment>
-        <translation>أُعدّ القرص ويمكن استخدامه. تعذّر نسخ هذا البرنامج إلى منطقة الأدوات فقط: استخدم القرص بالبرنامج الذي على هذا الحاسوب.
+        <translation>أُعدّ القرص ويمكن استخدامه. لكن تعذّر نسخ هذا البرنامج إلى منطقة الأدوات: استخدم القرص بالبرنامج الذي على هذا الحاسوب.
 
 من: %1
 إلى: %2</translation>
@@ -138,7 +138,7 @@ To: %2</source>
     </message>
     <message id="IDS_ERR_CURRENT_1ST_PASSWORD_INVALID">
         <source>The current first password is not right, so the first password was not changed. If you are changing two passwords, the second one has been changed already: from now on its current password is the new one. Check Caps Lock and enter the passwords again.</source>
-        <translation>كلمة السر الأولى الحالية غير صحيحة، ولذلك لم تُغيَّر كلمة السر الأولى. إن كنت تغيّر الكلمتين فقد غُيّرت الثانية بالفعل: من الآن فصاعدًا كلمتها الحالية هي الجديدة. تحقّق من مفتاح Caps Lock وأدخل كلمتي السر من جديد.</translation>
+        <translation>كلمة السر الأولى الحالية غير صحيحة، ولذلك لم تُغيَّر كلمة السر الأولى. إن كنت تغيّر كلمتي السر فقد غُيّرت الثانية بالفعل: من الآن فصاعدًا الجديدة هي كلمة السر الثانية الحالية. تحقّق من مفتاح Caps Lock وأدخل كلمتي السر من جديد.</translation>
     </message>
     <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
         <source>The current second password is not right, so no password was changed. Check Caps Lock and enter it again.</source>
@@ -289,7 +289,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_TRIALS">
         <source>Next: enter how many tries are allowed, 1 to 99.</source>
-        <translation>التالي: أدخل عدد المحاولات المسموحة، من 1 إلى 99.</translation>
+        <translation>التالي: أدخل عدد المحاولات المسموح بها، من 1 إلى 99.</translation>
     </message>
     <message id="IDS_HINT_KEY_MISSING">
         <source>Next: enter the digits of the key.</source>
@@ -717,7 +717,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_CHANGE_TRIES">
         <source>&amp;Tries allowed:</source>
         <extracomment>How often a wrong second password may be entered</extracomment>
-        <translation>المحاولات المسموحة (&amp;و):</translation>
+        <translation>المحاولات المسموح بها (&amp;و):</translation>
     </message>
     <message id="IDS_CHANGE_TRIES_PLACEHOLDER">
         <source>1–99</source>
@@ -782,7 +782,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_PASSWORDS_TRIES">
         <source>&amp;Tries allowed:</source>
-        <translation>المحاولات المسموحة (&amp;ل):</translation>
+        <translation>المحاولات المسموح بها (&amp;ل):</translation>
     </message>
     <message id="IDS_PASSWORDS_TRIES_PLACEHOLDER">
         <source>1–99</source>
@@ -815,7 +815,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SELECT_LOOK_AGAIN">
         <source>&amp;Look Again</source>
-        <translation>بحث مجدد (&amp;ب)</translation>
+        <translation>البحث مجددًا (&amp;ب)</translation>
     </message>
     <message id="IDS_SELECT_LOOK_AGAIN_DESCRIPTION">
         <source>Looks again for drives that were plugged in meanwhile</source>

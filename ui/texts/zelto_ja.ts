@@ -46,7 +46,7 @@ Set the drive’s clock to this computer’s time, %1? Check first that this tim
         <source>The drive has locked itself for good and its key is gone: after too many wrong passwords, because its time ran out, or because the key was erased. What was in the secure area cannot be read any more, by anyone.
 
 To use the drive again, start this program if it has closed, choose “Clear All” in the settings, then plug the drive out and in and start the program once more to set it up.</source>
-        <translation>ドライブは完全にロックされ、鍵は失われました。パスワードを間違えた回数が多すぎた、期限が切れた、または鍵が消去されたためです。セキュア領域の内容は、もう誰にも読み出せません。
+        <translation>ドライブは永久にロックされ、鍵は失われました。パスワードを間違えた回数が多すぎた、期限が切れた、または鍵が消去されたためです。セキュア領域の内容は、もう誰にも読み出せません。
 
 ドライブを再び使うには、このプログラムが終了していれば起動し、設定で「すべて消去」を選んでください。その後ドライブを抜き差しし、プログラムをもう一度起動してセットアップします。</translation>
     </message>
@@ -208,7 +208,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_DRIVE_IN_USE">
         <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
-        <translation>接続されている ZELTO DISK のうち 1 台は、このプログラムの別のコピーが使っているため、一覧にありません。そのコピーを閉じてから、このプログラムをもう一度起動してください。</translation>
+        <translation>接続されている ZELTO DISK のうち 1 台は、このプログラムがもう 1 つ起動していて使用中のため、一覧にありません。そちらを終了してから、このプログラムをもう一度起動してください。</translation>
     </message>
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
@@ -217,11 +217,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_NEXT_AREAS">
         <source>Next: lay out the areas.</source>
-        <translation>次へ: 領域を割り当ててください。</translation>
+        <translation>次に、領域を割り当ててください。</translation>
     </message>
     <message id="IDS_HINT_NEXT_PASSWORDS">
         <source>Next: choose the passwords.</source>
-        <translation>次へ: パスワードを決めてください。</translation>
+        <translation>次に、パスワードを決めてください。</translation>
     </message>
     <message id="IDS_HINT_NOTHING_CHANGED">
         <source>Nothing has been changed yet.</source>
@@ -245,15 +245,15 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_AREA_DISK1">
         <source>Next: enter a size for Disk1.</source>
-        <translation>次へ: Disk1 のサイズを入力してください。</translation>
+        <translation>次に、Disk1 のサイズを入力してください。</translation>
     </message>
     <message id="IDS_HINT_FIRST_MISSING">
         <source>Next: enter the first password.</source>
-        <translation>次へ: 第 1 パスワードを入力してください。</translation>
+        <translation>次に、第 1 パスワードを入力してください。</translation>
     </message>
     <message id="IDS_HINT_FIRST_AGAIN">
         <source>Next: enter the first password again.</source>
-        <translation>次へ: 第 1 パスワードをもう一度入力してください。</translation>
+        <translation>次に、第 1 パスワードをもう一度入力してください。</translation>
     </message>
     <message id="IDS_HINT_FIRST_DIFFERS">
         <source>The two entries of the first password differ.</source>
@@ -261,11 +261,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_SECOND_MISSING">
         <source>Next: enter the second password.</source>
-        <translation>次へ: 第 2 パスワードを入力してください。</translation>
+        <translation>次に、第 2 パスワードを入力してください。</translation>
     </message>
     <message id="IDS_HINT_SECOND_AGAIN">
         <source>Next: enter the second password again.</source>
-        <translation>次へ: 第 2 パスワードをもう一度入力してください。</translation>
+        <translation>次に、第 2 パスワードをもう一度入力してください。</translation>
     </message>
     <message id="IDS_HINT_SECOND_DIFFERS">
         <source>The two entries of the second password differ.</source>
@@ -273,11 +273,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_CURRENT_FIRST_MISSING">
         <source>Next: enter the current first password.</source>
-        <translation>次へ: 現在の第 1 パスワードを入力してください。</translation>
+        <translation>次に、現在の第 1 パスワードを入力してください。</translation>
     </message>
     <message id="IDS_HINT_CURRENT_SECOND_MISSING">
         <source>Next: enter the current second password.</source>
-        <translation>次へ: 現在の第 2 パスワードを入力してください。</translation>
+        <translation>次に、現在の第 2 パスワードを入力してください。</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_ACCENTS">
         <source>Letters with accents cannot be used in a password.</source>
@@ -289,11 +289,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_TRIALS">
         <source>Next: enter how many tries are allowed, 1 to 99.</source>
-        <translation>次へ: 許可する試行回数を入力してください (1～99)。</translation>
+        <translation>次に、許可する試行回数を入力してください (1～99)。</translation>
     </message>
     <message id="IDS_HINT_KEY_MISSING">
         <source>Next: enter the digits of the key.</source>
-        <translation>次へ: 鍵の数字を入力してください。</translation>
+        <translation>次に、鍵の数字を入力してください。</translation>
     </message>
     <message id="IDS_HINT_KEY_DIGITS">
         <source>Only the digits 0 to 9 and A to F can be used.</source>
@@ -327,7 +327,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_HINT_CLOSES">
         <source>OK, Cancel, Erase Key and Clear All close the program.</source>
         <extracomment>Names the buttons of the window as they are called there</extracomment>
-        <translation>OK、キャンセル、鍵を消去、すべて消去を押すと、プログラムは終了します。</translation>
+        <translation>「OK」「キャンセル」「鍵を消去」「すべて消去」を押すと、プログラムは終了します。</translation>
     </message>
     <message id="IDS_HINT_SET_CLOCK_CLOSES">
         <source>Setting the clock closes the program; what was entered is lost.</source>

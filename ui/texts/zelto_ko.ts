@@ -52,7 +52,7 @@ To use the drive again, start this program if it has closed, choose “Clear All
     </message>
     <message id="IDS_ERR_AUTHENTICATE_FAILED">
         <source>This password is not right. Check Caps Lock and try again; the drive may allow only a few tries.</source>
-        <translation>암호가 맞지 않습니다. Caps Lock을 확인하고 다시 시도하세요. 드라이브가 몇 번만 시도를 허용할 수 있습니다.</translation>
+        <translation>암호가 맞지 않습니다. Caps Lock을 확인하고 다시 시도하세요. 시도 횟수가 몇 번으로 제한되어 있을 수 있습니다.</translation>
     </message>
     <message id="IDS_ERR_UNMOUNT">
         <source>The drive’s volumes could not be released; most often a program still uses a file on them. Nothing else was done: a drive that was unlocked is still unlocked.
@@ -208,7 +208,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_DRIVE_IN_USE">
         <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
-        <translation>연결된 ZELTO DISK 하나가 이 목록에 없습니다. 이 프로그램의 다른 사본이 사용하고 있기 때문입니다. 그 사본을 닫은 다음 이 프로그램을 다시 시작하세요.</translation>
+        <translation>연결된 ZELTO DISK 하나가 이 목록에 없습니다. 이 프로그램이 하나 더 실행되어 사용하고 있기 때문입니다. 그 프로그램을 닫은 다음 이 프로그램을 다시 시작하세요.</translation>
     </message>
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
@@ -318,11 +318,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_SETUP_RETRY">
         <source>Before you try again, open the areas and confirm them once more.</source>
-        <translation>다시 시도하기 전에 영역을 열고 한 번 더 확인하세요.</translation>
+        <translation>다시 시도하기 전에 영역을 열고 확인을 한 번 더 누르세요.</translation>
     </message>
     <message id="IDS_HINT_SETUP_TABLE_FULL">
         <source>There is no room for one more attempt in the list of areas. Open the areas, confirm them once more, then try again.</source>
-        <translation>영역 목록에 한 번 더 시도할 자리가 없습니다. 영역을 열고 한 번 더 확인한 다음 다시 시도하세요.</translation>
+        <translation>영역 목록에 한 번 더 시도할 자리가 없습니다. 영역을 열고 확인을 한 번 더 누른 다음 다시 시도하세요.</translation>
     </message>
     <message id="IDS_HINT_CLOSES">
         <source>OK, Cancel, Erase Key and Clear All close the program.</source>
@@ -969,7 +969,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_BAR_TOO_LARGE">
         <source>together more than the drive can hold</source>
         <extracomment>Last in that list</extracomment>
-        <translation>합계가 드라이브에 들어가는 것보다 많습니다</translation>
+        <translation>합계가 드라이브 용량보다 큽니다</translation>
     </message>
     <message id="IDS_LIST_SEPARATOR">
         <source>, </source>

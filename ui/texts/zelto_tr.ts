@@ -36,7 +36,7 @@ Set the drive’s clock to this computer’s time, %1? Check first that this tim
         <extracomment>%1 is a date and time</extracomment>
         <translation>Sürücünün saati durmuş, bu yüzden sürücü kendini kilitledi.
 
-Sürücünün saati bu bilgisayarın saatine, %1, ayarlansın mı? Önce bu saatin doğru olduğunu denetleyin. Sürücünün anahtarı hâlâ duruyorsa ardından oturum açabilirsiniz.</translation>
+Sürücünün saati bu bilgisayarın saatine (%1) ayarlansın mı? Önce bu saatin doğru olduğunu denetleyin. Sürücünün anahtarı hâlâ duruyorsa ardından oturum açabilirsiniz.</translation>
     </message>
     <message id="IDS_SET_CURRENT_YIME">
         <source>The drive’s clock has been set. The program now closes. Start it again: it then says whether you can log in.</source>
@@ -615,7 +615,7 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
         <source>Minutes without use until the drive logs off</source>
-        <translation>Sürücünün oturumu kapatmasından önceki boşta geçen dakika</translation>
+        <translation>Sürücü oturumu kapatana kadar boşta geçecek dakika</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_UNIT">
         <source>minutes without use</source>

@@ -138,7 +138,7 @@ To: %2</source>
     </message>
     <message id="IDS_ERR_CURRENT_1ST_PASSWORD_INVALID">
         <source>The current first password is not right, so the first password was not changed. If you are changing two passwords, the second one has been changed already: from now on its current password is the new one. Check Caps Lock and enter the passwords again.</source>
-        <translation>当前的第一密码不正确，因此未更改第一密码。如果要更改两个密码，则第二密码已经更改：从现在起，新密码就是它的当前密码。请检查大写锁定键，然后重新输入密码。</translation>
+        <translation>当前的第一密码不正确，因此未更改第一密码。如果您正在更改两个密码，则第二密码已经更改：从现在起，新密码就是它的当前密码。请检查大写锁定键，然后重新输入密码。</translation>
     </message>
     <message id="IDS_ERR_CURRENT_2ND_PASSWORD_INVALID">
         <source>The current second password is not right, so no password was changed. Check Caps Lock and enter it again.</source>
@@ -208,7 +208,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_DRIVE_IN_USE">
         <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
-        <translation>有一个已插入的 ZELTO DISK 不在此列表中，因为此程序的另一个副本正在使用它。请关闭该副本，然后重新启动此程序。</translation>
+        <translation>有一个已插入的 ZELTO DISK 不在此列表中，因为此程序的另一个实例正在使用它。请关闭该实例，然后重新启动此程序。</translation>
     </message>
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
@@ -301,11 +301,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_KEY_ODD">
         <source>One digit is missing.</source>
-        <translation>缺少一位数字。</translation>
+        <translation>缺少一个数字。</translation>
     </message>
     <message id="IDS_HINT_KEY_TOO_LONG">
         <source>%1 of 128 digits: that is too many.</source>
-        <translation>%1/128 位：过多。</translation>
+        <translation>%1/128 个数字：过多。</translation>
     </message>
     <message id="IDS_HINT_SETUP_ERASES">
         <source>OK erases everything on this drive and closes this window.</source>
@@ -318,11 +318,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_SETUP_RETRY">
         <source>Before you try again, open the areas and confirm them once more.</source>
-        <translation>重试之前，请打开区域并再次确认。</translation>
+        <translation>重试之前，请打开区域并再次点击“确定”。</translation>
     </message>
     <message id="IDS_HINT_SETUP_TABLE_FULL">
         <source>There is no room for one more attempt in the list of areas. Open the areas, confirm them once more, then try again.</source>
-        <translation>区域列表中没有空间再作一次尝试。请打开区域，再次确认，然后重试。</translation>
+        <translation>区域列表中没有空间再作一次尝试。请打开区域，再次点击“确定”，然后重试。</translation>
     </message>
     <message id="IDS_HINT_CLOSES">
         <source>OK, Cancel, Erase Key and Clear All close the program.</source>
@@ -909,11 +909,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETUP_STEPS_NAME">
         <source>Steps of the set-up</source>
-        <translation>设置步骤</translation>
+        <translation>初始设置步骤</translation>
     </message>
     <message id="IDS_SETUP_PROGRESS_NAME">
         <source>Progress of the set-up</source>
-        <translation>设置进度</translation>
+        <translation>初始设置进度</translation>
     </message>
     <message id="IDS_SETUP_FINISH">
         <source>&amp;Finish</source>
@@ -1031,12 +1031,12 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_FIELD_DIGITS">
         <source>%1 of 128 digits</source>
-        <translation>%1/128 位</translation>
+        <translation>%1/128 个数字</translation>
     </message>
     <message id="IDS_FIELD_DIGITS_ODD">
         <source>%1 of 128 digits, one is missing</source>
         <extracomment>Two digits make a byte; the number is odd</extracomment>
-        <translation>%1/128 位，缺少一位</translation>
+        <translation>%1/128 个数字，缺少一个</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
         <source>Hold to see the password</source>
