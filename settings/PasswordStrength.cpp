@@ -17,7 +17,7 @@ constexpr double GoodFrom = 40;
 constexpr double StrongFrom = 52;
 
 /// More than the estimator ever takes.
-constexpr std::size_t EstimatorsStack = 64 * 1024;
+constexpr std::size_t EstimatorsStack = std::size_t{64} * 1024;
 
 /// The estimator leaves pieces of the password on the stack. What it gives back to the heap is
 /// overwritten there.
