@@ -274,6 +274,7 @@ private:
     void Pause(std::chrono::seconds duration);
 
     // session/AppDelegate_Dispatch.cpp
+    void showWhetherThereAreDrives(bool anyDrive);
     void processFullLock();
     void offerToSetClock();
     /// Asks to quit when no window is on the screen.

@@ -5,6 +5,7 @@
 #include "platform/Desktop.h"
 #include "session/ClockText.h"
 #include "session/DriveSign.h"
+#include "ui/Description.h"
 #include "ui/DeviceRule.h"
 #include "ui/Strings.h"
 
@@ -140,8 +141,19 @@ void AppDelegate::DisplaySelectZeltoWindow() {
     form.SelectZeltoOK->setEnabled(anyDrive);
     form.SelectZeltoComboBox->setCurrentIndex(0);
 
+    showWhetherThereAreDrives(anyDrive);
     UpdateDriveSign();
     UpdateAccessHint();
+}
+
+/// A list that is disabled is out of the keyboard's reach, and nobody hears what it says. So the
+/// same text stands where the focus can go.
+void AppDelegate::showWhetherThereAreDrives(bool anyDrive) {
+    auto& form = SelectZeltoWindow;
+    form.SelectZeltoPluggedIn->setVisible(anyDrive);
+    form.SelectZeltoNoDrive->setVisible(!anyDrive);
+    form.SelectZeltoNoDrive->setText(anyDrive ? QString() : localized("IDS_ERR_NOT_FOUND_ZELTO"));
+    form.SelectZeltoNoDrive->setFocusPolicy(anyDrive ? Qt::NoFocus : Qt::TabFocus);
 }
 
 /// Below the list, of the drive that is chosen in it.
@@ -151,6 +163,7 @@ void AppDelegate::UpdateDriveSign() {
     line.setText(Drives.DevCnt == 0 ? QString()
                                     : wordsOf(driveSign(Drives, static_cast<std::size_t>(chosen))));
     line.setVisible(Drives.DevCnt != 0);
+    describe(*SelectZeltoWindow.SelectZeltoComboBox, line, line.text());
 }
 
 /// Beside the list, of the drives that are attached at this moment.
@@ -158,6 +171,10 @@ void AppDelegate::UpdateAccessHint() {
     auto& hint = *SelectZeltoWindow.SelectZeltoAccessHint;
     hint.setText(accessHint(Drives.refusedAccess()));
     hint.setVisible(Drives.refusedAccess() != AttachedDrives::Access::Granted);
+    for (QWidget* const heard : {static_cast<QWidget*>(SelectZeltoWindow.SelectZeltoComboBox),
+                                 static_cast<QWidget*>(SelectZeltoWindow.SelectZeltoUpdate)}) {
+        describe(*heard, hint, hint.text());
+    }
     SelectZeltoWindow.SelectZeltoShowRule->setVisible(Drives.refusedAccess() ==
                                                       AttachedDrives::Access::RuleMissing);
 }

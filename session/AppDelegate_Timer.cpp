@@ -6,6 +6,7 @@
 #include "session/ClockText.h"
 #include "session/RemainingTime.h"
 #include "settings/SetupProgress.h"
+#include "ui/Description.h"
 #include "ui/Strings.h"
 
 #include <utility>
@@ -34,8 +35,8 @@ void AppDelegate::TimerHandler() {
     }
 
     const auto now = m_platform.clock.now();
-    MainSettingsWindow.PCTimeText->setText(
-        dateTimeText(clockAt(now + m_platform.clock.utcOffset(now))));
+    showValue(*MainSettingsWindow.PCTimeText,
+              dateTimeText(clockAt(now + m_platform.clock.utcOffset(now))));
 
     if (Drives.CurrentUsbIntf == nullptr) {
         return;
@@ -46,11 +47,11 @@ void AppDelegate::TimerHandler() {
     }
     showDriveTime(time.record);
     if (DisplayRemainingTimeAuthenticateWindow) {
-        AuthenticateWindow.AuthenticateRemainingTimeText->setText(
-            remainingTimeText(time.record, {.expired = localized("IDS_EXPIRED"),
-                                            .days = localized("IDS_DAYS"),
-                                            .hours = localized("IDS_HOURS"),
-                                            .minutes = localized("IDS_MIN")}));
+        showValue(*AuthenticateWindow.AuthenticateRemainingTimeText,
+                  remainingTimeText(time.record, {.expired = localized("IDS_EXPIRED"),
+                                                  .days = localized("IDS_DAYS"),
+                                                  .hours = localized("IDS_HOURS"),
+                                                  .minutes = localized("IDS_MIN")}));
     }
 }
 
@@ -106,12 +107,17 @@ void AppDelegate::formatAndCopy(const SetupProgress& before) {
 
 void AppDelegate::showSetup(const SetupView& view) {
     auto& form = ZeltoSettingWindow;
-    form.ZeltoSettingText->setText(setupText(view.text));
+    showValue(*form.ZeltoSettingText, setupText(view.text));
     form.SetupStepsView->setCurrentStep(view.step);
     if (view.outcome == SetupView::Outcome::Failed) {
         form.SetupStepsView->setFailed();
     }
-    form.ZeltoSettingOKButton->setEnabled(view.outcome == SetupView::Outcome::Done);
+    const bool isDone = view.outcome == SetupView::Outcome::Done;
+    form.ZeltoSettingOKButton->setEnabled(isDone);
+    if (isDone) {
+        describe(*form.ZeltoSettingOKButton, *form.ZeltoSettingText, form.ZeltoSettingText->text());
+        form.ZeltoSettingOKButton->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void AppDelegate::showDriveTime(const TimeStatus& status) {
@@ -122,8 +128,8 @@ void AppDelegate::showDriveTime(const TimeStatus& status) {
     } else if (const auto moment = momentOf(status.clock)) {
         text = dateTimeText(clockAt(*moment + m_platform.clock.utcOffset(*moment)));
     }
-    MainSettingsWindow.DeviceTimeText->setText(text);
-    AuthenticateWindow.AuthenticateDeviceTimeText->setText(text);
+    showValue(*MainSettingsWindow.DeviceTimeText, text);
+    showValue(*AuthenticateWindow.AuthenticateDeviceTimeText, text);
 }
 
 IOReturn AppDelegate::SetCurrentTime() {

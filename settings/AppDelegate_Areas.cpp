@@ -4,6 +4,7 @@
 #include "settings/AreaTexts.h"
 #include "ui/AreaBar.h"
 #include "ui/AreaTableModel.h"
+#include "ui/Description.h"
 #include "ui/Strings.h"
 
 #include <algorithm>
@@ -99,10 +100,12 @@ void AppDelegate::UpdateAreaSettingsWindow() {
     const AreaDialogVerdict verdict = judgeAreaDialog(texts, Settings.TotalSectorCount);
     // Kept even when they are refused: a dialog that is opened again shows what was typed.
     Settings.AreaSettingsDiskCapacity = verdict.mebibytes;
-    form.LeftCapacityText->setText(
+    const QString left =
         verdict.leftMebibytes < 0
             ? localized("IDS_CAPACITY_OVER")
-            : localized("IDS_FREE_CAPACITY", static_cast<std::uint32_t>(verdict.leftMebibytes)));
+            : localized("IDS_FREE_CAPACITY", static_cast<std::uint32_t>(verdict.leftMebibytes));
+    showValue(*form.LeftCapacityText, left);
+    sayBesideFocus(*form.LeftCapacityText, left);
     form.AreaSettingsOKButton->setEnabled(verdict.isComplete);
     // Of areas that are too large the line above has told already.
     const Obstacle obstacle = areaObstacle(texts, verdict);

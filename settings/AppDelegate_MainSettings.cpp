@@ -2,6 +2,7 @@
 #include "device/DeviceReads.h"
 #include "settings/AreaPacking.h"
 #include "settings/SettingsCues.h"
+#include "ui/Description.h"
 #include "ui/Strings.h"
 
 #include <utility>
@@ -56,8 +57,8 @@ AreaView AppDelegate::keepAreaView() {
 }
 
 void AppDelegate::showFreeCapacity(const AreaView& areas) {
-    MainSettingsWindow.FreeCapacityText->setText(
-        localized("IDS_FREE_CAPACITY", mebibytesOfSectors(areas.freeSectors)));
+    showValue(*MainSettingsWindow.FreeCapacityText,
+              localized("IDS_FREE_CAPACITY", mebibytesOfSectors(areas.freeSectors)));
 }
 
 bool AppDelegate::readAreasForSettings() {
@@ -75,7 +76,7 @@ bool AppDelegate::readAreasForSettings() {
         MainSettingsWindow.AreaSettingsButton->setEnabled(false);
     }
     const std::uint64_t mebibytes = mebibytesOfSectors(Settings.TotalSectorCount);
-    MainSettingsWindow.TotalCapacityText->setText(localized("IDS_TOTAL_CAPACITY", mebibytes));
+    showValue(*MainSettingsWindow.TotalCapacityText, localized("IDS_TOTAL_CAPACITY", mebibytes));
     Settings.AreaSettingsDiskCapacity[0] = mebibytes;
     return true;
 }
@@ -189,11 +190,11 @@ void AppDelegate::UpdateMainSettingsOKButtonAtChanging() {
 
 void AppDelegate::showObstacle(QLabel& line, const Obstacle& obstacle) const {
     if (obstacle.key == nullptr) {
-        line.clear();
+        sayBesideFocus(line, {});
     } else if (obstacle.number == 0) {
-        line.setText(localized(obstacle.key));
+        sayBesideFocus(line, localized(obstacle.key));
     } else {
-        line.setText(localized(obstacle.key, obstacle.number));
+        sayBesideFocus(line, localized(obstacle.key, obstacle.number));
     }
 }
 

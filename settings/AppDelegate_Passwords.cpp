@@ -2,6 +2,7 @@
 #include "settings/IntegerValue.h"
 #include "settings/PasswordRules.h"
 #include "settings/PasswordStrength.h"
+#include "ui/Description.h"
 #include "ui/Strings.h"
 
 #include <initializer_list>
@@ -51,6 +52,7 @@ void showStrength(StrengthHint& hint, PasswordField& field) {
     const PasswordStrength strength =
         field.isEnabled() ? passwordStrength(field.secret()) : PasswordStrength::None;
     hint.setStrength(static_cast<int>(strength));
+    describe(field, hint, hint.text());
     field.setAccessibleDescription(hint.text());
 }
 

@@ -1,5 +1,6 @@
 #include "ui/AreaBar.h"
 
+#include "ui/AccessibleViews.h"
 #include "ui/Glyph.h"
 #include "ui/Strings.h"
 
@@ -83,6 +84,7 @@ QColor fillOf(AreaBar::Kind kind, const QPalette& palette) {
 } // namespace
 
 AreaBar::AreaBar(QWidget* parent) : QWidget(parent) {
+    installAccessibleViews();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setSegments({});
 }

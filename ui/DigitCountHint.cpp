@@ -1,5 +1,6 @@
 #include "ui/DigitCountHint.h"
 
+#include "ui/Description.h"
 #include "ui/SecretField.h"
 #include "ui/Strings.h"
 
@@ -31,6 +32,7 @@ void DigitCountHint::findField() {
 void DigitCountHint::refresh() {
     const qsizetype digits = m_field->secret().size();
     setText(localized(digits % 2 == 0 ? "IDS_FIELD_DIGITS" : "IDS_FIELD_DIGITS_ODD", digits));
+    describe(*m_field, *this, text());
 }
 
 } // namespace zelto

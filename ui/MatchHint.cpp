@@ -1,5 +1,6 @@
 #include "ui/MatchHint.h"
 
+#include "ui/Description.h"
 #include "ui/SecretField.h"
 #include "ui/Strings.h"
 
@@ -43,6 +44,9 @@ void MatchHint::findFields() {
 
 void MatchHint::refresh() {
     setText(verdict());
+    if (m_second != nullptr) {
+        describe(*m_second, *this, text());
+    }
 }
 
 QString MatchHint::verdict() const {

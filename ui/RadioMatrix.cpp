@@ -1,5 +1,7 @@
 #include "ui/RadioMatrix.h"
 
+#include "ui/AccessibleViews.h"
+
 #include <QButtonGroup>
 #include <QChildEvent>
 #include <QRadioButton>
@@ -7,6 +9,7 @@
 namespace zelto {
 
 RadioMatrix::RadioMatrix(QWidget* parent) : QWidget(parent) {
+    installAccessibleViews();
     connect(m_cells, &QButtonGroup::idClicked, this, &RadioMatrix::cellActivated);
 }
 

@@ -1,9 +1,12 @@
 #include "ui/SetupStepsView.h"
 
+#include "ui/AccessibleViews.h"
 #include "ui/Glyph.h"
 #include "ui/Strings.h"
 
+#include <QAccessible>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 #include <array>
@@ -24,7 +27,10 @@ QString titleOf(int step) {
 } // namespace
 
 SetupStepsView::SetupStepsView(QWidget* parent) : QWidget(parent) {
+    installAccessibleViews();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // Readers follow what has the focus.
+    setFocusPolicy(Qt::TabFocus);
     describe();
 }
 
@@ -50,8 +56,13 @@ SetupStepsView::State SetupStepsView::stateOf(int step) const {
 }
 
 void SetupStepsView::describe() {
-    setAccessibleDescription(localized(m_failed ? "IDS_STEP_FAILED" : "IDS_STEP_CURRENT",
-                                       m_current + 1, StepCount, titleOf(m_current)));
+    const QString told = localized(m_failed ? "IDS_STEP_FAILED" : "IDS_STEP_CURRENT", m_current + 1,
+                                   StepCount, titleOf(m_current));
+    if (told != accessibleDescription()) {
+        setAccessibleDescription(told);
+        QAccessibleValueChangeEvent event(this, m_current);
+        QAccessible::updateAccessibility(&event);
+    }
     update();
 }
 
@@ -92,6 +103,11 @@ void SetupStepsView::paintEvent(QPaintEvent*) {
                                               : palette().color(QPalette::WindowText));
         painter.drawText(words, static_cast<int>(Qt::AlignLeading | Qt::AlignVCenter),
                          titleOf(step));
+    }
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        QStyleOptionFocusRect frame;
+        frame.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
     }
 }
 

@@ -147,10 +147,22 @@ void Window::focusWhereTheUserStarts() {
             return;
         }
     }
+    QWidget* start = nullptr;
     for (QPushButton* button : findChildren<QPushButton*>()) {
         if (button->isDefault() && button->isEnabled()) {
-            button->setFocus(Qt::OtherFocusReason);
+            start = button;
         }
+    }
+    // Without a focus nothing of the window would be heard.
+    for (QWidget* widget = nextInFocusChain(); start == nullptr && widget != this;
+         widget = widget->nextInFocusChain()) {
+        if (widget->isEnabled() && !widget->isHidden() &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0) {
+            start = widget;
+        }
+    }
+    if (start != nullptr) {
+        start->setFocus(Qt::OtherFocusReason);
     }
 }
 

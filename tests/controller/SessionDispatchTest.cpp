@@ -29,6 +29,19 @@ TEST_F(SessionDispatchTest, NoDriveOpensASelectionThatSaysSo) {
     EXPECT_TRUE(hasQuit());
 }
 
+TEST_F(SessionDispatchTest, WithoutADriveTheFocusIsOnTheTextThatSaysWhatToDo) {
+    start();
+    auto* const said = control<QLabel>("SelectZeltoNoDrive");
+    EXPECT_TRUE(said->isVisible());
+    EXPECT_EQ(said->text(), localized("IDS_ERR_NOT_FOUND_ZELTO"));
+    EXPECT_EQ(app().SelectZeltoWindow.focusWidget(), said);
+    plugPreparedDrive();
+    computer.settle();
+    press("SelectZeltoUpdate");
+    EXPECT_FALSE(said->isVisible());
+    EXPECT_EQ(said->focusPolicy(), Qt::NoFocus);
+}
+
 TEST_F(SessionDispatchTest, TwoDrivesAreListedFromNumberZeroAndTheFirstIsChosen) {
     plugPreparedDrive({.serial = "ZD-A"});
     plugPreparedDrive({.serial = "ZD-B"});
@@ -50,6 +63,7 @@ TEST_F(SessionDispatchTest, BelowTheListStandsTheSerialNumberOfTheChosenDrive) {
     EXPECT_EQ(text("SelectZeltoSign"), localized("IDS_DRIVE_SERIAL", QStringLiteral("ZD-A")));
     person.choose("SelectZeltoComboBox", 1);
     EXPECT_EQ(text("SelectZeltoSign"), localized("IDS_DRIVE_SERIAL", QStringLiteral("ZD-B")));
+    EXPECT_EQ(control("SelectZeltoComboBox")->accessibleDescription(), text("SelectZeltoSign"));
 }
 
 TEST_F(SessionDispatchTest, DrivesWithOneSerialNumberAreToldApartByTheirPorts) {

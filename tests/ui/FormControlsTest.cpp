@@ -37,6 +37,7 @@ const ControlRow Controls[] = {
     {__LINE__, "SelectZeltoWindow", "SelectZeltoOK", Button, true},
     {__LINE__, "SelectZeltoWindow", "SelectZeltoUpdate", Button, true},
     {__LINE__, "SelectZeltoWindow", "SelectZeltoCancel", Button, true},
+    {__LINE__, "SelectZeltoWindow", "SelectZeltoNoDrive", Label, true},
     {__LINE__, "SelectZeltoWindow", "SelectZeltoSign", Label, true},
     {__LINE__, "SelectZeltoWindow", "SelectZeltoAccessHint", Label, true},
     {__LINE__, "SelectZeltoWindow", "SelectZeltoShowRule", Button, true},
