@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace zelto {
@@ -34,6 +35,10 @@ public:
     /// Shows a file in the program that the user reads such files with; does not wait for it. False
     /// when there is none.
     [[nodiscard]] virtual bool openDocument(const std::filesystem::path& /*file*/) { return false; }
+
+    /// Whether Caps Lock is on; nothing where the desktop does not tell. Does not wait for anybody
+    /// but the display server.
+    [[nodiscard]] virtual std::optional<bool> isCapsLockOn() const { return {}; }
 
     /// `mayEnd` is asked when the session is about to end; false asks the desktop to wait.
     virtual void setSessionEndHandler(const std::function<bool()>& /*mayEnd*/) {}

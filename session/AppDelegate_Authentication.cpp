@@ -5,6 +5,7 @@
 #include "digest/SHA256.h"
 #include "digest/Wipe.h"
 #include "settings/PasswordRules.h"
+#include "ui/Description.h"
 #include "ui/Strings.h"
 #include "ui/TypeAhead.h"
 
@@ -21,8 +22,8 @@ void AppDelegate::DisplayAuthenticateWindow(bool firstStep, const QString& messa
     form.AuthenticateSubmit->setEnabled(false);
     form.AuthenticateMessage->setText(message);
     form.AuthenticateTextField->wipe();
-    form.AuthenticateDeviceTimeText->clear();
-    form.AuthenticateRemainingTimeText->clear();
+    showValue(*form.AuthenticateDeviceTimeText, {});
+    showValue(*form.AuthenticateRemainingTimeText, {});
 
     DisplayRemainingTimeAuthenticateWindow = false;
     if (readShowRemainingTime(Device())) {
@@ -69,6 +70,7 @@ void AppDelegate::AuthenticateTextDidChange() {
 
 void AppDelegate::AuthenticateSubmitAction() {
     auto& form = AuthenticateWindow;
+    form.AuthenticateTextField->hideText();
     Wiped<AuthPayload> payload{
         {.firstStep = TextInputMode == TextInputModes::AuthenticateFirstStep}};
     SetPasswordData(form.AuthenticateTextField->secret(), payload->digest);

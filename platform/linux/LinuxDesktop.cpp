@@ -12,6 +12,10 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <memory>
 #include <utility>
 
 namespace zelto::linux_platform {
@@ -96,6 +100,24 @@ void LinuxDesktop::giveWayToNewStart() {
 
 bool LinuxDesktop::openDocument(const std::filesystem::path& file) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.native())));
+}
+
+std::optional<bool> LinuxDesktop::isCapsLockOn() const {
+    using Display = QNativeInterface::QX11Application;
+    auto* const display = qGuiApp == nullptr ? nullptr : qGuiApp->nativeInterface<Display>();
+    if (display == nullptr) {
+        return {};
+    }
+    xcb_connection_t* const connection = display->connection();
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    // The pointer's state names the keyboard's locks as well; no extension is needed for it.
+    const std::unique_ptr<xcb_query_pointer_reply_t, decltype(&std::free)> pointer(
+        xcb_query_pointer_reply(connection, xcb_query_pointer(connection, root), nullptr),
+        &std::free);
+    if (pointer == nullptr) {
+        return {};
+    }
+    return (pointer->mask & XCB_MOD_MASK_LOCK) != 0;
 }
 
 void LinuxDesktop::setSessionEndHandler(const std::function<bool()>& mayEnd) {

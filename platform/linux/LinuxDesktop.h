@@ -24,6 +24,8 @@ public:
     void takePlace(const std::function<void()>& giveWay) override;
     void giveWayToNewStart() override;
     [[nodiscard]] bool openDocument(const std::filesystem::path& file) override;
+    /// X11 tells it at any time; Wayland only to the toolkit, which keeps it to itself.
+    [[nodiscard]] std::optional<bool> isCapsLockOn() const override;
     void setSessionEndHandler(const std::function<bool()>& mayEnd) override;
 
 private:

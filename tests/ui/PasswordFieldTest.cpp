@@ -1,5 +1,6 @@
 #include "ui/PasswordField.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
@@ -10,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace zelto::test {
 namespace {
 
@@ -18,7 +21,9 @@ protected:
     PasswordFieldTest() {
         auto* column = new QVBoxLayout(&window);
         column->addWidget(field);
-        column->addWidget(new QLineEdit(&window));
+        auto* const other = new QLineEdit(&window);
+        other->setObjectName(QStringLiteral("other"));
+        column->addWidget(other);
         window.show();
         window.activateWindow();
         QApplication::processEvents();
@@ -26,7 +31,7 @@ protected:
     }
 
     [[nodiscard]] QToolButton* eye() const { return field->findChild<QToolButton*>(); }
-    /// Of the text alone: the eye looks different while it is held.
+    /// Of the text alone: the eye looks different while it is pressed.
     [[nodiscard]] QImage picture() const {
         const QRect text(0, 0, field->width() - 2 * field->height(), field->height());
         return field->grab(text).toImage();
@@ -36,44 +41,95 @@ protected:
     PasswordField* field = new PasswordField(&window);
 };
 
-TEST_F(PasswordFieldTest, TheTextIsShownOnlyWhileTheEyeIsHeld) {
+TEST_F(PasswordFieldTest, TheEyeShowsTheTextUntilItIsPressedAgain) {
     field->setSecret(QStringLiteral("secret"));
-    QTest::mousePress(eye(), Qt::LeftButton);
-    const QImage held = picture();
-    QTest::mouseRelease(eye(), Qt::LeftButton);
-    const QImage let = picture();
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    EXPECT_TRUE(eye()->isChecked());
+    const QImage shown = picture();
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    EXPECT_FALSE(eye()->isChecked());
+    const QImage hidden = picture();
     field->setSecret(QStringLiteral("tersec"));
-    EXPECT_EQ(picture(), let) << "bullets are all alike";
-    QTest::mousePress(eye(), Qt::LeftButton);
-    EXPECT_NE(picture(), held) << "texts are not";
+    EXPECT_EQ(picture(), hidden) << "bullets are all alike";
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    EXPECT_NE(picture(), shown) << "texts are not";
     field->setSecret(QStringLiteral("secret"));
-    EXPECT_EQ(picture(), held);
+    EXPECT_EQ(picture(), shown);
 }
 
 TEST_F(PasswordFieldTest, TheTextIsHiddenAgainWhenTheWindowIsLeft) {
     field->setSecret(QStringLiteral("secret"));
-    QTest::mousePress(eye(), Qt::LeftButton);
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    ASSERT_TRUE(field->showsText());
     window.hide();
     EXPECT_FALSE(field->showsText());
+    EXPECT_FALSE(eye()->isChecked());
 }
 
 TEST_F(PasswordFieldTest, TheTextIsHiddenAgainWhenTheFieldIsDisabled) {
-    QTest::mousePress(eye(), Qt::LeftButton);
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    ASSERT_TRUE(field->showsText());
     field->setEnabled(false);
     EXPECT_FALSE(field->showsText());
 }
 
-TEST_F(PasswordFieldTest, TheEyeIsNoTabStopAndKeepsTheFocusInTheField) {
+TEST_F(PasswordFieldTest, TheTextIsHiddenAgainWhenItIsWiped) {
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    field->wipe();
+    EXPECT_FALSE(field->showsText());
+}
+
+TEST_F(PasswordFieldTest, TheEyeIsTheNextTabStopAndIsPressedByTheSpaceBar) {
+    QTest::keyClick(field, Qt::Key_Tab);
+    ASSERT_TRUE(eye()->hasFocus());
+    QTest::keyClick(eye(), Qt::Key_Space);
+    EXPECT_TRUE(field->showsText());
+    QTest::keyClick(eye(), Qt::Key_Backtab);
+    EXPECT_TRUE(field->hasFocus());
+    EXPECT_TRUE(field->showsText()) << "between the field and its eye it stays";
+}
+
+TEST_F(PasswordFieldTest, TheTextIsHiddenAgainWhenFieldAndEyeAreLeft) {
+    QTest::keyClick(field, Qt::Key_Tab);
+    QTest::keyClick(eye(), Qt::Key_Space);
+    QTest::keyClick(eye(), Qt::Key_Tab);
+    EXPECT_FALSE(eye()->hasFocus());
+    EXPECT_FALSE(field->showsText());
+    EXPECT_FALSE(eye()->isChecked());
+}
+
+TEST_F(PasswordFieldTest, AClickOnTheEyeLeavesTheFocusInTheField) {
     QTest::mouseClick(eye(), Qt::LeftButton);
     EXPECT_TRUE(field->hasFocus());
-    EXPECT_EQ(eye()->focusPolicy(), Qt::NoFocus);
-    EXPECT_FALSE(eye()->accessibleName().isEmpty());
+}
+
+TEST_F(PasswordFieldTest, AClickOnTheEyeOfAnotherFieldGoesThere) {
+    window.findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    EXPECT_TRUE(field->hasFocus());
+    EXPECT_TRUE(field->showsText());
+}
+
+TEST_F(PasswordFieldTest, GoesWithTheFocusOnItsEye) {
+    QTest::keyClick(field, Qt::Key_Tab);
+    ASSERT_TRUE(eye()->hasFocus());
+    delete field;
+    EXPECT_EQ(QApplication::focusWidget(), nullptr);
+}
+
+TEST_F(PasswordFieldTest, TheEyeSaysWhatItDoesAndWhetherItIsDone) {
+    QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(eye());
+    EXPECT_FALSE(heard->text(QAccessible::Name).isEmpty());
+    EXPECT_EQ(heard->role(), QAccessible::CheckBox);
+    EXPECT_FALSE(heard->state().checked);
+    QTest::mouseClick(eye(), Qt::LeftButton);
+    EXPECT_TRUE(heard->state().checked);
 }
 
 TEST_F(PasswordFieldTest, NothingReachesTheClipboardEvenWhileTheTextIsShown) {
     QApplication::clipboard()->setText(QStringLiteral("before"));
     field->setSecret(QStringLiteral("secret"));
-    QTest::mousePress(eye(), Qt::LeftButton);
+    QTest::mouseClick(eye(), Qt::LeftButton);
     QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(field, Qt::Key_C, Qt::ControlModifier);
     QTest::keyClick(field, Qt::Key_X, Qt::ControlModifier);
@@ -155,6 +211,36 @@ TEST_F(PasswordFieldTest, TheWarningGoesWhenTheFieldIsLeftOrCapsLockPressed) {
     QTest::sendKeyEvent(QTest::Click, field, Qt::Key_A, QStringLiteral("A"), Qt::NoModifier);
     QTest::keyClick(field, Qt::Key_Tab);
     EXPECT_FALSE(field->warnsOfCapsLock());
+}
+
+TEST_F(PasswordFieldTest, CapsLockIsWarnedOfInWordsAsSoonAsTheFieldHasTheFocus) {
+    window.findChild<QLineEdit*>(QStringLiteral("other"))->setFocus();
+    bool isOn = true;
+    field->setCapsLockState([&] { return isOn; });
+    field->setFocus();
+    EXPECT_TRUE(field->warnsOfCapsLock());
+    const auto labels = field->findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(labels, [](const QLabel* label) {
+        return label->isVisible() && label->text() == QStringLiteral("Caps Lock is on");
+    }));
+    isOn = false;
+    QTest::keyRelease(field, Qt::Key_CapsLock);
+    EXPECT_FALSE(field->warnsOfCapsLock());
+}
+
+TEST_F(PasswordFieldTest, WhereTheStateOfCapsLockIsKnownLettersTellNothing) {
+    field->setCapsLockState([] { return false; });
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_A, QStringLiteral("A"), Qt::NoModifier);
+    EXPECT_FALSE(field->warnsOfCapsLock());
+}
+
+TEST_F(PasswordFieldTest, TheWarningLeavesRoomForAFewBullets) {
+    window.resize(window.sizeHint());
+    QApplication::processEvents();
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_A, QStringLiteral("A"), Qt::NoModifier);
+    const QMargins taken = field->textMargins();
+    EXPECT_GE(field->width() - taken.left() - taken.right(),
+              4 * field->fontMetrics().averageCharWidth());
 }
 
 TEST_F(PasswordFieldTest, TextsOfAnyLengthAndScriptAreTaken) {

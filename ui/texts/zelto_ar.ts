@@ -1039,14 +1039,14 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>%1 من 128 رقمًا، ينقص رقم واحد</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>اضغط باستمرار لرؤية كلمة السر</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>إظهار كلمة السر</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>يبدو أن Caps Lock مفعّل</translation>
+        <translation>Caps Lock مفعّل</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

@@ -1039,14 +1039,14 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <translation>%1 ze 128 číslic, jedna chybí</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Podržením zobrazíte heslo</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Zobrazit heslo</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>Caps Lock je zřejmě zapnutý</translation>
+        <translation>Caps Lock je zapnutý</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

@@ -1039,14 +1039,14 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <translation>%1 von 128 Ziffern, eine fehlt</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Gedrückt halten, um das Passwort zu sehen</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Passwort anzeigen</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>Die Feststelltaste scheint aktiv zu sein</translation>
+        <translation>Feststelltaste ist aktiv</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

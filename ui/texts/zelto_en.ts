@@ -1024,12 +1024,12 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
         <translation type="unfinished"></translation>
     </message>

@@ -1039,14 +1039,14 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <translation>%1 de 128 dígitos, falta uno</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Mantener pulsado para ver la contraseña</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Mostrar la contraseña</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>Bloq Mayús parece estar activado</translation>
+        <translation>Bloq Mayús está activado</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

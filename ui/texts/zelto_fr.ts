@@ -1039,14 +1039,14 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <translation>%1 chiffres sur 128, il en manque un</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Maintenir appuyé pour voir le mot de passe</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Afficher le mot de passe</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>La touche Verr. Maj semble activée</translation>
+        <translation>Verr. Maj activé</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

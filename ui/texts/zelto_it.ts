@@ -1039,14 +1039,14 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <translation>%1 di 128 cifre, ne manca una</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Tenere premuto per vedere la password</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Mostra la password</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>Bloc Maiusc sembra attivo</translation>
+        <translation>Bloc Maiusc attivo</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

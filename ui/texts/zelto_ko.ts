@@ -1039,14 +1039,14 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>128자리 중 %1자리, 한 자리가 모자랍니다</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>누르고 있으면 암호 표시</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>암호 표시</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>Caps Lock이 켜져 있는 것 같습니다</translation>
+        <translation>Caps Lock이 켜져 있음</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

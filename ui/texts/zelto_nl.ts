@@ -1039,14 +1039,14 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <translation>%1 van 128 cijfers, er ontbreekt er een</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Ingedrukt houden om het wachtwoord te zien</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Wachtwoord tonen</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>Caps Lock lijkt aan te staan</translation>
+        <translation>Caps Lock staat aan</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

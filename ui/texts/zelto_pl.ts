@@ -1039,14 +1039,14 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <translation>%1 z 128 cyfr, brakuje jednej</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Przytrzymaj, aby zobaczyć hasło</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Pokaż hasło</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>Caps Lock wydaje się włączony</translation>
+        <translation>Caps Lock jest włączony</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

@@ -1039,14 +1039,14 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <translation>%1 de 128 dígitos, falta um</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Mantenha pressionado para ver a senha</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Mostrar a senha</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>O Caps Lock parece estar ativado</translation>
+        <translation>O Caps Lock está ativado</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>

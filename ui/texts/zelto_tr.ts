@@ -1039,14 +1039,14 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <translation>128 basamaktan %1, biri eksik</translation>
     </message>
     <message id="IDS_FIELD_REVEAL">
-        <source>Hold to see the password</source>
-        <extracomment>Of a button that is held down</extracomment>
-        <translation>Parolayı görmek için basılı tutun</translation>
+        <source>Show the password</source>
+        <extracomment>Of a button that stays pressed while the password is shown</extracomment>
+        <translation>Parolayı göster</translation>
     </message>
     <message id="IDS_FIELD_CAPS_LOCK">
-        <source>Caps Lock seems to be on</source>
+        <source>Caps Lock is on</source>
         <extracomment>The key as it is called in the language</extracomment>
-        <translation>Caps Lock açık görünüyor</translation>
+        <translation>Caps Lock açık</translation>
     </message>
     <message id="IDS_FIELD_PASTE">
         <source>&amp;Paste</source>
