@@ -82,6 +82,9 @@ AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
     // first text alone.
     for (QLabel* label : box.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
+        if (!label->pixmap().isNull()) {
+            label->setAccessibleName(panel.title);
+        }
     }
 
     QPushButton* const first = addButton(box, panel.defaultButton, QMessageBox::AcceptRole);

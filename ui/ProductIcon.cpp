@@ -1,6 +1,7 @@
 #include "ui/ProductIcon.h"
 
 #include "ui/Resources.h"
+#include "ui/Strings.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -22,6 +23,7 @@ QIcon decodeIcon() {
 } // namespace
 
 ProductIcon::ProductIcon(QWidget* parent) : QLabel(parent) {
+    setAccessibleName(localized("IDS_APP_TITLE"));
     render();
 }
 

@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxPlatform.h"
 
+#include "platform/linux/SpokenChanges.h"
+
 #include <utility>
 
 namespace zelto::linux_platform {
@@ -12,7 +14,9 @@ LinuxPlatform::LinuxPlatform(Alerts& alerts, WorkInProgress showWork)
       m_computer(m_waiting),
       m_clock(m_waiting),
       m_desktop([] { return QDBusConnection::systemBus(); },
-                [] { return QDBusConnection::sessionBus(); }, m_waiting) {}
+                [] { return QDBusConnection::sessionBus(); }, m_waiting) {
+    tellChangesInWords();
+}
 
 Platform LinuxPlatform::platform() {
     return {m_usb,   m_registry, m_mounts,      m_disks,  m_computer,
