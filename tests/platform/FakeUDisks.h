@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/linux/UDisksState.h"
-#include "tests/platform/PrivateBus.h"
+#include "tests/support/PrivateBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,5 +1,5 @@
 #include "platform/linux/LinuxDesktop.h"
-#include "tests/platform/PrivateBus.h"
+#include "tests/support/PrivateBus.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>

@@ -18,6 +18,7 @@ public:
 
     /// A new connection; the same name gives the same connection again.
     [[nodiscard]] QDBusConnection connection(const QString& name);
+    [[nodiscard]] const QString& address() const { return m_address; }
     /// Takes everybody off the bus at once.
     void breakDown() { m_daemon.kill(); }
 

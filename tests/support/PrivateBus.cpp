@@ -1,4 +1,4 @@
-#include "tests/platform/PrivateBus.h"
+#include "tests/support/PrivateBus.h"
 
 #include <stdexcept>
 
