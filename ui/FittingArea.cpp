@@ -67,6 +67,11 @@ FittingArea::FittingArea(QBoxLayout& window) : QScrollArea(window.parentWidget()
     }
 }
 
+FittingArea::~FittingArea() {
+    // The focus moves on while the contents go.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void FittingArea::setRoom(const QSize& room) {
     if (room != m_room) {
         m_room = room;

@@ -19,6 +19,7 @@ public:
     /// Takes all that the window's layout holds but its last row, the buttons, and puts itself in
     /// their place.
     explicit FittingArea(QBoxLayout& window);
+    ~FittingArea() override;
 
     /// The most that the area may ask for.
     void setRoom(const QSize& room);
