@@ -20,7 +20,7 @@ namespace {
 
 using Keys = std::vector<const char*>;
 
-constexpr std::uint64_t TwoTerabytes = 2 * 1024 * 1024;
+constexpr std::uint64_t TwoTerabytes = std::uint64_t{2} * 1024 * 1024;
 
 /// What the labels hold, by the labels' names.
 const std::map<QString, Keys>& shownIn() {
