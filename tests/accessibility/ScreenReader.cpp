@@ -17,6 +17,8 @@ const QString Root = QStringLiteral("/org/a11y/atspi/accessible/root");
 const QString Accessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString ObjectEvents = QStringLiteral("org.a11y.atspi.Event.Object");
 const QString Registry = QStringLiteral("org.a11y.atspi.Registry");
+const QString KeysPath = QStringLiteral("/org/a11y/atspi/registry/deviceeventcontroller");
+const QString KeysInterface = QStringLiteral("org.a11y.atspi.DeviceEventController");
 const QString MarkInterface = QStringLiteral("com.kestrin.zelto.test");
 
 /// The toolkit's own connection: what is sent there comes after all that it has sent.
@@ -85,10 +87,6 @@ ScreenReader::ScreenReader()
                   this, SLOT(hearMark(QDBusMessage)));
 }
 
-ScreenReader::~ScreenReader() {
-    QDBusConnection::disconnectFromBus(QStringLiteral("reader"));
-}
-
 void ScreenReader::waitUntil(const std::function<bool()>& isSo) {
     while (!isSo()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -97,10 +95,10 @@ void ScreenReader::waitUntil(const std::function<bool()>& isSo) {
 
 void ScreenReader::letKeysArrive() {
     // The toolkit asks the registry about each key first, and hands it on when that has answered:
-    // what is answered after it comes after it, as an event of its own.
-    QDBusPendingCallWatcher answered(toolkitsConnection().asyncCall(
-        QDBusMessage::createMethodCall(Registry, QStringLiteral("/org/a11y/atspi/registry"),
-                                       Registry, QStringLiteral("GetRegisteredEvents"))));
+    // what is answered after it comes after it, as an event of its own. The registry keeps what is
+    // asked about keys in a row of its own, so this has to stand in the same one.
+    QDBusPendingCallWatcher answered(toolkitsConnection().asyncCall(QDBusMessage::createMethodCall(
+        Registry, KeysPath, KeysInterface, QStringLiteral("GetKeystrokeListeners"))));
     bool isAnswered = false;
     QObject::connect(&answered, &QDBusPendingCallWatcher::finished, [&] { isAnswered = true; });
     waitUntil([&] { return isAnswered; });
@@ -253,10 +251,8 @@ std::vector<Heard> ScreenReader::read(const QString& windowTitle) {
 
 void ScreenReader::pressKey(int keyCode) {
     constexpr uint PressAndRelease = 2;
-    auto message = QDBusMessage::createMethodCall(
-        Registry, QStringLiteral("/org/a11y/atspi/registry/deviceeventcontroller"),
-        QStringLiteral("org.a11y.atspi.DeviceEventController"),
-        QStringLiteral("GenerateKeyboardEvent"));
+    auto message = QDBusMessage::createMethodCall(Registry, KeysPath, KeysInterface,
+                                                  QStringLiteral("GenerateKeyboardEvent"));
     message.setArguments({keyCode, QString(), PressAndRelease});
     QDBusPendingCallWatcher pending(m_bus.asyncCall(message));
     waitUntil([&] { return pending.isFinished(); });

@@ -39,9 +39,9 @@ public:
     /// Where the address of the bus is found.
     static constexpr auto BusVariable = "ZELTO_ACCESSIBILITY_BUS";
 
-    /// Waits until the program under test, which is this one, is on the bus.
+    /// Waits until the program under test, which is this one, is on the bus. The connection stays
+    /// for the next reader: signals that have come but were not delivered yet belong to it.
     ScreenReader();
-    ~ScreenReader() override;
 
     /// Everything that is on the screen in the window with this title, in reading order.
     [[nodiscard]] std::vector<Heard> read(const QString& windowTitle);
