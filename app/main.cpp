@@ -21,7 +21,7 @@ namespace {
 int NSApplicationMain(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("zelto"));
-    QApplication::setDesktopFileName(QStringLiteral("zelto"));
+    QApplication::setDesktopFileName(QStringLiteral("com.kestrin.zelto"));
     // The controller decides what the closing of a window means.
     QApplication::setQuitOnLastWindowClosed(false);
     zelto::installStrings();

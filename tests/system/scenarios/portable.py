@@ -61,8 +61,8 @@ def started_from_the_drive_the_program_moves_to_the_computer_and_leaves_the_driv
     program.connect(pid)
     program.wait_for_window("AuthenticateWindow")
     program.picture("started-from-the-drive")
-    expect("the menu has an entry for it",
-           os.path.exists(f"{ring.desktop.home}/.local/share/applications/zelto.desktop"))
+    menu = f"{ring.desktop.home}/.local/share/applications"
+    expect("the menu has an entry for it", os.path.exists(f"{menu}/com.kestrin.zelto.desktop"))
 
     flows.submit_password(program, flows.FIRST)
     program.wait_for_window("UnlockingWindow")
