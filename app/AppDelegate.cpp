@@ -17,14 +17,6 @@ AppDelegate::AppDelegate(const Platform& platform)
                   }} {
     connectSessionWindows();
     connectSettingsWindows();
-    connectHelp();
-    for (const QWidget* window : {static_cast<QWidget*>(&AuthenticateWindow),
-                                  static_cast<QWidget*>(&PasswordSettingsWindow),
-                                  static_cast<QWidget*>(&PasswordChangeWindow)}) {
-        for (PasswordField* field : window->findChildren<PasswordField*>()) {
-            field->setCapsLockState([this] { return m_platform.desktop.isCapsLockOn(); });
-        }
-    }
 }
 
 AppDelegate::~AppDelegate() {

@@ -15,6 +15,7 @@
 #include "settings/Obstacle.h"
 #include "settings/OkButtonRules.h"
 #include "ui/Forms.h"
+#include "ui/LateForm.h"
 
 #include <QString>
 
@@ -225,29 +226,41 @@ public:
     void MainSettingsAutoClearEraseAction();
     void MainSettingsClearAllAction();
 
-    // --- The windows: their controls are their own members, under the controls' given names ---
+    // --- The windows, each built when it is first used: their controls are their own members,
+    // --- under the controls' given names ------------------------------------------------------
 
-    Form<Ui::SelectZeltoWindow> SelectZeltoWindow;
-    Form<Ui::DeviceRuleWindow> DeviceRuleWindow;
-    Form<Ui::AuthenticateWindow> AuthenticateWindow;
-    Form<Ui::UnlockedWindow> UnlockedWindow;
-    Form<Ui::UnlockingWindow> UnlockingWindow;
-    Form<Ui::ZeltoSettingWindow> ZeltoSettingWindow;
-    Form<Ui::MainSettingsWindow> MainSettingsWindow;
-    Form<Ui::AreaSettingsWindow> AreaSettingsWindow;
-    Form<Ui::PasswordSettingsWindow> PasswordSettingsWindow;
-    Form<Ui::PasswordChangeWindow> PasswordChangeWindow;
-    Form<Ui::EncryptionKeyWindow> EncryptionKeyWindow;
+    LateForm<Ui::SelectZeltoWindow> SelectZeltoWindow;
+    LateForm<Ui::DeviceRuleWindow> DeviceRuleWindow;
+    LateForm<Ui::AuthenticateWindow> AuthenticateWindow;
+    LateForm<Ui::UnlockedWindow> UnlockedWindow;
+    LateForm<Ui::UnlockingWindow> UnlockingWindow;
+    LateForm<Ui::ZeltoSettingWindow> ZeltoSettingWindow;
+    LateForm<Ui::MainSettingsWindow> MainSettingsWindow;
+    LateForm<Ui::AreaSettingsWindow> AreaSettingsWindow;
+    LateForm<Ui::PasswordSettingsWindow> PasswordSettingsWindow;
+    LateForm<Ui::PasswordChangeWindow> PasswordChangeWindow;
+    LateForm<Ui::EncryptionKeyWindow> EncryptionKeyWindow;
 
 private:
     // app/AppDelegate_Outlets.cpp: which control calls which operation.
     void connectSessionWindows();
-    void connectHelp();
+    void connectHelp(const Window& window);
+    void connectPasswordFields(const Window& window);
     // settings/AppDelegate_SettingsOutlets.cpp
     void connectSettingsWindows();
     void connectMainSettingsWindow();
     void connectAreaSettingsWindow();
     void connectPasswordWindows();
+    void connectEncryptionKeyWindow();
+    /// `connect` is handed the window when it has been built.
+    template <typename Layout, typename Connect>
+    void whenBuilt(LateForm<Layout>& window, Connect connect) {
+        window.whenBuilt([this, connect](Form<Layout>& form) {
+            connectHelp(form);
+            connectPasswordFields(form);
+            connect(form);
+        });
+    }
 
     // app/AppDelegate_Startup.cpp
     void relocate(const std::filesystem::path& bundle, const std::filesystem::path& destination);
@@ -288,6 +301,7 @@ private:
     void formatAndCopy(const SetupProgress& before);
     void showSetup(const SetupView& view);
     void showDriveTime(const TimeStatus& status);
+    void showTimes();
 
     // settings/AppDelegate_Setup.cpp: the parts of a commit. They report failure.
     [[nodiscard]] bool sendAreaInfos();
@@ -342,6 +356,9 @@ private:
     /// Keeps the computer awake while a set-up is under way.
     Desktop::Hold m_awakeForSetup;
     QWidget* m_window = nullptr;
+    /// The clocks as of the last tick; a window that is built later begins with them.
+    QString m_computerTime;
+    QString m_driveTime;
     /// Owned by the table that shows it.
     AreaTableModel* m_areaTable = nullptr;
 };

@@ -55,7 +55,7 @@ void AppDelegate::startSession() {
         return;
     }
     DisplaySelectZeltoWindow();
-    SelectZeltoWindow.centreAndMakeKeyAndOrderFront();
+    SelectZeltoWindow->centreAndMakeKeyAndOrderFront();
 }
 
 AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() const {

@@ -16,7 +16,7 @@ namespace zelto {
 using namespace std::chrono_literals;
 
 void AppDelegate::DisplayAuthenticateWindow(bool firstStep, const QString& message) {
-    auto& form = AuthenticateWindow;
+    auto& form = *AuthenticateWindow;
     TextInputMode =
         firstStep ? TextInputModes::AuthenticateFirstStep : TextInputModes::AuthenticateFurtherStep;
     form.AuthenticateSubmit->setEnabled(false);
@@ -64,12 +64,12 @@ void AppDelegate::controlTextDidChange() {
 }
 
 void AppDelegate::AuthenticateTextDidChange() {
-    auto& form = AuthenticateWindow;
+    auto& form = *AuthenticateWindow;
     form.AuthenticateSubmit->setEnabled(isValidPassword(form.AuthenticateTextField->secret()));
 }
 
 void AppDelegate::AuthenticateSubmitAction() {
-    auto& form = AuthenticateWindow;
+    auto& form = *AuthenticateWindow;
     form.AuthenticateTextField->hideText();
     Wiped<AuthPayload> payload{
         {.firstStep = TextInputMode == TextInputModes::AuthenticateFirstStep}};
@@ -114,7 +114,7 @@ void AppDelegate::reportRefusedPassword() {
     }
     if (status.record.state() == SecurityState::StateFullLock) {
         ShowMessage(AlertWeight::Critical, localized("IDS_ERR_ZELTO_DRIVE_LOST"));
-        AuthenticateWindow.orderOut();
+        AuthenticateWindow->orderOut();
         TerminateApplication();
     }
 }

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace zelto {
 namespace {
@@ -83,10 +84,10 @@ void AppDelegate::ProcessBySecurityState() {
 /// Closing the last window quits, and so does failing to open it: without this the program would
 /// go on unseen and hold the drive.
 void AppDelegate::quitWithoutWindow() {
-    const std::array<const Window*, 6> windows{&SelectZeltoWindow,  &AuthenticateWindow,
-                                               &UnlockedWindow,     &UnlockingWindow,
-                                               &ZeltoSettingWindow, &MainSettingsWindow};
-    if (std::ranges::none_of(windows, &Window::isInUse)) {
+    const std::array inUse{SelectZeltoWindow.isInUse(),  AuthenticateWindow.isInUse(),
+                           UnlockedWindow.isInUse(),     UnlockingWindow.isInUse(),
+                           ZeltoSettingWindow.isInUse(), MainSettingsWindow.isInUse()};
+    if (std::ranges::none_of(inUse, std::identity())) {
         TerminateApplication();
     }
 }
@@ -125,7 +126,7 @@ void AppDelegate::offerToSetClock() {
 }
 
 void AppDelegate::DisplaySelectZeltoWindow() {
-    auto& form = SelectZeltoWindow;
+    auto& form = *SelectZeltoWindow;
     const bool anyDrive = Drives.DevCnt != 0;
     form.SelectZeltoComboBox->clear();
     for (int index = 0; index < Drives.DevCnt; ++index) {
@@ -149,7 +150,7 @@ void AppDelegate::DisplaySelectZeltoWindow() {
 /// A list that is disabled is out of the keyboard's reach, and nobody hears what it says. So the
 /// same text stands where the focus can go.
 void AppDelegate::showWhetherThereAreDrives(bool anyDrive) {
-    auto& form = SelectZeltoWindow;
+    auto& form = *SelectZeltoWindow;
     form.SelectZeltoPluggedIn->setVisible(anyDrive);
     form.SelectZeltoNoDrive->setVisible(!anyDrive);
     form.SelectZeltoNoDrive->setText(anyDrive ? QString() : localized("IDS_ERR_NOT_FOUND_ZELTO"));
@@ -158,25 +159,28 @@ void AppDelegate::showWhetherThereAreDrives(bool anyDrive) {
 
 /// Below the list, of the drive that is chosen in it.
 void AppDelegate::UpdateDriveSign() {
-    const int chosen = SelectZeltoWindow.SelectZeltoComboBox->currentIndex();
-    auto& line = *SelectZeltoWindow.SelectZeltoSign;
+    const int chosen = SelectZeltoWindow->SelectZeltoComboBox->currentIndex();
+    auto& line = *SelectZeltoWindow->SelectZeltoSign;
     line.setText(Drives.DevCnt == 0 ? QString()
                                     : wordsOf(driveSign(Drives, static_cast<std::size_t>(chosen))));
     line.setVisible(Drives.DevCnt != 0);
-    describe(*SelectZeltoWindow.SelectZeltoComboBox, line, line.text());
+    describe(*SelectZeltoWindow->SelectZeltoComboBox, line, line.text());
 }
 
 /// Beside the list, of the drives that are attached at this moment.
 void AppDelegate::UpdateAccessHint() {
-    auto& hint = *SelectZeltoWindow.SelectZeltoAccessHint;
+    if (!SelectZeltoWindow.isBuilt()) {
+        return;
+    }
+    auto& hint = *SelectZeltoWindow->SelectZeltoAccessHint;
     hint.setText(accessHint(Drives.refusedAccess()));
     hint.setVisible(Drives.refusedAccess() != AttachedDrives::Access::Granted);
-    for (QWidget* const heard : {static_cast<QWidget*>(SelectZeltoWindow.SelectZeltoComboBox),
-                                 static_cast<QWidget*>(SelectZeltoWindow.SelectZeltoUpdate)}) {
+    for (QWidget* const heard : {static_cast<QWidget*>(SelectZeltoWindow->SelectZeltoComboBox),
+                                 static_cast<QWidget*>(SelectZeltoWindow->SelectZeltoUpdate)}) {
         describe(*heard, hint, hint.text());
     }
-    SelectZeltoWindow.SelectZeltoShowRule->setVisible(Drives.refusedAccess() ==
-                                                      AttachedDrives::Access::RuleMissing);
+    SelectZeltoWindow->SelectZeltoShowRule->setVisible(Drives.refusedAccess() ==
+                                                       AttachedDrives::Access::RuleMissing);
 }
 
 void AppDelegate::SelectZeltoUpdateAction() {
@@ -187,25 +191,25 @@ void AppDelegate::SelectZeltoUpdateAction() {
 /// The text comes from the program that runs here: whatever lies on a drive may have been changed
 /// by whoever had it, and this is obeyed by root.
 void AppDelegate::SelectZeltoShowRuleAction() {
-    DeviceRuleWindow.DeviceRuleCommand->setPlainText(deviceRuleCommand());
-    (void)DeviceRuleWindow.runModal(&SelectZeltoWindow);
-    DeviceRuleWindow.orderOut();
+    DeviceRuleWindow->DeviceRuleCommand->setPlainText(deviceRuleCommand());
+    (void)DeviceRuleWindow->runModal(&*SelectZeltoWindow);
+    DeviceRuleWindow->orderOut();
 }
 
 void AppDelegate::DeviceRuleCopyAction() {
-    QGuiApplication::clipboard()->setText(DeviceRuleWindow.DeviceRuleCommand->toPlainText());
+    QGuiApplication::clipboard()->setText(DeviceRuleWindow->DeviceRuleCommand->toPlainText());
 }
 
 void AppDelegate::DeviceRuleCloseAction() {
-    DeviceRuleWindow.stopModal(Window::ModalCancel);
+    DeviceRuleWindow->stopModal(Window::ModalCancel);
 }
 
 void AppDelegate::SelectZeltoOKAction() {
     const auto index =
-        static_cast<std::uint8_t>(SelectZeltoWindow.SelectZeltoComboBox->currentIndex());
+        static_cast<std::uint8_t>(SelectZeltoWindow->SelectZeltoComboBox->currentIndex());
     Drives.CurrentUsbIntf = Drives.UsbIntf.at(index);
     Drives.SelectedZeltoIndex = index;
-    SelectZeltoWindow.giveWayTo([this] { ProcessBySecurityState(); });
+    SelectZeltoWindow->giveWayTo([this] { ProcessBySecurityState(); });
 }
 
 void AppDelegate::SelectZeltoCancelAction() {

@@ -35,8 +35,8 @@ void AppDelegate::TimerHandler() {
     }
 
     const auto now = m_platform.clock.now();
-    showValue(*MainSettingsWindow.PCTimeText,
-              dateTimeText(clockAt(now + m_platform.clock.utcOffset(now))));
+    m_computerTime = dateTimeText(clockAt(now + m_platform.clock.utcOffset(now)));
+    showTimes();
 
     if (Drives.CurrentUsbIntf == nullptr) {
         return;
@@ -47,7 +47,7 @@ void AppDelegate::TimerHandler() {
     }
     showDriveTime(time.record);
     if (DisplayRemainingTimeAuthenticateWindow) {
-        showValue(*AuthenticateWindow.AuthenticateRemainingTimeText,
+        showValue(*AuthenticateWindow->AuthenticateRemainingTimeText,
                   remainingTimeText(time.record, {.expired = localized("IDS_EXPIRED"),
                                                   .days = localized("IDS_DAYS"),
                                                   .hours = localized("IDS_HOURS"),
@@ -106,7 +106,7 @@ void AppDelegate::formatAndCopy(const SetupProgress& before) {
 }
 
 void AppDelegate::showSetup(const SetupView& view) {
-    auto& form = ZeltoSettingWindow;
+    auto& form = *ZeltoSettingWindow;
     showValue(*form.ZeltoSettingText, setupText(view.text));
     form.SetupStepsView->setCurrentStep(view.step);
     if (view.outcome == SetupView::Outcome::Failed) {
@@ -121,15 +121,26 @@ void AppDelegate::showSetup(const SetupView& view) {
 }
 
 void AppDelegate::showDriveTime(const TimeStatus& status) {
-    QString text = localized("IDS_ERR_TIME_STATUS_INVALID");
+    m_driveTime = localized("IDS_ERR_TIME_STATUS_INVALID");
     if (status.clockNotValid) {
         TimeStatusInvalid = true;
-        showSettingsCues();
+        if (MainSettingsWindow.isBuilt()) {
+            showSettingsCues();
+        }
     } else if (const auto moment = momentOf(status.clock)) {
-        text = dateTimeText(clockAt(*moment + m_platform.clock.utcOffset(*moment)));
+        m_driveTime = dateTimeText(clockAt(*moment + m_platform.clock.utcOffset(*moment)));
     }
-    showValue(*MainSettingsWindow.DeviceTimeText, text);
-    showValue(*AuthenticateWindow.AuthenticateDeviceTimeText, text);
+    showTimes();
+}
+
+void AppDelegate::showTimes() {
+    if (MainSettingsWindow.isBuilt()) {
+        showValue(*MainSettingsWindow->PCTimeText, m_computerTime);
+        showValue(*MainSettingsWindow->DeviceTimeText, m_driveTime);
+    }
+    if (AuthenticateWindow.isBuilt()) {
+        showValue(*AuthenticateWindow->AuthenticateDeviceTimeText, m_driveTime);
+    }
 }
 
 IOReturn AppDelegate::SetCurrentTime() {
@@ -154,7 +165,7 @@ void AppDelegate::UpdateCheckBoxShowRemainingTime() {
 void AppDelegate::UpdateUserDefaultsShowRemainingTime() {
     // Ignored: everything else has been accepted by now, and the program can end.
     (void)writeShowRemainingTime(Device(),
-                                 MainSettingsWindow.ShowRemainingTimeCheckBox->isChecked());
+                                 MainSettingsWindow->ShowRemainingTimeCheckBox->isChecked());
 }
 
 } // namespace zelto

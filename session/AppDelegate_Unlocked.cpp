@@ -5,7 +5,7 @@
 namespace zelto {
 
 void AppDelegate::DisplayUnlockedWindow() {
-    UnlockedWindow.centreAndMakeKeyAndOrderFront();
+    UnlockedWindow->centreAndMakeKeyAndOrderFront();
 }
 
 void AppDelegate::UnlockedOKAction() {
@@ -18,12 +18,12 @@ void AppDelegate::UnlockedLogOffAction() {
 }
 
 void AppDelegate::UnlockedSetupAction() {
-    UnlockedWindow.giveWayTo([this] { DisplayMainSettingsWindow(false); });
+    UnlockedWindow->giveWayTo([this] { DisplayMainSettingsWindow(false); });
     quitWithoutWindow();
 }
 
 void AppDelegate::DisplayUnlockingWindow() {
-    UnlockingWindow.centreAndMakeKeyAndOrderFront();
+    UnlockingWindow->centreAndMakeKeyAndOrderFront();
 }
 
 void AppDelegate::UnlockingLogOffAction() {
@@ -36,7 +36,7 @@ void AppDelegate::UnlockingCancelAction() {
 }
 
 void AppDelegate::UnlockingSetupAction() {
-    UnlockingWindow.giveWayTo([this] { DisplayMainSettingsWindow(false); });
+    UnlockingWindow->giveWayTo([this] { DisplayMainSettingsWindow(false); });
     quitWithoutWindow();
 }
 

@@ -56,11 +56,11 @@ QString AppDelegate::tableViewObjectValue(const QString& column, int row) const 
 
 void AppDelegate::reloadAreaTable(const AreaView& view) {
     m_areaTable->reloadData();
-    MainSettingsWindow.AreaBarView->setSegments(barOfView(view, !Settings.InitialSetting));
+    MainSettingsWindow->AreaBarView->setSegments(barOfView(view, !Settings.InitialSetting));
 }
 
 void AppDelegate::MainSettingsAreaSettingsAction() {
-    auto& form = AreaSettingsWindow;
+    auto& form = *AreaSettingsWindow;
     TextInputMode = TextInputModes::AreaSettings;
     form.AreaSettingsOKButton->setEnabled(false);
     const auto fields = diskCapacityFields();
@@ -78,7 +78,7 @@ void AppDelegate::MainSettingsAreaSettingsAction() {
     form.AreaSettingsCue->setVisible(Changed.AreaSettingsPerformed);
     UpdateAreaSettingsWindow();
 
-    if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
+    if (form.runModal(&*MainSettingsWindow) == Window::ModalOK) {
         Changed.AreaSettingsPerformed = true;
         Settings.AreasWereSent = false;
         rebuildUserAreas(Settings.AreaInfos, {.mebibytes = Settings.AreaSettingsDiskCapacity,
@@ -94,7 +94,7 @@ void AppDelegate::AreaSettingsTextDidChange() {
 }
 
 void AppDelegate::UpdateAreaSettingsWindow() {
-    auto& form = AreaSettingsWindow;
+    auto& form = *AreaSettingsWindow;
     const auto fields = diskCapacityFields();
     const std::array<QString, 3> texts{fields[0]->text(), fields[1]->text(), fields[2]->text()};
     const AreaDialogVerdict verdict = judgeAreaDialog(texts, Settings.TotalSectorCount);
@@ -131,7 +131,7 @@ void AppDelegate::showAreaSettingsBar() {
         segments.push_back(
             {localized("IDS_FREE_AREA"), static_cast<std::uint64_t>(left), AreaBar::Kind::Free});
     }
-    AreaSettingsWindow.AreaSettingsBarView->setSegments(
+    AreaSettingsWindow->AreaSettingsBarView->setSegments(
         std::move(segments), left < 0 ? AreaBar::Fit::TooLarge : AreaBar::Fit::Fits);
 }
 
@@ -158,20 +158,20 @@ void AppDelegate::keepOneSecureDisk(std::size_t chosen) {
 }
 
 void AppDelegate::AreaSettingsOKAction() {
-    AreaSettingsWindow.stopModal(Window::ModalOK);
+    AreaSettingsWindow->stopModal(Window::ModalOK);
 }
 
 void AppDelegate::AreaSettingsCancelAction() {
-    AreaSettingsWindow.stopModal(Window::ModalCancel);
+    AreaSettingsWindow->stopModal(Window::ModalCancel);
 }
 
 std::array<QLineEdit*, 3> AppDelegate::diskCapacityFields() const {
-    const auto& form = AreaSettingsWindow;
+    const auto& form = *AreaSettingsWindow;
     return {form.Disk1CapacityText, form.Disk2CapacityText, form.Disk3CapacityText};
 }
 
 std::array<QCheckBox*, 3> AppDelegate::diskSecureBoxes() const {
-    const auto& form = AreaSettingsWindow;
+    const auto& form = *AreaSettingsWindow;
     return {form.Disk1SecureCheckBox, form.Disk2SecureCheckBox, form.Disk3SecureCheckBox};
 }
 

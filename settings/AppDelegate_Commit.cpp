@@ -9,7 +9,7 @@ namespace zelto {
 using namespace std::chrono_literals;
 
 void AppDelegate::MainSettingsOKAction() {
-    QPushButton& ok = *MainSettingsWindow.MainSettingsOKButton;
+    QPushButton& ok = *MainSettingsWindow->MainSettingsOKButton;
     ok.setEnabled(false);
     // The commands that follow block the event loop: the user sees now that the commit begins.
     ok.repaint();
@@ -35,11 +35,11 @@ void AppDelegate::MainSettingsCancelAction() {
 }
 
 void AppDelegate::MainSettingsEncryptionKeyAuto() {
-    MainSettingsWindow.EncryptionKeyButton->setEnabled(false);
+    MainSettingsWindow->EncryptionKeyButton->setEnabled(false);
 }
 
 void AppDelegate::MainSettingsEncryptionKeyManual() {
-    MainSettingsWindow.EncryptionKeyButton->setEnabled(true);
+    MainSettingsWindow->EncryptionKeyButton->setEnabled(true);
 }
 
 void AppDelegate::MainSettingsAutoClearEnabledAction() {
@@ -51,7 +51,7 @@ void AppDelegate::MainSettingsAutoClearEnabledAction() {
 
 void AppDelegate::MainSettingsAutoClearDaysAction() {
     Changed.AutoClearSettingsChanged = true;
-    MainSettingsWindow.AutoClearText->clear();
+    MainSettingsWindow->AutoClearText->clear();
     UpdateMainSettingsOKButton();
 }
 

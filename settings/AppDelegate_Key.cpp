@@ -23,12 +23,12 @@ bool hasKeyToClear(SecurityState state) {
 } // namespace
 
 void AppDelegate::MainSettingsEncryptionKeyAction() {
-    auto& form = EncryptionKeyWindow;
+    auto& form = *EncryptionKeyWindow;
     TextInputMode = TextInputModes::EncryptionKey;
     form.EncryptionKeyText->setSecret(Settings.StrEncryptionKey.view());
     UpdateEncryptionKeyWindow();
 
-    if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
+    if (form.runModal(&*MainSettingsWindow) == Window::ModalOK) {
         Settings.StrEncryptionKey = form.EncryptionKeyText->secretText();
     }
     TextInputMode = TextInputModes::MainSettings;
@@ -37,18 +37,18 @@ void AppDelegate::MainSettingsEncryptionKeyAction() {
 }
 
 void AppDelegate::UpdateEncryptionKeyWindow() {
-    auto& form = EncryptionKeyWindow;
+    auto& form = *EncryptionKeyWindow;
     const QStringView digits = form.EncryptionKeyText->secret();
     form.EncryptionKeyOKButton->setEnabled(isValidKeyText(digits));
     showObstacle(*form.EncryptionKeyObstacle, keyObstacle(digits));
 }
 
 void AppDelegate::EncryptionKeyOKAction() {
-    EncryptionKeyWindow.stopModal(Window::ModalOK);
+    EncryptionKeyWindow->stopModal(Window::ModalOK);
 }
 
 void AppDelegate::EncryptionKeyCancelAction() {
-    EncryptionKeyWindow.stopModal(Window::ModalCancel);
+    EncryptionKeyWindow->stopModal(Window::ModalCancel);
 }
 
 void AppDelegate::MainSettingsAutoClearEraseAction() {

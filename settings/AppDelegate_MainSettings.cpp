@@ -33,7 +33,7 @@ void AppDelegate::openMainSettingsWindow() {
         return;
     }
     reloadAreaTable(areas);
-    MainSettingsWindow.centreAndMakeKeyAndOrderFront();
+    MainSettingsWindow->centreAndMakeKeyAndOrderFront();
     UpdateMainSettingsOKButton();
 }
 
@@ -57,7 +57,7 @@ AreaView AppDelegate::keepAreaView() {
 }
 
 void AppDelegate::showFreeCapacity(const AreaView& areas) {
-    showValue(*MainSettingsWindow.FreeCapacityText,
+    showValue(*MainSettingsWindow->FreeCapacityText,
               localized("IDS_FREE_CAPACITY", mebibytesOfSectors(areas.freeSectors)));
 }
 
@@ -73,16 +73,16 @@ bool AppDelegate::readAreasForSettings() {
         Settings.InitialSetting = true;
         Settings.TotalSectorCount = sectorsBesideToolArea(Settings.TotalSectorCount);
     } else {
-        MainSettingsWindow.AreaSettingsButton->setEnabled(false);
+        MainSettingsWindow->AreaSettingsButton->setEnabled(false);
     }
     const std::uint64_t mebibytes = mebibytesOfSectors(Settings.TotalSectorCount);
-    showValue(*MainSettingsWindow.TotalCapacityText, localized("IDS_TOTAL_CAPACITY", mebibytes));
+    showValue(*MainSettingsWindow->TotalCapacityText, localized("IDS_TOTAL_CAPACITY", mebibytes));
     Settings.AreaSettingsDiskCapacity[0] = mebibytes;
     return true;
 }
 
 void AppDelegate::clearMainSettingsWindow() {
-    auto& form = MainSettingsWindow;
+    auto& form = *MainSettingsWindow;
     form.ZeltoDriveComboBox->addItem(
         QString::asprintf("Device %d", static_cast<int>(Drives.SelectedZeltoIndex)));
     form.ZeltoDriveComboBox->setCurrentIndex(0);
@@ -123,7 +123,7 @@ bool AppDelegate::showSecurityOfDrive(const DeviceStatus& status) {
 }
 
 void AppDelegate::showSecurity(const SecurityView& view) {
-    auto& form = MainSettingsWindow;
+    auto& form = *MainSettingsWindow;
     form.PasswordSettingsButton->setEnabled(view.passwordsEnabled);
     form.EncryptionKeyAutoManualSelectRadioButton->setEnabled(view.keyOriginEnabled);
     form.EncryptionKeyAutoManualSelectRadioButton->selectCellWithTag(
@@ -146,7 +146,7 @@ void AppDelegate::showSecurity(const SecurityView& view) {
 }
 
 SecurityView AppDelegate::shownSecurity() const {
-    const auto& form = MainSettingsWindow;
+    const auto& form = *MainSettingsWindow;
     // The controls' own state: all of them are disabled while the window itself is.
     const auto enabled = [&form](const QWidget* control) { return control->isEnabledTo(&form); };
     return {
@@ -178,14 +178,14 @@ void AppDelegate::UpdateMainSettingsOKButton() {
 
 void AppDelegate::UpdateMainSettingsOKButtonAtInitialization() {
     const MainSettingsEntries entries = mainSettingsEntries();
-    MainSettingsWindow.MainSettingsOKButton->setEnabled(canCommitAtInitialization(entries));
-    showObstacle(*MainSettingsWindow.MainSettingsObstacle, obstacleAtInitialization(entries));
+    MainSettingsWindow->MainSettingsOKButton->setEnabled(canCommitAtInitialization(entries));
+    showObstacle(*MainSettingsWindow->MainSettingsObstacle, obstacleAtInitialization(entries));
 }
 
 void AppDelegate::UpdateMainSettingsOKButtonAtChanging() {
     const MainSettingsEntries entries = mainSettingsEntries();
-    MainSettingsWindow.MainSettingsOKButton->setEnabled(canCommitAtChanging(entries));
-    showObstacle(*MainSettingsWindow.MainSettingsObstacle, obstacleAtChanging(entries));
+    MainSettingsWindow->MainSettingsOKButton->setEnabled(canCommitAtChanging(entries));
+    showObstacle(*MainSettingsWindow->MainSettingsObstacle, obstacleAtChanging(entries));
 }
 
 void AppDelegate::showObstacle(QLabel& line, const Obstacle& obstacle) const {
@@ -211,11 +211,11 @@ void AppDelegate::showSettingsCues() {
                                             .clockIsNotValid = TimeStatusInvalid,
                                             .autoClear = shown.autoClear,
                                             .autoLogOff = shown.autoLogOff});
-    show(*MainSettingsWindow.MainSettingsAreasCue, cues.areas);
-    show(*MainSettingsWindow.MainSettingsClockCue, cues.clock);
-    show(*MainSettingsWindow.MainSettingsPeriodsCue, cues.periods);
-    MainSettingsWindow.MainSettingsCommitCue->setWarns(Settings.InitialSetting);
-    show(*MainSettingsWindow.MainSettingsCommitCue, cues.commit);
+    show(*MainSettingsWindow->MainSettingsAreasCue, cues.areas);
+    show(*MainSettingsWindow->MainSettingsClockCue, cues.clock);
+    show(*MainSettingsWindow->MainSettingsPeriodsCue, cues.periods);
+    MainSettingsWindow->MainSettingsCommitCue->setWarns(Settings.InitialSetting);
+    show(*MainSettingsWindow->MainSettingsCommitCue, cues.commit);
 }
 
 /// The two text fields are not told apart.

@@ -68,7 +68,7 @@ void AppDelegate::MainSettingsPasswordSettingsAction() {
 }
 
 void AppDelegate::DisplayPasswordSettingsWindow() {
-    auto& form = PasswordSettingsWindow;
+    auto& form = *PasswordSettingsWindow;
     auto& parameters = Settings.PasswordSettingsParameters;
     TextInputMode = TextInputModes::PasswordSettings;
     select(*form.PS_1stOnlyOr1stAnd2ndRadioButton, parameters.Use1stAnd2ndPassword);
@@ -82,7 +82,7 @@ void AppDelegate::DisplayPasswordSettingsWindow() {
     form.PS_TrialsCue->setText(localized("IDS_HINT_TRIALS_ERASE"));
     UpdatePasswordSettingsWindow();
 
-    if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
+    if (form.runModal(&*MainSettingsWindow) == Window::ModalOK) {
         Changed.ChangePassword = true;
         parameters.Use1stAnd2ndPassword = meansTwo(*form.PS_1stOnlyOr1stAnd2ndRadioButton);
         parameters.strNew1stPassword = form.PS_1stPasswordText->secretText();
@@ -96,7 +96,7 @@ void AppDelegate::DisplayPasswordSettingsWindow() {
 }
 
 void AppDelegate::DisplayPasswordChangeWindow() {
-    auto& form = PasswordChangeWindow;
+    auto& form = *PasswordChangeWindow;
     auto& parameters = Settings.PasswordSettingsParameters;
     TextInputMode = TextInputModes::PasswordChange;
     select(*form.PC_1stOnlyOr1stAnd2ndRadioButton, parameters.Use1stAnd2ndPassword);
@@ -114,7 +114,7 @@ void AppDelegate::DisplayPasswordChangeWindow() {
     form.PC_TrialsCue->setText(localized("IDS_HINT_TRIALS_ERASE"));
     UpdatePasswordChangeWindow();
 
-    if (form.runModal(&MainSettingsWindow) == Window::ModalOK) {
+    if (form.runModal(&*MainSettingsWindow) == Window::ModalOK) {
         keepChangedPasswords();
     }
     TextInputMode = TextInputModes::MainSettings;
@@ -125,7 +125,7 @@ void AppDelegate::DisplayPasswordChangeWindow() {
 }
 
 void AppDelegate::keepChangedPasswords() {
-    const auto& form = PasswordChangeWindow;
+    const auto& form = *PasswordChangeWindow;
     auto& parameters = Settings.PasswordSettingsParameters;
     Changed.ChangePassword = true;
     parameters.Use1stAnd2ndPassword = meansTwo(*form.PC_1stOnlyOr1stAnd2ndRadioButton);
@@ -137,7 +137,7 @@ void AppDelegate::keepChangedPasswords() {
 }
 
 void AppDelegate::UpdatePasswordSettingsWindow() {
-    auto& form = PasswordSettingsWindow;
+    auto& form = *PasswordSettingsWindow;
     const bool two = meansTwo(*form.PS_1stOnlyOr1stAnd2ndRadioButton);
     enable(
         {form.PS_2ndPasswordText, form.PS_Again2ndPasswordText, form.PS_2ndPasswordNumberOfTrials},
@@ -157,7 +157,7 @@ void AppDelegate::UpdatePasswordSettingsWindow() {
 
 /// The drive's number of passwords decides, not the radio: it cannot be changed here.
 void AppDelegate::UpdatePasswordChangeWindow() {
-    auto& form = PasswordChangeWindow;
+    auto& form = *PasswordChangeWindow;
     // The views are into this text, so it outlives the entries.
     const QString trials = form.PC_2ndPasswordNumberOfTrials->text();
     const PasswordChangeEntries entries{
@@ -184,19 +184,19 @@ void AppDelegate::PasswordSettingsUse1stAnd2ndAction() {
 }
 
 void AppDelegate::PasswordSettingsOKAction() {
-    PasswordSettingsWindow.stopModal(Window::ModalOK);
+    PasswordSettingsWindow->stopModal(Window::ModalOK);
 }
 
 void AppDelegate::PasswordSettingsCancelAction() {
-    PasswordSettingsWindow.stopModal(Window::ModalCancel);
+    PasswordSettingsWindow->stopModal(Window::ModalCancel);
 }
 
 void AppDelegate::PasswordChangeOKAction() {
-    PasswordChangeWindow.stopModal(Window::ModalOK);
+    PasswordChangeWindow->stopModal(Window::ModalOK);
 }
 
 void AppDelegate::PasswordChangeCancelAction() {
-    PasswordChangeWindow.stopModal(Window::ModalCancel);
+    PasswordChangeWindow->stopModal(Window::ModalCancel);
 }
 
 } // namespace zelto

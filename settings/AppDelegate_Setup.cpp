@@ -88,7 +88,7 @@ void AppDelegate::beginSetupProgress() {
     (void)TKVR21_Reconnect(Device(), 1, 1);
 
     showSetup({});
-    MainSettingsWindow.giveWayTo([this] { ZeltoSettingWindow.centreAndMakeKeyAndOrderFront(); });
+    MainSettingsWindow->giveWayTo([this] { ZeltoSettingWindow->centreAndMakeKeyAndOrderFront(); });
 }
 
 } // namespace zelto

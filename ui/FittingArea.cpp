@@ -140,7 +140,8 @@ int FittingArea::heightForWidth(int width) const {
 }
 
 bool FittingArea::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+    // A window that is not on the screen is laid out when it comes there.
+    if (watched == widget() && event->type() == QEvent::LayoutRequest && isVisible()) {
         updateGeometry();
         // The toolkit's area follows its contents when it is asked to by name.
         QScrollArea::event(event);

@@ -8,16 +8,37 @@
 #include <QFontMetrics>
 #include <QIcon>
 
+#include <algorithm>
+#include <array>
+
 namespace zelto {
 namespace {
 
-QIcon decodeIcon() {
+constexpr std::array Sizes{16, 24, 32, 48, 64, 128, 256, 512};
+
+QString fileOf(int size) {
+    return QStringLiteral(":/zelto/icons/zelto-%1.png").arg(size);
+}
+
+/// Each size goes to the display with each window. Where more is shown than a task bar does, a
+/// desktop takes the icon that is installed.
+QIcon iconForFrames() {
+    constexpr int Largest = 128;
     initResources();
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256, 512}) {
-        icon.addFile(QStringLiteral(":/zelto/icons/zelto-%1.png").arg(size), {size, size});
+    for (const int size : Sizes) {
+        if (size <= Largest) {
+            icon.addFile(fileOf(size), {size, size});
+        }
     }
     return icon;
+}
+
+/// The smallest that is not smaller, scaled down.
+QPixmap iconOfSide(int pixels) {
+    const auto size = std::ranges::lower_bound(Sizes, pixels);
+    const QPixmap whole(fileOf(size != Sizes.end() ? *size : Sizes.back()));
+    return whole.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace
@@ -28,10 +49,10 @@ ProductIcon::ProductIcon(QWidget* parent) : QLabel(parent) {
 }
 
 QIcon ProductIcon::icon() {
-    // Every window asks for it, and decoding it once takes longer than building all of them.
+    // Every window asks for it.
     static QIcon decoded;
     if (decoded.isNull()) {
-        decoded = decodeIcon();
+        decoded = iconForFrames();
         // Pixmaps must not outlive the application.
         qAddPostRoutine([] { decoded = {}; });
     }
@@ -46,8 +67,11 @@ void ProductIcon::changeEvent(QEvent* event) {
 }
 
 void ProductIcon::render() {
+    initResources();
     const int side = fontMetrics().height() * 3;
-    setPixmap(icon().pixmap({side, side}, devicePixelRatioF()));
+    QPixmap icon = iconOfSide(qRound(side * devicePixelRatioF()));
+    icon.setDevicePixelRatio(devicePixelRatioF());
+    setPixmap(icon);
 }
 
 } // namespace zelto

@@ -113,7 +113,7 @@ void DemoWorld::takePreparedDrive() {
 }
 
 void DemoWorld::typePassword(const char* password) {
-    if (m_utility && m_utility->delegate().AuthenticateWindow.isVisible()) {
+    if (m_utility && m_utility->delegate().AuthenticateWindow.isInUse()) {
         Person([](const std::string&) {
         }).type("AuthenticateTextField", QString::fromLatin1(password));
     }

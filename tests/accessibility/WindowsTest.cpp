@@ -75,10 +75,10 @@ TEST_F(EveryWindow, OfTheSelectionOfADrive) {
 
 TEST_F(EveryWindow, OfTheDeviceRule) {
     start();
-    auto& window = app().DeviceRuleWindow;
+    auto& window = *app().DeviceRuleWindow;
     window.DeviceRuleCommand->setPlainText(QStringLiteral("sudo tee"));
     window.centreAndMakeKeyAndOrderFront();
-    app().SelectZeltoWindow.orderOut();
+    app().SelectZeltoWindow->orderOut();
     hear("DeviceRuleWindow");
 }
 

@@ -138,8 +138,8 @@ TEST_F(DesktopTest, ARefusedPasswordIsSelectedSoThatTypingReplacesIt) {
     drive = plugPreparedDrive();
     start();
     logIn(QStringLiteral("wrong"));
-    const auto& field = *app().AuthenticateWindow.AuthenticateTextField;
-    EXPECT_EQ(app().AuthenticateWindow.focusWidget(), &field);
+    const auto& field = *app().AuthenticateWindow->AuthenticateTextField;
+    EXPECT_EQ(app().AuthenticateWindow->focusWidget(), &field);
     EXPECT_EQ(field.selectedText().size(), 5);
     EXPECT_EQ(field.secret(), QStringLiteral("wrong"));
 }

@@ -34,7 +34,7 @@ TEST_F(SessionDispatchTest, WithoutADriveTheFocusIsOnTheTextThatSaysWhatToDo) {
     auto* const said = control<QLabel>("SelectZeltoNoDrive");
     EXPECT_TRUE(said->isVisible());
     EXPECT_EQ(said->text(), localized("IDS_ERR_NOT_FOUND_ZELTO"));
-    EXPECT_EQ(app().SelectZeltoWindow.focusWidget(), said);
+    EXPECT_EQ(app().SelectZeltoWindow->focusWidget(), said);
     plugPreparedDrive();
     computer.settle();
     press("SelectZeltoUpdate");

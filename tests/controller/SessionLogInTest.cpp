@@ -175,7 +175,7 @@ TEST_F(SessionLogInTest, CancelAndTheTitleBarEndTheApplication) {
     EXPECT_TRUE(hasQuit());
     start();
     EXPECT_FALSE(hasQuit());
-    app().AuthenticateWindow.close();
+    app().AuthenticateWindow->close();
     EXPECT_TRUE(hasQuit());
 }
 

@@ -52,7 +52,7 @@ TEST_F(SessionLogOffTest, EjectsTheSecureVolumeThenLocksThenEnds) {
 TEST_F(SessionLogOffTest, TheUnlockedWindowLogsOffTheSameWay) {
     beginUnlocked();
     app().DisplayUnlockedWindow();
-    app().UnlockingWindow.orderOut();
+    app().UnlockingWindow->orderOut();
     press("UnlockedLogOff");
     EXPECT_THAT(commands(), ElementsAre("TKVR21_GetAreaInfos", "TKVR21_Logout"));
     EXPECT_TRUE(hasQuit());
@@ -123,7 +123,7 @@ TEST_F(SessionLogOffTest, SetupClosesTheWindowAndOpensTheSettings) {
 
 TEST_F(SessionLogOffTest, SetupFromTheUnlockedWindowOpensTheSettingsToo) {
     beginUnlocked();
-    app().UnlockingWindow.orderOut();
+    app().UnlockingWindow->orderOut();
     app().DisplayUnlockedWindow();
     press("UnlockedSetup");
     EXPECT_EQ(visibleWindow(), "MainSettingsWindow");
@@ -140,7 +140,7 @@ TEST_F(SessionLogOffTest, ClosingLeavesTheDriveUnlocked) {
 
 TEST_F(SessionLogOffTest, ClosingTheUnlockedWindowLeavesTheDriveUnlocked) {
     beginUnlocked();
-    app().UnlockingWindow.orderOut();
+    app().UnlockingWindow->orderOut();
     app().DisplayUnlockedWindow();
     press("UnlockedOK");
     EXPECT_TRUE(hasQuit());

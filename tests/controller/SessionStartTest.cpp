@@ -182,16 +182,16 @@ TEST_F(StartTest, AQuitRequestIsRefusedOnlyWhileASetupIsUnderWay) {
 
 TEST_F(StartTest, ClosingTheOnlyWindowQuits) {
     start();
-    app().SelectZeltoWindow.close();
+    app().SelectZeltoWindow->close();
     EXPECT_TRUE(hasQuit());
 }
 
 TEST_F(StartTest, ClosingTheProgressWindowIsRefusedWhileASetupIsUnderWay) {
     start();
-    app().SelectZeltoWindow.orderOut();
+    app().SelectZeltoWindow->orderOut();
     app().Setup.InitialSettingState = SetupProgress::WaitingForReconnect;
-    app().ZeltoSettingWindow.centreAndMakeKeyAndOrderFront();
-    app().ZeltoSettingWindow.close();
+    app().ZeltoSettingWindow->centreAndMakeKeyAndOrderFront();
+    app().ZeltoSettingWindow->close();
     EXPECT_FALSE(hasQuit());
     EXPECT_EQ(visibleWindow(), "ZeltoSettingWindow");
 }
@@ -226,13 +226,13 @@ TEST_F(StartTest, TheHintGoesWhenTheRefusedDriveIsPulled) {
     const auto first = computer.usb.makeHandle(computer.usb.attachments().front());
     ASSERT_EQ(first->USBDeviceOpen(), kIOReturnSuccess);
     start();
-    EXPECT_TRUE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_TRUE(app().SelectZeltoWindow->SelectZeltoAccessHint->isVisible());
     unplug(drive);
     tick();
-    EXPECT_FALSE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_FALSE(app().SelectZeltoWindow->SelectZeltoAccessHint->isVisible());
     plug(drive);
     tick();
-    EXPECT_FALSE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_FALSE(app().SelectZeltoWindow->SelectZeltoAccessHint->isVisible());
 }
 
 TEST_F(StartTest, TheHintAppearsWithADriveThatIsRefusedOnArrival) {
@@ -241,7 +241,7 @@ TEST_F(StartTest, TheHintAppearsWithADriveThatIsRefusedOnArrival) {
     drive->describe().openResult = kIOReturnNotPrivileged;
     plug(drive);
     tick();
-    EXPECT_TRUE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_TRUE(app().SelectZeltoWindow->SelectZeltoAccessHint->isVisible());
     EXPECT_EQ(text("SelectZeltoAccessHint"), localized("IDS_HINT_RULE_MISSING"));
 }
 
@@ -251,11 +251,11 @@ TEST_F(StartTest, UpdateTakesADriveThatTheOtherCopyHasLetGo) {
     ASSERT_EQ(first->USBDeviceOpen(), kIOReturnSuccess);
     start();
     press("SelectZeltoUpdate");
-    EXPECT_TRUE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_TRUE(app().SelectZeltoWindow->SelectZeltoAccessHint->isVisible());
     first.reset();
     press("SelectZeltoUpdate");
     EXPECT_EQ(text("SelectZeltoComboBox"), QStringLiteral("Device 0"));
-    EXPECT_FALSE(app().SelectZeltoWindow.SelectZeltoAccessHint->isVisible());
+    EXPECT_FALSE(app().SelectZeltoWindow->SelectZeltoAccessHint->isVisible());
 }
 
 TEST_F(StartTest, NoHintIsShownWithoutADriveThatWasRefused) {

@@ -14,7 +14,7 @@ protected:
             std::ranges::copy(encodeTimeStatus(status), reply.data.begin());
         });
     }
-    [[nodiscard]] QString driveTime() { return control<QLabel>("DeviceTimeText")->text(); }
+    [[nodiscard]] QString driveTime() { return app().MainSettingsWindow->DeviceTimeText->text(); }
     [[nodiscard]] QString loginDriveTime() { return text("AuthenticateDeviceTimeText"); }
     [[nodiscard]] QString remaining() { return text("AuthenticateRemainingTimeText"); }
 };
@@ -23,7 +23,7 @@ TEST_F(SessionTimerTest, TicksShowTheComputersLocalTimeEvenWithoutADrive) {
     computer.clock.setUtcOffset(std::chrono::hours(-5));
     start();
     tick();
-    EXPECT_EQ(control<QLabel>("PCTimeText")->text(), QStringLiteral("2026/03/02 04:30:01"));
+    EXPECT_EQ(app().MainSettingsWindow->PCTimeText->text(), QStringLiteral("2026/03/02 04:30:01"));
     EXPECT_THAT(commands(), IsEmpty());
 }
 

@@ -104,7 +104,7 @@ TEST_F(ChangeSettings, CancelQuitsWithoutACommand) {
 
 TEST_F(ChangeSettings, ClosingTheWindowIsCancelling) {
     beginWithSettingsOf({});
-    app().MainSettingsWindow.reject();
+    app().MainSettingsWindow->reject();
     EXPECT_TRUE(hasQuit());
     EXPECT_THAT(commands(), IsEmpty());
 }
@@ -161,7 +161,7 @@ TEST_F(ChangeSettings, AWrongCurrentFirstPasswordIsToldAfterAPauseAndTheWindowSt
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_CURRENT_1ST_PASSWORD_INVALID")));
     EXPECT_FALSE(hasQuit());
     EXPECT_TRUE(okIsEnabled());
-    EXPECT_TRUE(app().MainSettingsWindow.isVisible());
+    EXPECT_TRUE(app().MainSettingsWindow->isVisible());
 
     // What was typed is still there; the user corrects one field and tries again.
     alerts.clear();
@@ -267,10 +267,10 @@ TEST_F(ChangeSettings, OpeningTwiceInOneRunLeavesTwoItemsAndShowsTheFirst) {
 
 TEST_F(ChangeSettings, AnAreaListThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
-    app().MainSettingsWindow.orderOut();
+    app().MainSettingsWindow->orderOut();
     failCommand("TKVR21_GetAreaInfos", {.kind = Fault::Kind::VanishesBefore});
     app().DisplayMainSettingsWindow(false);
-    EXPECT_FALSE(app().MainSettingsWindow.isVisible());
+    EXPECT_FALSE(app().MainSettingsWindow->isVisible());
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
 }
 
@@ -283,7 +283,7 @@ TEST_F(ChangeSettings, AnAreaTableShorterThanItsHeaderShowsNoRows) {
             reply.data[1] = length;
         });
         startWithDrive();
-        EXPECT_TRUE(app().MainSettingsWindow.isVisible()) << int{length};
+        EXPECT_TRUE(app().MainSettingsWindow->isVisible()) << int{length};
         EXPECT_EQ(app().numberOfRowsInTableView(), 0) << int{length};
         putAway();
     }
@@ -291,10 +291,10 @@ TEST_F(ChangeSettings, AnAreaTableShorterThanItsHeaderShowsNoRows) {
 
 TEST_F(ChangeSettings, ATimeStatusThatCannotBeReadOpensNothing) {
     beginWithSettingsOf({});
-    app().MainSettingsWindow.orderOut();
+    app().MainSettingsWindow->orderOut();
     failCommand("TKVR21_ZELTO_GetTimeStatus", {});
     app().DisplayMainSettingsWindow(false);
-    EXPECT_FALSE(app().MainSettingsWindow.isVisible());
+    EXPECT_FALSE(app().MainSettingsWindow->isVisible());
     EXPECT_EQ(messages().size(), 1u);
 }
 
@@ -302,13 +302,13 @@ TEST_F(ChangeSettings, AStatusThatCannotBeReadIsNotReported) {
     beginWithSettingsOf({});
     failCommand("TKVR21_GetDeviceStatus", {});
     app().DisplayMainSettingsWindow(false);
-    EXPECT_TRUE(app().MainSettingsWindow.isVisible());
+    EXPECT_TRUE(app().MainSettingsWindow->isVisible());
     EXPECT_THAT(messages(), IsEmpty());
 }
 
 TEST_F(ChangeSettings, ADriveWithoutSecureAreaHasNothingToChangeButNothingBreaks) {
     beginWithSettingsOf({.secureDisk = 0});
-    auto& main = app().MainSettingsWindow;
+    auto& main = *app().MainSettingsWindow;
     EXPECT_TRUE(main.isVisible());
     EXPECT_FALSE(app().Settings.InitialSetting);
     EXPECT_FALSE(isEnabled("PasswordSettingsButton"));

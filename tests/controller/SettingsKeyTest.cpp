@@ -205,7 +205,7 @@ TEST_F(ClearAll, AFullyLockedDriveGetsNoPeriods) {
     ASSERT_EQ(driveState(), SecurityState::StateFullLock);
     // Its clock is set, so that the settings open.
     startAgain();
-    if (!app().MainSettingsWindow.isVisible()) {
+    if (!app().MainSettingsWindow->isVisible()) {
         alerts.answer(AlertButton::Default);
         startAgain();
     }
@@ -228,7 +228,7 @@ TEST_F(ClearAll, AResetRefusedForAnotherReasonIsReportedAndNotRepeated) {
     EXPECT_EQ(commands().back(), "TKVR21_GetDeviceStatus");
     EXPECT_EQ(messages().back(), localized("IDS_COMMAND_FAIL_WITH_SENSE_INFO", 0, 0, 0));
     EXPECT_FALSE(hasQuit());
-    EXPECT_TRUE(app().MainSettingsWindow.isVisible());
+    EXPECT_TRUE(app().MainSettingsWindow->isVisible());
 }
 
 TEST_F(ClearAll, EachFailedCommandIsReportedOnceAndStopsIt) {
@@ -244,7 +244,7 @@ TEST_F(ClearAll, EachFailedCommandIsReportedOnceAndStopsIt) {
         clearAnsweringYes();
         EXPECT_EQ(messages().size(), 2u) << command;
         EXPECT_FALSE(hasQuit()) << command;
-        EXPECT_TRUE(app().MainSettingsWindow.isVisible());
+        EXPECT_TRUE(app().MainSettingsWindow->isVisible());
         putAway();
     }
 }

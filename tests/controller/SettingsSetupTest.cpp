@@ -38,7 +38,7 @@ class FirstTimeSetup : public SettingsBench {};
 
 TEST_F(FirstTimeSetup, AnUnpartitionedDriveOpensTheSettingsWithEverySecurityControlOff) {
     begin(2000000);
-    auto& main = app().MainSettingsWindow;
+    auto& main = *app().MainSettingsWindow;
     EXPECT_TRUE(main.isVisible());
     EXPECT_TRUE(app().Settings.InitialSetting);
     EXPECT_EQ(app().Settings.TotalSectorCount, 1959040u);
@@ -139,8 +139,8 @@ TEST_F(FirstTimeSetup, ShowsItsProgressWhileTheDriveIsAway) {
     fill({});
     computer.usb.setReconnectDelay(5s);
     commit();
-    EXPECT_FALSE(app().MainSettingsWindow.isVisible());
-    EXPECT_TRUE(app().ZeltoSettingWindow.isVisible());
+    EXPECT_FALSE(app().MainSettingsWindow->isVisible());
+    EXPECT_TRUE(app().ZeltoSettingWindow->isVisible());
     EXPECT_FALSE(isEnabled("ZeltoSettingOKButton"));
     EXPECT_EQ(text("ZeltoSettingText"), localized("IDS_NOW_SETTING"));
     EXPECT_EQ(app().Setup.InitialSettingState, 1);
@@ -219,7 +219,7 @@ TEST_F(FirstTimeSetup, AManualKeyThatWasNotEnteredIsAskedForBeforeAnythingIsSent
     EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP")));
     EXPECT_THAT(commands(), IsEmpty());
     EXPECT_TRUE(okIsEnabled());
-    EXPECT_TRUE(app().MainSettingsWindow.isVisible());
+    EXPECT_TRUE(app().MainSettingsWindow->isVisible());
 }
 
 TEST_F(FirstTimeSetup, ADriveThatDoesNotSpinUpEndsTheProgram) {

@@ -27,7 +27,7 @@ protected:
     [[nodiscard]] QString progressText() { return text("ZeltoSettingText"); }
     /// All ways of asking for the program's end that a person has at this window.
     void tryToQuit() {
-        auto& window = app().ZeltoSettingWindow;
+        auto& window = *app().ZeltoSettingWindow;
         window.close();
         window.reject();
         app().TerminateApplication();
@@ -102,7 +102,7 @@ TEST_F(SetupProgressTest, QuittingIsRefusedInEveryStepAndAcceptedAtTheEnd) {
     }
     tick();
     ASSERT_EQ(setupState(), 4);
-    app().ZeltoSettingWindow.close();
+    app().ZeltoSettingWindow->close();
     EXPECT_TRUE(hasQuit());
 }
 

@@ -85,7 +85,7 @@ TEST_F(TwoDrives, ChangingOneNeverTouchesTheOther) {
 
 TEST_F(TwoDrives, LoggingOffOneNeverTouchesTheOther) {
     beginWithSettingsOf({});
-    app().MainSettingsWindow.orderOut();
+    app().MainSettingsWindow->orderOut();
     app().DisplayUnlockedWindow();
     press("UnlockedLogOff");
     EXPECT_TRUE(hasQuit());
@@ -147,7 +147,7 @@ TEST_F(TwoDrivesOfOneSerial, SettingOneUpNeverTouchesTheOther) {
 
 TEST_F(TwoDrivesOfOneSerial, LoggingOffOneLeavesTheVolumesOfTheOther) {
     beginWithSettingsOf({});
-    app().MainSettingsWindow.orderOut();
+    app().MainSettingsWindow->orderOut();
     app().DisplayUnlockedWindow();
     press("UnlockedLogOff");
     EXPECT_TRUE(hasQuit());

@@ -74,7 +74,7 @@ protected:
     }
 
     void windowStaysWithOkEnabled() {
-        EXPECT_TRUE(app().MainSettingsWindow.isVisible());
+        EXPECT_TRUE(app().MainSettingsWindow->isVisible());
         EXPECT_TRUE(okIsEnabled());
         EXPECT_EQ(app().Setup.InitialSettingState, 0);
     }
@@ -154,7 +154,7 @@ TEST_P(SettingsFaults, OfClearingAllLeaveTheProgramRunning) {
                    alerts.answer(AlertButton::Alternate);
                    press("MainSettingsClearAllButton");
                },
-           .afterFailure = [&] { EXPECT_TRUE(app().MainSettingsWindow.isVisible()); },
+           .afterFailure = [&] { EXPECT_TRUE(app().MainSettingsWindow->isVisible()); },
            // The first of the two may fail: that is what leads on to the second.
            .unchecked = {"TKVR21_ResetAreaInfos"},
            .ownMessages = 1});
@@ -167,7 +167,7 @@ TEST_P(SettingsFaults, OfErasingTheKeyLeaveTheProgramRunningUntilItLogsOut) {
                    alerts.answer(AlertButton::Alternate);
                    press("EraseEncryptionKeyButton");
                },
-           .afterFailure = [&] { EXPECT_TRUE(app().MainSettingsWindow.isVisible()); },
+           .afterFailure = [&] { EXPECT_TRUE(app().MainSettingsWindow->isVisible()); },
            // Logging out belongs to the end: the program quits whatever comes of it.
            .unchecked = {"TKVR21_GetAreaInfos", "TKVR21_Logout"},
            .ownMessages = 1});

@@ -46,7 +46,7 @@ protected:
     /// came last, where several have its serial number.
     void startWithDrive() {
         start();
-        if (!app().SelectZeltoWindow.isVisible()) {
+        if (!app().SelectZeltoWindow->isVisible()) {
             return;
         }
         const auto& serials = app().Drives.UsbSerial;
@@ -176,8 +176,8 @@ protected:
     }
 
     void openSettingsOfUnlockedDrive() {
-        press(app().UnlockedWindow.isVisible() ? "UnlockedSetup" : "UnlockingSetup");
-        ASSERT_TRUE(app().MainSettingsWindow.isVisible());
+        press(app().UnlockedWindow->isVisible() ? "UnlockedSetup" : "UnlockingSetup");
+        ASSERT_TRUE(app().MainSettingsWindow->isVisible());
     }
 
     /// A drive that was set up, logged in to, with the settings open. It was set up elsewhere,
