@@ -1,8 +1,8 @@
 #include "ui/AlertPresenter.h"
 
+#include "ui/FrontWindow.h"
 #include "ui/ProductIcon.h"
 #include "ui/ReturnKey.h"
-#include "ui/Window.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -35,16 +35,8 @@ QMessageBox::Icon iconOf(AlertWeight weight) {
 /// The window that the user looks at: while another program is active none of ours is, but the
 /// alert still belongs to the one that is on the screen.
 QWidget* windowToBelongTo() {
-    if (QWidget* const active = QApplication::activeWindow()) {
-        return active;
-    }
-    QWidget* shown = QApplication::activeModalWidget();
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (shown == nullptr && window->isVisible() && qobject_cast<Window*>(window) != nullptr) {
-            shown = window;
-        }
-    }
-    return shown;
+    QWidget* const active = QApplication::activeWindow();
+    return active != nullptr ? active : frontWindow();
 }
 
 /// The box is never wider than some 500 pixels for texts that can be wrapped, however long they

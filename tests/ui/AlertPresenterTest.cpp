@@ -1,5 +1,6 @@
 #include "ui/AlertPresenter.h"
 #include "ui/Forms.h"
+#include "ui/FrontWindow.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -195,6 +196,29 @@ TEST(AlertPresenterTest, TakesAVeryLongMessage) {
     AlertPanel panel = confirmation();
     panel.message = QString(100'000, u'x');
     EXPECT_EQ(answer(panel, [](QMessageBox& box) { box.close(); }), AlertButton::Default);
+}
+
+TEST(AlertPresenterTest, AnOpenAlertIsWhatComesForward) {
+    Form<Ui::AuthenticateWindow> window;
+    window.centreAndMakeKeyAndOrderFront();
+    EXPECT_EQ(frontWindow(), &window);
+    answer(confirmation(), [](QMessageBox& box) {
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(box.isActiveWindow());
+        bringForward();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(QApplication::activeWindow(), &box);
+        press(box, QStringLiteral("Cancel"));
+    });
+    EXPECT_EQ(frontWindow(), &window);
+}
+
+TEST(AlertPresenterTest, WithoutAWindowNothingComesForward) {
+    EXPECT_EQ(frontWindow(), nullptr);
+    bringForward();
 }
 
 } // namespace
