@@ -5,6 +5,7 @@
 #include "platform/Application.h"
 #include "platform/Computer.h"
 #include "platform/Desktop.h"
+#include "ui/FrontWindow.h"
 
 #include <algorithm>
 
@@ -33,12 +34,19 @@ void AppDelegate::relocate(const std::filesystem::path& bundle,
     if (!isAlreadyBooted(destination)) {
         CopyApplicationFile(bundle, destination);
         ExecuteTempApp(destination);
+    } else {
+        m_platform.desktop.bringOtherForward();
     }
     TerminateApplication();
 }
 
 void AppDelegate::startSession() {
-    m_platform.desktop.takePlace([this] { TerminateApplication(); });
+    // Not through the gate: whoever waits in an alert wants to see that alert.
+    if (!m_platform.desktop.takePlace(
+            {.comeForward = bringForward, .giveWay = [this] { TerminateApplication(); }})) {
+        TerminateApplication();
+        return;
+    }
     m_platform.desktop.setSessionEndHandler(
         [this] { return applicationShouldTerminate() == TerminateReply::TerminateNow; });
     static_cast<ControllerState&>(*this) = {};

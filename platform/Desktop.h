@@ -25,12 +25,34 @@ public:
     /// of a second; null when the computer cannot be kept awake.
     [[nodiscard]] virtual Hold keepAwake(const std::string& /*why*/) { return nullptr; }
 
-    /// Begins the session's one program. A copy of it that runs without a window and gives way is
-    /// ended first; blocks for a few seconds at most until it has let its drive go. `giveWay` is
-    /// called, from the run loop, when this copy gives way to a later one.
-    virtual void takePlace(const std::function<void()>& /*giveWay*/) {}
+    /// What a later start of the program does to the copy that has the session's place. Called from
+    /// the run loop, also inside a wait or an alert.
+    struct LaterStart {
+        /// The user wants to see this copy: nothing more.
+        std::function<void()> comeForward;
+        /// This copy has no window, and a new one wants its drive.
+        std::function<void()> giveWay;
+    };
+    /// Makes this copy the session's one program. False when another copy is that already and has
+    /// come forward: this one has to end. A copy that gives way is ended first. Blocks for a few
+    /// seconds at most, until the other has come forward, or has let its drive go.
+    [[nodiscard]] virtual bool takePlace(const LaterStart& /*later*/) { return true; }
     /// From now on a new start takes this copy's place.
     virtual void giveWayToNewStart() {}
+    /// Has the session's program come forward, where one runs, for a copy that does not take its
+    /// place. Blocks like takePlace.
+    virtual void bringOtherForward() {}
+
+    /// What is to be known when the program's windows are gone.
+    struct Notice {
+        enum class Weight { Passing, Lasting };
+        /// A lasting one stays until the user has taken note of it.
+        Weight weight = Weight::Passing;
+        std::string title;
+        std::string text;
+    };
+    /// Shows a notice, which outlives the program; does not wait for anybody to show it.
+    virtual void notify(const Notice& /*notice*/) {}
 
     /// Shows a file in the program that the user reads such files with; does not wait for it. False
     /// when there is none.

@@ -1,15 +1,11 @@
 #include "platform/linux/LinuxDesktop.h"
 
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
-#include <QDBusServiceWatcher>
 #include <QDBusUnixFileDescriptor>
 #include <QDesktopServices>
-#include <QEventLoop>
 #include <QGuiApplication>
 #include <QSessionManager>
-#include <QTimer>
 #include <QUrl>
 
 #include <xcb/xcb.h>
@@ -21,23 +17,17 @@
 namespace zelto::linux_platform {
 namespace {
 
-using namespace std::chrono_literals;
-
-/// The session's one program has this name on the session bus.
-const QString ProgramName = QStringLiteral("com.kestrin.zelto");
-
 /// A computer whose login service does not answer is not kept awake, and nobody waits for it.
 constexpr int InhibitMilliseconds = 2000;
-/// What a copy that gives way needs at most to let its drive go.
-constexpr auto GiveWayLimit = 3s;
 
 } // namespace
 
-LinuxDesktop::LinuxDesktop(Bus systemBus, Bus sessionBus, const Waiting& waiting)
-    : m_systemBus(std::move(systemBus)), m_sessionBus(std::move(sessionBus)), m_waiting(waiting) {}
+LinuxDesktop::LinuxDesktop(Bus systemBus, const Bus& sessionBus, const Waiting& waiting)
+    : m_systemBus(std::move(systemBus)),
+      m_place(sessionBus, waiting),
+      m_notifications(sessionBus) {}
 
 LinuxDesktop::~LinuxDesktop() {
-    QObject::disconnect(m_nameLost);
     QObject::disconnect(m_sessionEnd);
 }
 
@@ -56,46 +46,20 @@ Desktop::Hold LinuxDesktop::keepAwake(const std::string& why) {
     return std::make_shared<QDBusUnixFileDescriptor>(reply.value());
 }
 
-void LinuxDesktop::takePlace(const std::function<void()>& giveWay) {
-    QDBusConnectionInterface* const bus = m_sessionBus().interface();
-    if (bus == nullptr) {
-        return;
-    }
-    const QString earlier = bus->serviceOwner(ProgramName);
-    const auto taken =
-        bus->registerService(ProgramName, QDBusConnectionInterface::ReplaceExistingService,
-                             QDBusConnectionInterface::DontAllowReplacement);
-    if (taken.value() != QDBusConnectionInterface::ServiceRegistered) {
-        return;
-    }
-    m_nameLost = QObject::connect(bus, &QDBusConnectionInterface::serviceUnregistered, bus,
-                                  [giveWay](const QString& name) {
-                                      if (name == ProgramName) {
-                                          giveWay();
-                                      }
-                                  });
-    if (!earlier.isEmpty() && earlier != m_sessionBus().baseService()) {
-        waitForEndOf(earlier);
-    }
-}
-
-void LinuxDesktop::waitForEndOf(const QString& connectionName) {
-    QEventLoop loop;
-    QDBusServiceWatcher watcher(connectionName, m_sessionBus(),
-                                QDBusServiceWatcher::WatchForUnregistration);
-    QObject::connect(&watcher, &QDBusServiceWatcher::serviceUnregistered, &loop, &QEventLoop::quit);
-    QTimer::singleShot(GiveWayLimit, &loop, &QEventLoop::quit);
-    if (m_sessionBus().interface()->isServiceRegistered(connectionName)) {
-        m_waiting.run(loop);
-    }
+bool LinuxDesktop::takePlace(const LaterStart& later) {
+    return m_place.take(later);
 }
 
 void LinuxDesktop::giveWayToNewStart() {
-    if (QDBusConnectionInterface* const bus = m_sessionBus().interface()) {
-        // Asking once more for a name that is ours only changes what others may do.
-        (void)bus->registerService(ProgramName, QDBusConnectionInterface::DontQueueService,
-                                   QDBusConnectionInterface::AllowReplacement);
-    }
+    m_place.giveWayToNewStart();
+}
+
+void LinuxDesktop::bringOtherForward() {
+    (void)m_place.bringOtherForward();
+}
+
+void LinuxDesktop::notify(const Notice& notice) {
+    m_notifications.notify(notice);
 }
 
 bool LinuxDesktop::openDocument(const std::filesystem::path& file) {

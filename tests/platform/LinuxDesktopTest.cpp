@@ -1,12 +1,10 @@
 #include "platform/linux/LinuxDesktop.h"
 #include "tests/support/PrivateBus.h"
 
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVirtualObject>
 #include <QThread>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -86,56 +84,12 @@ private:
     int m_watched = -1;
 };
 
-/// One start of the program, with its own connection to the session's bus.
-class Start {
-public:
-    Start(PrivateBus& bus, const QString& name)
-        : m_name(name),
-          m_connection(bus.connection(name)),
-          m_desktop([] { return QDBusConnection("nowhere"); }, [this] { return m_connection; },
-                    m_waiting) {}
-
-    /// As the program does it: who gives way, ends.
-    void takePlace() {
-        m_desktop.takePlace([this] {
-            ++timesGivenWay;
-            // Not from within what the connection itself is telling.
-            QTimer::singleShot(0, [this] { end(); });
-        });
-    }
-    void giveWayToNewStart() { m_desktop.giveWayToNewStart(); }
-    void end() {
-        m_connection = QDBusConnection("nowhere");
-        QDBusConnection::disconnectFromBus(m_name);
-    }
-    [[nodiscard]] bool isRunning() const { return m_connection.isConnected(); }
-    [[nodiscard]] bool hasName() const {
-        return m_connection.interface()->serviceOwner("com.kestrin.zelto").value() ==
-               m_connection.baseService();
-    }
-
-    int timesGivenWay = 0;
-
-private:
-    QString m_name;
-    QDBusConnection m_connection;
-    Waiting m_waiting;
-    LinuxDesktop m_desktop;
-};
-
 class LinuxDesktopTest : public ::testing::Test {
 protected:
     PrivateBus bus;
     Waiting waiting;
     LinuxDesktop desktop{[this] { return bus.connection("program"); },
                          [] { return QDBusConnection("nowhere"); }, waiting};
-};
-
-class OneProgramInASession : public ::testing::Test {
-protected:
-    PrivateBus bus;
-    Start first{bus, "first"};
-    Start second{bus, "second"};
 };
 
 TEST_F(LinuxDesktopTest, KeepsTheComputerAwakeUntilTheHoldIsGone) {
@@ -166,41 +120,11 @@ TEST_F(LinuxDesktopTest, IsNotKeptAwakeByABusThatHasBrokenDown) {
 }
 
 TEST_F(LinuxDesktopTest, StartsAlikeWithoutASessionBus) {
-    bool gaveWay = false;
-    desktop.takePlace([&] { gaveWay = true; });
+    int calls = 0;
+    EXPECT_TRUE(desktop.takePlace({.comeForward = [&] { ++calls; }, .giveWay = [&] { ++calls; }}));
     desktop.giveWayToNewStart();
-    EXPECT_FALSE(gaveWay);
-}
-
-TEST_F(OneProgramInASession, ANewStartTakesThePlaceOfACopyThatGivesWayAndWaitsForItsEnd) {
-    first.takePlace();
-    first.giveWayToNewStart();
-    second.takePlace();
-    EXPECT_EQ(first.timesGivenWay, 1);
-    EXPECT_FALSE(first.isRunning());
-    EXPECT_TRUE(second.hasName());
-}
-
-TEST_F(OneProgramInASession, ACopyWithAWindowKeepsItsPlace) {
-    first.takePlace();
-    second.takePlace();
-    EXPECT_EQ(first.timesGivenWay, 0);
-    EXPECT_TRUE(first.isRunning());
-    EXPECT_TRUE(first.hasName());
-}
-
-TEST_F(OneProgramInASession, AStartBesideACopyWithAWindowTakesNoPlaceLaterEither) {
-    first.takePlace();
-    second.takePlace();
-    first.end();
-    EXPECT_FALSE(second.hasName());
-}
-
-TEST_F(OneProgramInASession, APlaceLeftByAnEndIsFree) {
-    first.takePlace();
-    first.end();
-    second.takePlace();
-    EXPECT_TRUE(second.hasName());
+    desktop.bringOtherForward();
+    EXPECT_EQ(calls, 0);
 }
 
 } // namespace

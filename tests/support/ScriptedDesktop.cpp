@@ -7,9 +7,14 @@ Desktop::Hold ScriptedDesktop::keepAwake(const std::string& /*why*/) {
     return {this, [](void* desktop) { --static_cast<ScriptedDesktop*>(desktop)->m_holds; }};
 }
 
-void ScriptedDesktop::takePlace(const std::function<void()>& giveWay) {
-    m_giveWay = giveWay;
+bool ScriptedDesktop::takePlace(const LaterStart& later) {
+    if (m_otherRuns) {
+        ++m_othersForward;
+        return false;
+    }
+    m_later = later;
     m_givesWay = false;
+    return true;
 }
 
 bool ScriptedDesktop::openDocument(const std::filesystem::path& file) {
@@ -22,11 +27,8 @@ void ScriptedDesktop::setSessionEndHandler(const std::function<bool()>& mayEnd) 
 }
 
 bool ScriptedDesktop::startAgain() {
-    if (!m_givesWay || !m_giveWay) {
-        return false;
-    }
-    m_giveWay();
-    return true;
+    (m_givesWay ? m_later.giveWay : m_later.comeForward)();
+    return m_givesWay;
 }
 
 bool ScriptedDesktop::endSession() const {

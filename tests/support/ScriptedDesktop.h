@@ -13,8 +13,10 @@ namespace zelto::test {
 class ScriptedDesktop : public Desktop {
 public:
     [[nodiscard]] Hold keepAwake(const std::string& why) override;
-    void takePlace(const std::function<void()>& giveWay) override;
+    [[nodiscard]] bool takePlace(const LaterStart& later) override;
     void giveWayToNewStart() override { m_givesWay = true; }
+    void bringOtherForward() override { ++m_othersForward; }
+    void notify(const Notice& notice) override { m_notices.push_back(notice); }
     [[nodiscard]] bool openDocument(const std::filesystem::path& file) override;
     void setSessionEndHandler(const std::function<bool()>& mayEnd) override;
 
@@ -28,8 +30,17 @@ public:
     /// The user has no program for any file.
     void setOpensNothing() { m_opensNothing = true; }
 
-    /// The user starts the program once more. True when the running copy has given way.
+    /// The user starts the program once more. True when the running copy has given way; otherwise
+    /// it has been asked to come forward.
     bool startAgain();
+    /// Another copy has the session's place, and a window.
+    void setOtherRuns() { m_otherRuns = true; }
+    /// How often the other copy was asked to come forward.
+    [[nodiscard]] int othersForward() const { return m_othersForward; }
+
+    /// The notices left so far.
+    [[nodiscard]] const std::vector<Notice>& notices() const { return m_notices; }
+
     /// The user logs out. True when the program lets the session end.
     [[nodiscard]] bool endSession() const;
 
@@ -38,7 +49,10 @@ private:
     bool m_givesWay = false;
     bool m_opensNothing = false;
     std::vector<std::filesystem::path> m_opened;
-    std::function<void()> m_giveWay;
+    bool m_otherRuns = false;
+    int m_othersForward = 0;
+    std::vector<Notice> m_notices;
+    LaterStart m_later;
     std::function<bool()> m_mayEnd;
 };
 

@@ -3,6 +3,7 @@
 import json
 import os
 import pwd
+import re
 import shutil
 import subprocess
 import threading
@@ -79,6 +80,12 @@ class Desktop:
                           **options)
         output, _ = tool.communicate()
         return tool.returncode, output.strip()
+
+    def front_window(self):
+        """The title of the window that is above all others."""
+        _, tree = self.run(["xwininfo", "-root", "-tree"])
+        titles = re.findall(r'^ +0x[0-9a-f]+ "(.*)": \(.*\)  [0-9]{3}', tree, flags=re.MULTILINE)
+        return titles[0] if titles else ""
 
     @staticmethod
     def inhibitors(program):

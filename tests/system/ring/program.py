@@ -41,13 +41,13 @@ class Program:
 
     # Its life.
 
-    def start(self, path=PROGRAM):
+    def start(self, path=PROGRAM, environment=None):
         log = open(self.log, "ab")
         self._process = self._desktop.start(
             [path], stdout=log, stderr=log,
             environment={"QT_PLUGIN_PATH": DRIVER_PLUGINS,
                          "QT_QPA_GENERIC_PLUGINS": f"zeltotestdriver:{self._sockets}",
-                         "QT_LOGGING_RULES": "zelto.disks=true"})
+                         "QT_LOGGING_RULES": "zelto.disks=true", **(environment or {})})
         self.connect(self._process.pid)
 
     def connect(self, pid):

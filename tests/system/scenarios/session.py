@@ -5,7 +5,8 @@ import os
 from ring import vendor, volumes
 from ring.checks import expect, expect_equal, wait_for
 from ring.drive import UNITS
-from ring.program import PROGRAM
+from ring.notices import CRITICAL, NORMAL, Notices
+from ring.program import BUNDLE, PROGRAM
 from ring.runner import scenario
 from scenarios import flows
 
@@ -142,7 +143,10 @@ def wrong_second_passwords_lock_the_drive_for_good(ring):
 def a_second_copy_says_who_has_the_drive_and_does_not_disturb_the_first(ring):
     drive = ring.set_up_drive()
     first = flows.open_log_in(ring)
-    second = ring.start_program("SelectZeltoWindow")
+    # Without the session's bus it cannot know of the first.
+    second = ring.program()
+    second.start(environment={"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"})
+    second.wait_for_window("SelectZeltoWindow")
     second.wait_for_text("SelectZeltoAccessHint", "IDS_HINT_DRIVE_IN_USE")
     expect("there is nothing to select", not second.is_enabled("SelectZeltoOK"))
     second.picture("drive-in-use")
@@ -153,6 +157,40 @@ def a_second_copy_says_who_has_the_drive_and_does_not_disturb_the_first(ring):
     second.click("SelectZeltoCancel")
     second.wait_for_end()
     flows.log_off(first, drive)
+
+
+@scenario
+def started_twice_the_program_comes_forward_and_the_second_ends(ring):
+    drive = ring.set_up_drive()
+    program = flows.open_log_in(ring)
+    # A copy of the program, wherever it lies, is the same program.
+    for path in (PROGRAM, f"{BUNDLE}/zelto"):
+        ring.start_as_user(["xterm", "-geometry", "200x70+0+0", "-T", "in front"])
+        wait_for("a terminal covers it", lambda: ring.desktop.front_window() == "in front")
+        second = ring.start_as_user([path])
+        wait_for("the second has ended", lambda started=second: started.poll() is not None)
+        expect_equal("its exit status", second.returncode, 0)
+        wait_for("the first is in front", lambda: ring.desktop.front_window().startswith("ZELTO"))
+    expect_equal("its windows", program.window_names(), {"AuthenticateWindow"})
+    flows.submit_password(program, flows.FIRST)
+    program.wait_for_window("UnlockingWindow")
+    flows.log_off(program, drive)
+    expect_equal("what was sent", drive.logged_writes(), [0xB3, 0xB4])
+
+
+@scenario
+def the_desktop_says_that_the_drive_is_locked_once_it_is(ring):
+    drive = ring.set_up_drive()
+    notices = Notices(ring)
+    program = flows.log_in(ring, drive)
+    folder = ring.desktop.mount(flows.secure_volume(drive))
+    check_that_a_holder_keeps_it_unlocked(ring, drive, program, folder)
+    flows.expect_locked(drive)
+    expect_equal("what the desktop has shown", notices.shown(), [
+        {"program": "ZELTO DISK", "title": "ZELTO DISK", "urgency": CRITICAL, "limit": 0,
+         "text": "The drive is still unlocked. Start this program again to log off."},
+        {"program": "ZELTO DISK", "title": "ZELTO DISK", "urgency": NORMAL, "limit": -1,
+         "text": "The drive is locked. It can be unplugged."}])
 
 
 @scenario

@@ -1,0 +1,159 @@
+#include "platform/linux/SessionPlace.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace zelto::linux_platform {
+namespace {
+
+using namespace std::chrono_literals;
+
+const QString PlaceName = QStringLiteral("com.kestrin.zelto");
+const QString PlacePath = QStringLiteral("/com/kestrin/zelto");
+/// Who gives way has this name instead: a desktop that wants to show the program then starts it.
+const QString GivesWayName = QStringLiteral("com.kestrin.zelto.GivesWay");
+
+/// What a copy that gives way needs at most to let its drive go.
+constexpr auto GiveWayLimit = 3s;
+
+constexpr auto WaylandToken = "XDG_ACTIVATION_TOKEN";
+constexpr auto X11Token = "DESKTOP_STARTUP_ID";
+/// Longer than any desktop's token.
+constexpr qsizetype LongestToken = 1024;
+
+bool isToken(const QString& text) {
+    return !text.isEmpty() && text.size() <= LongestToken &&
+           std::ranges::all_of(text, [](QChar c) { return c > u' ' && c < u'\x7F'; });
+}
+
+/// The desktop's leave to come forward, for whom the user has just started: it is good for one
+/// window, so that it is taken out of the environment.
+QVariantMap takePlatformData() {
+    QVariantMap data;
+    const std::pair<const char*, QString> tokens[] = {
+        {X11Token, QStringLiteral("desktop-startup-id")},
+        {WaylandToken, QStringLiteral("activation-token")}};
+    for (const auto& [variable, key] : tokens) {
+        if (const QString token = qEnvironmentVariable(variable); isToken(token)) {
+            data.insert(key, token);
+        }
+        qunsetenv(variable);
+    }
+    return data;
+}
+
+} // namespace
+
+SessionPlace::SessionPlace(Bus bus, const Waiting& waiting,
+                           std::chrono::milliseconds comeForwardLimit)
+    : m_bus(std::move(bus)), m_waiting(waiting), m_comeForwardLimit(comeForwardLimit) {}
+
+SessionPlace::~SessionPlace() = default;
+
+bool SessionPlace::take(const Desktop::LaterStart& later) {
+    QDBusConnection connection = m_bus();
+    if (!connection.isConnected()) {
+        return true;
+    }
+    m_later = later;
+    // Before the name: who waits for the name calls at once.
+    connection.registerObject(PlacePath, this, QDBusConnection::ExportScriptableSlots);
+    if (!takeName()) {
+        if (bringOtherForward()) {
+            connection.unregisterObject(PlacePath);
+            return false;
+        }
+        // The other one has ended meanwhile, or is nobody that a user could see: then it is in
+        // nobody's way.
+        (void)takeName();
+    }
+    const QString earlier = connection.interface()->serviceOwner(GivesWayName);
+    if (!earlier.isEmpty()) {
+        waitForEndOf(earlier);
+    }
+    return true;
+}
+
+bool SessionPlace::takeName() {
+    const auto taken =
+        m_bus().interface()->registerService(PlaceName, QDBusConnectionInterface::DontQueueService,
+                                             QDBusConnectionInterface::DontAllowReplacement);
+    return taken.value() == QDBusConnectionInterface::ServiceRegistered;
+}
+
+void SessionPlace::waitForEndOf(const QString& connectionName) {
+    QEventLoop loop;
+    const QDBusServiceWatcher watcher(connectionName, m_bus(),
+                                      QDBusServiceWatcher::WatchForUnregistration);
+    QObject::connect(&watcher, &QDBusServiceWatcher::serviceUnregistered, &loop, &QEventLoop::quit);
+    QTimer::singleShot(GiveWayLimit, &loop, &QEventLoop::quit);
+    if (m_bus().interface()->isServiceRegistered(connectionName)) {
+        m_waiting.run(loop);
+    }
+}
+
+void SessionPlace::giveWayToNewStart() {
+    QDBusConnection connection = m_bus();
+    if (!connection.isConnected()) {
+        return;
+    }
+    m_newStart = std::make_unique<QDBusServiceWatcher>(PlaceName, connection,
+                                                       QDBusServiceWatcher::WatchForRegistration);
+    QObject::connect(m_newStart.get(), &QDBusServiceWatcher::serviceRegistered, this,
+                     [this] { m_later.giveWay(); });
+    QDBusConnectionInterface& names = *connection.interface();
+    (void)names.registerService(GivesWayName, QDBusConnectionInterface::DontQueueService,
+                                QDBusConnectionInterface::DontAllowReplacement);
+    (void)names.unregisterService(PlaceName);
+    connection.unregisterObject(PlacePath);
+}
+
+bool SessionPlace::bringOtherForward() {
+    const QDBusConnection connection = m_bus();
+    if (!connection.isConnected()) {
+        return false;
+    }
+    const QString other = connection.interface()->serviceOwner(PlaceName);
+    if (other.isEmpty()) {
+        return false;
+    }
+    // To the connection, not to the name: one that is about to end is not to be started again.
+    auto call = QDBusMessage::createMethodCall(other, PlacePath,
+                                               QStringLiteral("org.freedesktop.Application"),
+                                               QStringLiteral("Activate"));
+    call.setArguments({takePlatformData()});
+    const QDBusPendingCallWatcher answer(
+        connection.asyncCall(call, static_cast<int>(m_comeForwardLimit.count())));
+    QEventLoop loop;
+    QObject::connect(&answer, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    m_waiting.run(loop);
+    return answer.isFinished() && !answer.isError();
+}
+
+void SessionPlace::Activate(const QVariantMap& platformData) {
+    QString token = platformData.value(QStringLiteral("activation-token")).toString();
+    if (isToken(token)) {
+        // Where the toolkit looks for it when the window asks for the focus.
+        qputenv(WaylandToken, token.toLatin1());
+    }
+    m_later.comeForward();
+    qunsetenv(WaylandToken);
+}
+
+void SessionPlace::Open(const QStringList& /*uris*/, const QVariantMap& platformData) {
+    Activate(platformData);
+}
+
+void SessionPlace::ActivateAction(const QString& /*action*/, const QVariantList& /*parameter*/,
+                                  const QVariantMap& platformData) {
+    Activate(platformData);
+}
+
+} // namespace zelto::linux_platform

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/Desktop.h"
+#include "platform/linux/Waiting.h"
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+class QDBusServiceWatcher;
+
+namespace zelto::linux_platform {
+
+/// The place of the session's one program: its name on the session bus, where desktops and later
+/// starts find it as an org.freedesktop.Application. Whoever calls it can make it come forward and
+/// nothing else. Its operations are those of Desktop. Without a bus every start has the place.
+class SessionPlace final : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    using Bus = std::function<QDBusConnection()>;
+
+    /// The other copy may be in the middle of a command, which may take 5 s.
+    SessionPlace(Bus bus, const Waiting& waiting,
+                 std::chrono::milliseconds comeForwardLimit = std::chrono::seconds(7));
+    ~SessionPlace() override;
+
+    [[nodiscard]] bool take(const Desktop::LaterStart& later);
+    void giveWayToNewStart();
+    /// True when there is another and it has come forward.
+    bool bringOtherForward();
+
+public Q_SLOTS:
+    // What the bus may call.
+    Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
+    Q_SCRIPTABLE void Open(const QStringList& uris, const QVariantMap& platformData);
+    Q_SCRIPTABLE void ActivateAction(const QString& action, const QVariantList& parameter,
+                                     const QVariantMap& platformData);
+
+private:
+    [[nodiscard]] bool takeName();
+    void waitForEndOf(const QString& connectionName);
+
+    Bus m_bus;
+    const Waiting& m_waiting;
+    std::chrono::milliseconds m_comeForwardLimit;
+    Desktop::LaterStart m_later;
+    std::unique_ptr<QDBusServiceWatcher> m_newStart;
+};
+
+} // namespace zelto::linux_platform
