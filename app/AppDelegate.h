@@ -135,7 +135,7 @@ public:
     void UnlockingCancelAction();
     void UnlockingSetupAction();
     /// Unmounts the secure area's volumes, then locks the drive. A busy volume is reported and
-    /// leaves the drive unlocked.
+    /// leaves the drive unlocked. A notice says what the drive is now.
     void Logout();
 
     // --- Timer and clocks: session/AppDelegate_Timer.cpp --------------------------------------
@@ -269,6 +269,7 @@ private:
     void terminate();
 
     // app/AppDelegate_ToolArea.cpp
+    [[nodiscard]] IOReturn readSecureAreaDiskNumber(std::uint32_t& diskNumber);
     void copyFilesBesideBundle(const std::filesystem::path& volume);
 
     // session/AppDelegate_Messages.cpp: every message and every pause goes through these, so
@@ -284,6 +285,8 @@ private:
     /// IDS_ERR_UNMOUNT, with the programs that keep the volumes of g_BsdNameList busy.
     void ReportUnmountFailure();
     AlertButton RunAlertPanel(const AlertPanel& panel);
+    /// Says on the desktop what the program's end would leave unsaid.
+    void LeaveNotice(Desktop::Notice::Weight weight, const char* messageKey);
     void Pause(std::chrono::seconds duration);
 
     // session/AppDelegate_Dispatch.cpp
@@ -295,6 +298,11 @@ private:
 
     // session/AppDelegate_Authentication.cpp
     void reportRefusedPassword();
+
+    // session/AppDelegate_Unlocked.cpp
+    /// What stood in the way of the lock, if anything; it has been reported, unless the drive
+    /// itself refused.
+    [[nodiscard]] IOReturn releaseAndLock();
 
     // session/AppDelegate_Timer.cpp
     void tickSetup();

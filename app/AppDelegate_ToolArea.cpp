@@ -2,6 +2,7 @@
 #include "device/DeviceReads.h"
 #include "device/IORegistry.h"
 #include "platform/Computer.h"
+#include "platform/Desktop.h"
 #include "platform/Disks.h"
 #include "session/ForeignText.h"
 #include "settings/AreaPacking.h"
@@ -32,6 +33,8 @@ bool AppDelegate::CopyToolFile(const std::string& bsdName) {
     const auto mounted = m_platform.mounts.getmntinfo();
     const auto volume = std::ranges::find(mounted, device, &MountedFileSystem::f_mntfromname);
     if (volume == mounted.end()) {
+        // Nothing else says it, and the drive itself is ready.
+        LeaveNotice(Desktop::Notice::Weight::Lasting, "IDS_NOTICE_SET_UP_WITHOUT_TOOL");
         return false;
     }
 
@@ -62,15 +65,18 @@ void AppDelegate::copyFilesBesideBundle(const std::filesystem::path& volume) {
 }
 
 bool AppDelegate::GetSecureAreaDiskNumber(std::uint32_t& diskNumber) {
+    return !reportIfFailed(readSecureAreaDiskNumber(diskNumber));
+}
+
+IOReturn AppDelegate::readSecureAreaDiskNumber(std::uint32_t& diskNumber) {
     const auto areas = readAreaInfos(Device());
-    if (reportIfFailed(areas.result)) {
-        return false;
+    if (!areas.failed()) {
+        Settings.AreaInfos = areas.record;
+        if (const auto secure = Settings.AreaInfos.firstSecureDiskNumber(); secure != 0) {
+            diskNumber = secure;
+        }
     }
-    Settings.AreaInfos = areas.record;
-    if (const std::uint32_t secure = Settings.AreaInfos.firstSecureDiskNumber(); secure != 0) {
-        diskNumber = secure;
-    }
-    return true;
+    return areas.result;
 }
 
 } // namespace zelto

@@ -78,6 +78,12 @@ AlertButton AppDelegate::RunAlertPanel(const AlertPanel& panel) {
     return m_platform.alerts.NSRunAlertPanel(panel);
 }
 
+void AppDelegate::LeaveNotice(Desktop::Notice::Weight weight, const char* messageKey) {
+    m_platform.desktop.notify({.weight = weight,
+                               .title = localized("IDS_APP_TITLE").toStdString(),
+                               .text = localized(messageKey).toStdString()});
+}
+
 void AppDelegate::Pause(std::chrono::seconds duration) {
     const EventGate::Closing closing(m_gate);
     m_platform.clock.sleep(duration);

@@ -1,6 +1,8 @@
 #include "app/AppDelegate.h"
 #include "device/IORegistry.h"
 #include "device/ZELTOctrl.h"
+#include "platform/Desktop.h"
+#include "platform/Result.h"
 
 namespace zelto {
 
@@ -40,22 +42,34 @@ void AppDelegate::UnlockingSetupAction() {
     quitWithoutWindow();
 }
 
+void AppDelegate::Logout() {
+    switch (releaseAndLock()) {
+    case kIOReturnSuccess:
+        LeaveNotice(Desktop::Notice::Weight::Passing, "IDS_NOTICE_LOCKED");
+        break;
+    case kIOReturnNoDevice:
+        break; // Without power it is locked, and whoever pulled it knows.
+    default:
+        LeaveNotice(Desktop::Notice::Weight::Lasting, "IDS_NOTICE_STILL_UNLOCKED");
+    }
+}
+
 /// Volumes first, then the lock: the drive must never hide an area that the computer still has
 /// mounted.
-void AppDelegate::Logout() {
+IOReturn AppDelegate::releaseAndLock() {
     // 0, all areas, when the drive has no secure one: its normal areas are let go of too.
     std::uint32_t diskNumber = 0;
-    if (!GetSecureAreaDiskNumber(diskNumber)) {
-        return;
+    if (const IOReturn result = readSecureAreaDiskNumber(diskNumber); reportIfFailed(result)) {
+        return result;
     }
     GetBsdNameList(static_cast<std::uint8_t>(diskNumber));
     constexpr std::uint8_t Eject = 1;
     if (!UnmountVolume(g_BsdNameList, Eject)) {
         ReportUnmountFailure();
-        return;
+        return kIOReturnExclusiveAccess;
     }
     // Nothing more can be done about a drive that does not lock: its volumes are gone all the same.
-    (void)TKVR21_Logout(Device(), 0);
+    return TKVR21_Logout(Device(), 0);
 }
 
 } // namespace zelto

@@ -26,6 +26,7 @@ void AppDelegate::MainSettingsOKAction() {
     if (Settings.InitialSetting) {
         beginSetupProgress();
     } else {
+        LeaveNotice(Desktop::Notice::Weight::Passing, "IDS_NOTICE_SETTINGS_CHANGED");
         TerminateApplication();
     }
 }

@@ -96,6 +96,7 @@ void AppDelegate::MainSettingsClearAllAction() {
         return;
     }
     if (clearPeriodsAndHint(state) && resetAreaInfos()) {
+        LeaveNotice(Desktop::Notice::Weight::Passing, "IDS_NOTICE_CLEARED");
         TerminateApplication();
     }
 }

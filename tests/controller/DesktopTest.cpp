@@ -101,6 +101,59 @@ TEST_F(DesktopTest, TheSessionDoesNotEndDuringASetUp) {
     EXPECT_TRUE(desktop->endSession());
 }
 
+TEST_F(DesktopTest, TheEndOfTheSessionLeavesAnUnlockedDriveAsItIs) {
+    drive = plugPreparedDrive();
+    start();
+    logIn(QStringLiteral("first"));
+    for (const char* const opener : {"", "UnlockingSetup"}) {
+        if (*opener != 0) {
+            press(opener);
+        }
+        computer.log.clear();
+        EXPECT_TRUE(desktop->endSession()) << opener;
+        computer.settle();
+        EXPECT_THAT(computer.log.lines(), testing::IsEmpty()) << opener;
+    }
+    end();
+    EXPECT_THAT(computer.log.lines(), testing::IsEmpty());
+    EXPECT_EQ(driveState(), SecurityState::StateUnlocking);
+}
+
+TEST_F(DesktopTest, ADriveThatLeftDuringASleepIsMissedByTheNextCommand) {
+    for (const bool comesBack : {false, true}) {
+        drive = plugPreparedDrive();
+        start();
+        logIn(QStringLiteral("first"));
+        comesBack ? replug(drive) : unplug(drive);
+        computer.skip(std::chrono::hours(8));
+        EXPECT_EQ(visibleWindow(), "UnlockingWindow") << "nothing is said unasked";
+        EXPECT_THAT(messages(), testing::IsEmpty());
+        press("UnlockingLogOff");
+        EXPECT_THAT(messages(), testing::ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO")));
+        EXPECT_TRUE(hasQuit());
+        putAway();
+    }
+}
+
+TEST_F(DesktopTest, SettingsOfADriveThatLeftDuringASleepStayOpenAndSayThatItIsGone) {
+    for (const bool comesBack : {false, true}) {
+        beginWithSettingsOf({});
+        comesBack ? replug(drive) : unplug(drive);
+        computer.skip(std::chrono::hours(8));
+        tick(3);
+        EXPECT_EQ(visibleWindow(), "MainSettingsWindow");
+        press("MainSettingsSetTimeButton");
+        check("ShowRemainingTimeCheckBox", !isChecked("ShowRemainingTimeCheckBox"));
+        commit();
+        EXPECT_THAT(messages(), testing::ElementsAre(localized("IDS_ERR_NOT_FOUND_ZELTO"),
+                                                     localized("IDS_ERR_NOT_FOUND_ZELTO")));
+        EXPECT_FALSE(hasQuit());
+        press("MainSettingsCancelButton");
+        EXPECT_TRUE(hasQuit());
+        putAway();
+    }
+}
+
 TEST_F(DesktopTest, AProgramWithoutAWindowGivesWayToANewStart) {
     for (const std::uint8_t state : {std::uint8_t{1}, std::uint8_t{6}, std::uint8_t{7}}) {
         drive = plugPreparedDrive();

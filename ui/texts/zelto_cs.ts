@@ -1073,6 +1073,31 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>Odpojují se svazky jednotky</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Jednotka je zamčená. Lze ji odpojit.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Jednotka je stále odemčená. Spusťte tento program znovu a odhlaste se.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Nastavení jednotky bylo změněno.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Vše na jednotce bylo vymazáno. Odpojte ji a připojte, potom spusťte tento program, abyste ji znovu nastavili.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Jednotka je nastavena a lze ji používat. Pouze tento program se nepodařilo zkopírovat do její oblasti nástrojů: používejte jednotku s programem v tomto počítači.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: pravidlo zařízení</translation>

@@ -1073,6 +1073,31 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>Die Datenträger des Laufwerks werden ausgehängt</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Das Laufwerk ist gesperrt. Es kann abgezogen werden.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Das Laufwerk ist weiterhin entsperrt. Starten Sie dieses Programm noch einmal, um sich abzumelden.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Die Einstellungen des Laufwerks wurden geändert.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Alles auf dem Laufwerk wurde gelöscht. Ziehen Sie es ab, stecken Sie es wieder ein und starten Sie dann dieses Programm, um es neu einzurichten.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Das Laufwerk ist eingerichtet und kann verwendet werden. Nur dieses Programm konnte nicht in seinen Programmbereich kopiert werden: Verwenden Sie das Laufwerk mit dem Programm auf diesem Computer.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: Geräteregel</translation>

@@ -1073,6 +1073,31 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>Se están desmontando los volúmenes de la unidad</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>La unidad está bloqueada. Se puede desconectar.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>La unidad sigue desbloqueada. Vuelva a iniciar este programa para cerrar la sesión.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Se han cambiado los ajustes de la unidad.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Se ha borrado todo en la unidad. Desconéctela y vuelva a conectarla; después, inicie este programa para configurarla de nuevo.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>La unidad está configurada y se puede usar. Solo no se ha podido copiar este programa a su área de herramientas: úsela con el programa de este equipo.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: regla de dispositivo</translation>

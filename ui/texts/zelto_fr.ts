@@ -1073,6 +1073,31 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>Les volumes du disque sont en cours de démontage</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Le disque est verrouillé. Il peut être débranché.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Le disque est toujours déverrouillé. Relancez ce programme pour vous déconnecter.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Les paramètres du disque ont été modifiés.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Tout le contenu du disque a été effacé. Débranchez-le et rebranchez-le, puis relancez ce programme pour le configurer à nouveau.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Le disque est configuré et peut être utilisé. Seul ce programme n’a pas pu être copié dans sa zone d’outils&#xa0;: utilisez le disque avec le programme de cet ordinateur.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK&#xa0;: règle de périphérique</translation>

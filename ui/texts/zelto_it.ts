@@ -1073,6 +1073,31 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>I volumi dell’unità vengono smontati</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>L’unità è bloccata. Può essere scollegata.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>L’unità è ancora sbloccata. Avviare di nuovo questo programma per disconnettersi.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Le impostazioni dell’unità sono state modificate.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Tutto ciò che era sull’unità è stato cancellato. Scollegarla e ricollegarla, quindi avviare questo programma per configurarla di nuovo.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>L’unità è configurata e può essere usata. Solo questo programma non è stato copiato nella sua area strumenti: usarla con il programma di questo computer.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: regola del dispositivo</translation>

@@ -1073,6 +1073,31 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>ドライブのボリュームをアンマウントしています</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>ドライブはロックされています。取り外せます。</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>ドライブはまだロック解除されたままです。ログアウトするには、このプログラムをもう一度起動してください。</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>ドライブの設定を変更しました。</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>ドライブの内容をすべて消去しました。抜き差ししてからこのプログラムを起動し、もう一度セットアップしてください。</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>ドライブのセットアップが終わり、使用できます。ただしこのプログラムをツール領域にコピーできませんでした。このコンピューターのプログラムで使ってください。</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: デバイスルール</translation>

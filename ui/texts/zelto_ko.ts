@@ -1073,6 +1073,31 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>드라이브의 볼륨을 마운트 해제하고 있습니다</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>드라이브가 잠겼습니다. 이제 빼도 됩니다.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>드라이브가 아직 잠금 해제되어 있습니다. 로그아웃하려면 이 프로그램을 다시 시작하세요.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>드라이브 설정을 변경했습니다.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>드라이브의 내용을 모두 지웠습니다. 드라이브를 뺐다가 다시 연결하고 이 프로그램을 시작하여 다시 설정하세요.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>드라이브 초기 설정을 마쳤고 사용할 수 있습니다. 다만 이 프로그램을 도구 영역에 복사하지 못했습니다. 이 컴퓨터의 프로그램으로 드라이브를 사용하세요.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: 장치 규칙</translation>

@@ -1073,6 +1073,31 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>De volumes van het station worden ontkoppeld</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Het station is vergrendeld. Het kan worden losgekoppeld.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Het station is nog steeds ontgrendeld. Start dit programma opnieuw om u af te melden.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>De instellingen van het station zijn gewijzigd.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Alles op het station is gewist. Koppel het los en weer aan en start dan dit programma om het opnieuw in te stellen.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Het station is ingesteld en kan worden gebruikt. Alleen dit programma kon niet naar het programmagebied worden gekopieerd: gebruik het station met het programma op deze computer.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: apparaatregel</translation>

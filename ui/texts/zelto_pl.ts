@@ -1073,6 +1073,31 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>Trwa odmontowywanie woluminów napędu</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Napęd jest zablokowany. Można go odłączyć.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Napęd jest nadal odblokowany. Uruchom ten program ponownie, aby się wylogować.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Ustawienia napędu zostały zmienione.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Wszystko na napędzie zostało wyczyszczone. Odłącz go i podłącz, a potem uruchom ten program, aby skonfigurować go na nowo.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>Napęd jest skonfigurowany i można go używać. Nie udało się tylko skopiować tego programu do jego obszaru narzędzi: używaj napędu z programem na tym komputerze.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: reguła urządzenia</translation>

@@ -1073,6 +1073,31 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <extracomment>Why the computer does not go to sleep now; volumes are unmounted</extracomment>
         <translation>Os volumes da unidade estão sendo desmontados</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED">
+        <source>The drive is locked. It can be unplugged.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>A unidade está bloqueada. Ela pode ser desconectada.</translation>
+    </message>
+    <message id="IDS_NOTICE_STILL_UNLOCKED">
+        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>A unidade continua desbloqueada. Inicie este programa de novo para sair.</translation>
+    </message>
+    <message id="IDS_NOTICE_SETTINGS_CHANGED">
+        <source>The drive’s settings have been changed.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>As configurações da unidade foram alteradas.</translation>
+    </message>
+    <message id="IDS_NOTICE_CLEARED">
+        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Tudo na unidade foi limpo. Desconecte-a e reconecte-a; depois, inicie este programa para configurá-la de novo.</translation>
+    </message>
+    <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
+        <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
+        <extracomment>A notification that stays, after the program has closed</extracomment>
+        <translation>A unidade está configurada e pode ser usada. Apenas este programa não pôde ser copiado para a área de ferramentas: use a unidade com o programa deste computador.</translation>
+    </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
         <translation>ZELTO DISK: regra de dispositivo</translation>
