@@ -29,8 +29,10 @@ void moveFirst(QBoxLayout& from, QBoxLayout& to) {
     if (QLayout* const layout = item->layout()) {
         to.addLayout(layout);
     } else if (QWidget* const widget = item->widget()) {
-        to.addWidget(widget, 0, item->alignment());
+        const Qt::Alignment alignment = item->alignment();
+        // First: a widget tells only the item that it got first when it has changed.
         delete item;
+        to.addWidget(widget, 0, alignment);
     } else {
         to.addItem(item);
     }

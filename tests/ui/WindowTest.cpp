@@ -1,7 +1,9 @@
+#include "ui/FittingArea.h"
 #include "ui/Forms.h"
 
 #include <QApplication>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -174,6 +176,19 @@ TEST(WindowTest, GrowsWhenAHintAppearsInIt) {
     const QLabel& hint = *form.SelectZeltoAccessHint;
     EXPECT_GE(hint.height(), hint.heightForWidth(hint.width()));
     EXPECT_TRUE(form.rect().contains(form.SelectZeltoOK->geometry()));
+}
+
+TEST(WindowTest, GrowsWhenAHintInItGetsLonger) {
+    Form<Ui::SelectZeltoWindow> form;
+    form.SelectZeltoAccessHint->setText(QStringLiteral("another ").repeated(15));
+    form.SelectZeltoAccessHint->show();
+    form.centreAndMakeKeyAndOrderFront();
+    QApplication::processEvents();
+    form.SelectZeltoAccessHint->setText(QStringLiteral("another ").repeated(60));
+    QApplication::processEvents();
+    const QLabel& hint = *form.SelectZeltoAccessHint;
+    EXPECT_GE(hint.height(), hint.heightForWidth(hint.width()));
+    EXPECT_FALSE(form.findChild<FittingArea*>()->verticalScrollBar()->isVisible());
 }
 
 TEST(TextInputModesTest, HaveTheirNumbers) {
