@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QIcon>
+#include <QImageReader>
+#include <QPixmap>
 
 #include <algorithm>
 #include <array>
@@ -16,8 +18,11 @@ namespace {
 
 constexpr std::array Sizes{16, 24, 32, 48, 64, 128, 256, 512};
 
-QString fileOf(int size) {
-    return QStringLiteral(":/zelto/icons/zelto-%1.png").arg(size);
+/// To find out what a file holds, the toolkit would load all the formats that it can read.
+QPixmap iconFile(int size) {
+    QImageReader reader(QStringLiteral(":/zelto/icons/zelto-%1.png").arg(size), "png");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
 }
 
 /// Each size goes to the display with each window. Where more is shown than a task bar does, a
@@ -28,7 +33,7 @@ QIcon iconForFrames() {
     QIcon icon;
     for (const int size : Sizes) {
         if (size <= Largest) {
-            icon.addFile(fileOf(size), {size, size});
+            icon.addPixmap(iconFile(size));
         }
     }
     return icon;
@@ -37,7 +42,7 @@ QIcon iconForFrames() {
 /// The smallest that is not smaller, scaled down.
 QPixmap iconOfSide(int pixels) {
     const auto size = std::ranges::lower_bound(Sizes, pixels);
-    const QPixmap whole(fileOf(size != Sizes.end() ? *size : Sizes.back()));
+    const QPixmap whole = iconFile(size != Sizes.end() ? *size : Sizes.back());
     return whole.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 

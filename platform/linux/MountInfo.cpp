@@ -46,6 +46,9 @@ std::optional<MountInfoLine> parseLine(std::string_view line) {
 } // namespace
 
 std::string decodeOctalEscapes(std::string_view text) {
+    if (text.find('\\') == std::string_view::npos) {
+        return std::string(text);
+    }
     std::string decoded;
     decoded.reserve(text.size());
     for (std::size_t at = 0; at < text.size(); ++at) {
