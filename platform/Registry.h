@@ -74,8 +74,8 @@ public:
     /// The tree as somebody sees it who has opened a device: that device alone shows what it is,
     /// and with the serial number that was read from it. Another one that says the same of itself
     /// is still another one, and the system may have read a serial number differently, or not at
-    /// all. With nothing opened, each shows what the system has read. Null when the system has no
-    /// registry.
+    /// all. What hangs on another one may be left out. With nothing opened, each shows what the
+    /// system has read. Null when the system has no registry.
     [[nodiscard]] virtual std::unique_ptr<RegistryEntry>
     IORegistryGetRootEntry(const OpenedDevice& opened) = 0;
 };

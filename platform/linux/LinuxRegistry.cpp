@@ -2,7 +2,7 @@
 
 #include "platform/linux/SysfsEntry.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <functional>
 
 namespace zelto::linux_platform {
@@ -68,10 +68,20 @@ std::string className(SysfsEntry::Kind kind) {
     return "IOService";
 }
 
+/// What a device's entry tells.
+enum class Shown : std::uint8_t {
+    /// All that the system has read from the device.
+    AsRead,
+    /// The same, with what its opener has read from it.
+    AsOpened,
+    /// That it is there.
+    Outline,
+};
+
 class DeviceEntry final : public RegistryEntry {
 public:
-    DeviceEntry(SysfsEntry device, const OpenedDevice& opened)
-        : m_device(std::move(device)), m_opened(opened) {}
+    explicit DeviceEntry(SysfsEntry device, Shown shown = Shown::AsRead, OpenedDevice opened = {})
+        : m_device(std::move(device)), m_shown(shown), m_opened(std::move(opened)) {}
 
     std::optional<std::string> IORegistryEntryGetNameInPlane(const std::string&) const override {
         return m_device.kind() == SysfsEntry::Kind::Disk ? mediaName(m_device)
@@ -91,8 +101,10 @@ public:
     std::unique_ptr<RegistryIterator>
     IORegistryEntryGetChildIterator(const std::string&) const override {
         Entries entries;
-        for (auto& child : m_device.children()) {
-            entries.push_back(std::make_unique<DeviceEntry>(std::move(child), m_opened));
+        if (m_shown != Shown::Outline) {
+            for (auto& child : m_device.children()) {
+                entries.push_back(std::make_unique<DeviceEntry>(std::move(child)));
+            }
         }
         return std::make_unique<EntryList>(std::move(entries));
     }
@@ -107,12 +119,14 @@ private:
     void addIdentity(RegistryProperties& properties) const;
 
     SysfsEntry m_device;
+    Shown m_shown;
     OpenedDevice m_opened;
 };
 
 void DeviceEntry::addIdentity(RegistryProperties& properties) const {
-    const bool isOpened = m_opened.location != 0 && m_device.usbLocation() == m_opened.location;
-    if (!isOpened && m_opened.location != 0) {
+    const bool isOpened = m_shown == Shown::AsOpened;
+    // Asked for again: another device may have its place since it was listed.
+    if (m_shown == Shown::Outline || (isOpened && m_device.usbLocation() != m_opened.location)) {
         return;
     }
     addNumber(properties, "idVendor");
@@ -143,8 +157,15 @@ std::optional<RegistryProperties> DeviceEntry::IORegistryEntryCreateCFProperties
 
 Entries listUsbDevices(const fs::path& sysfs, const OpenedDevice& opened) {
     Entries entries;
-    for (auto& device : usbDevices(sysfs)) {
-        entries.push_back(std::make_unique<DeviceEntry>(std::move(device), opened));
+    for (auto& [location, device] : usbDevices(sysfs)) {
+        if (opened.location == 0) {
+            entries.push_back(std::make_unique<DeviceEntry>(std::move(device)));
+        } else if (opened.location == location) {
+            entries.push_back(
+                std::make_unique<DeviceEntry>(std::move(device), Shown::AsOpened, opened));
+        } else {
+            entries.push_back(std::make_unique<DeviceEntry>(std::move(device), Shown::Outline));
+        }
     }
     entries.push_back(std::make_unique<PlainEntry>("End", "IOService", [] { return Entries{}; }));
     return entries;

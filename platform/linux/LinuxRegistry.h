@@ -9,7 +9,8 @@ namespace zelto::linux_platform {
 
 /// The kernel's device tree as sysfs shows it, cut down to what hangs on USB: the root; every USB
 /// device in the order of bus and device number, with its own descendants (a device behind a hub is
-/// listed beside the hub, not below it); one closing entry.
+/// listed beside the hub, not below it); one closing entry. Who has opened a device sees nothing
+/// below the others, so that a walk takes no longer where much hangs on them.
 ///
 /// Classes: "IOUSBDevice", "IOMedia" (disks and partitions), "IOService" (everything else that
 /// the kernel calls a device). A disk is named from its SCSI strings and takes part only while it

@@ -2,9 +2,11 @@
 
 #include "platform/linux/TextFile.h"
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <array>
 #include <charconv>
-#include <iterator>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -60,8 +62,10 @@ bool isThere(const fs::path& path) {
 
 /// The name of the subsystem that the folder's link points to; empty when it is no device's.
 std::string subsystem(const fs::path& folder) {
-    std::error_code error;
-    return fs::read_symlink(folder / "subsystem", error).filename().string();
+    std::array<char, AttributeLimit> place{};
+    const auto length = ::readlink((folder / "subsystem").c_str(), place.data(), place.size());
+    const std::string_view target(place.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
+    return std::string(target.substr(target.rfind('/') + 1));
 }
 
 SysfsEntry::Kind kindOf(const fs::path& folder) {
@@ -79,9 +83,10 @@ std::vector<fs::path> subfolders(const fs::path& folder) {
     std::vector<fs::path> found;
     std::error_code error;
     for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        // A link leads out of the subtree, and often back to its own beginning.
+        // A link leads out of the subtree, and often back to its own beginning. The iterator knows
+        // what is one without asking the kernel about each attribute.
         std::error_code ignored;
-        if (fs::is_directory(at->symlink_status(ignored))) {
+        if (!at->is_symlink(ignored) && at->is_directory(ignored)) {
             found.push_back(at->path());
         }
     }
@@ -177,27 +182,19 @@ void SysfsEntry::addChildren(const fs::path& folder, unsigned depth,
     }
 }
 
-std::vector<SysfsEntry> usbDevices(const fs::path& sysfs) {
-    std::vector<std::pair<std::pair<std::uint64_t, std::uint64_t>, SysfsEntry>> numbered;
+std::multimap<std::uint32_t, SysfsEntry> usbDevices(const fs::path& sysfs) {
+    std::multimap<std::uint32_t, SysfsEntry> devices;
     std::error_code error;
     for (fs::directory_iterator at(sysfs / "bus/usb/devices", error), end; !error && at != end;
          at.increment(error)) {
-        std::error_code gone;
-        const auto folder = fs::canonical(at->path(), gone);
-        if (gone) {
-            continue;
+        SysfsEntry entry(at->path());
+        if (entry.kind() != SysfsEntry::Kind::UsbDevice) {
+            continue; // a device's interfaces are listed beside it
         }
-        SysfsEntry entry(folder);
-        const auto bus = entry.decimal("busnum");
-        const auto device = entry.decimal("devnum");
-        if (entry.kind() == SysfsEntry::Kind::UsbDevice && bus && device) {
-            numbered.emplace_back(std::pair(*bus, *device), std::move(entry));
+        if (const auto location = entry.usbLocation()) {
+            devices.emplace(*location, std::move(entry));
         }
     }
-    std::ranges::sort(numbered, {}, [](const auto& item) { return item.first; });
-    std::vector<SysfsEntry> devices;
-    std::ranges::transform(numbered, std::back_inserter(devices),
-                           [](auto& item) { return std::move(item.second); });
     return devices;
 }
 

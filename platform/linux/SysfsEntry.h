@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,7 +15,7 @@ class SysfsEntry {
 public:
     enum class Kind { UsbDevice, Disk, Partition, Other };
 
-    /// `folder` is a real folder, not one of sysfs's links to it.
+    /// `folder` is the device's own or one of sysfs's links of the same name to it.
     explicit SysfsEntry(std::filesystem::path folder, unsigned depth = 0);
 
     [[nodiscard]] Kind kind() const { return m_kind; }
@@ -47,8 +48,9 @@ private:
     Kind m_kind = Kind::Other;
 };
 
-/// Every USB device, hubs too, by bus and device number.
-[[nodiscard]] std::vector<SysfsEntry> usbDevices(const std::filesystem::path& sysfs);
+/// Every USB device, hubs too, by its location, that is in the order of bus and device number.
+[[nodiscard]] std::multimap<std::uint32_t, SysfsEntry>
+usbDevices(const std::filesystem::path& sysfs);
 
 /// The kernel's name of the device that a folder in sysfs, or a link to it, stands for.
 [[nodiscard]] std::string blockName(const std::filesystem::path& folder);

@@ -5,7 +5,7 @@
 #include "platform/linux/LinuxDiskTool.h"
 #include "platform/linux/UDisksNames.h"
 #include "tests/fuzz/Target.h"
-#include "tests/platform/SysfsTree.h"
+#include "tests/support/SysfsTree.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>

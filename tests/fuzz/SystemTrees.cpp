@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <ranges>
 #include <set>
 #include <unistd.h>
 
@@ -79,7 +80,7 @@ void checkRegistry(const fs::path& sysfs, std::uint8_t diskNumber, std::uint32_t
                std::ranges::all_of(names,
                                    [&](const std::string& name) { return below.contains(name); });
     };
-    require(!isFound || std::ranges::any_of(usbDevices(sysfs), isTheirs),
+    require(!isFound || std::ranges::any_of(usbDevices(sysfs) | std::views::values, isTheirs),
             "the disks are those of one such drive");
 }
 

@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxComputer.h"
 #include "platform/linux/DetachedStart.h"
-#include "tests/platform/SysfsTree.h"
+#include "tests/support/SysfsTree.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <QEventLoop>

@@ -1,7 +1,7 @@
 #include "platform/linux/LinuxDiskTool.h"
 #include "platform/linux/LinuxMountTable.h"
 #include "tests/platform/FakeUDisks.h"
-#include "tests/platform/SysfsTree.h"
+#include "tests/support/SysfsTree.h"
 
 #include <QDBusArgument>
 #include <QLoggingCategory>

@@ -2,7 +2,7 @@
 #include "device/IORegistry.h"
 #include "platform/linux/BlockDevices.h"
 #include "platform/linux/SysfsEntry.h"
-#include "tests/platform/SysfsTree.h"
+#include "tests/support/SysfsTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -30,10 +30,10 @@ void outline(const RegistryEntry& entry, const std::string& indent,
     }
 }
 
-std::vector<std::string> outlineOf(const SysfsTree& tree) {
+std::vector<std::string> outlineOf(const SysfsTree& tree, const OpenedDevice& opened = {}) {
     std::vector<std::string> lines;
     LinuxRegistry registry(tree.path());
-    outline(*registry.IORegistryGetRootEntry({}), "", lines);
+    outline(*registry.IORegistryGetRootEntry(opened), "", lines);
     return lines;
 }
 
@@ -139,6 +139,15 @@ TEST_F(Drive, IsTheOneThatIsOpenWhereAnotherSaysTheSameOfItself) {
         EXPECT_EQ(scan(twins, 0, serial, Location), std::vector<std::string>{"sdc"});
         EXPECT_EQ(scan(twins, 0, serial, Location - 1), std::vector<std::string>{"sdb"});
     }
+}
+
+TEST_F(Drive, HidesWhatHangsOnOthersFromWhoHasItOpen) {
+    const std::string other = "pci/usb1/1-2";
+    tree.addUsbDevice(other, 1, 4, "07f7", "0135", Serial);
+    tree.addDisk(other, 0, "sdb", "ZELTO DISK1     ", 2048);
+    tree.addDevice(place + "/1-1.2:1.0", "usb");
+    EXPECT_THAT(outlineOf(tree, {Location, Serial}),
+                ElementsAre("Root", ".usb1", ".1-1", ".1-2", ".1-1.2", "..1-1.2:1.0", ".End"));
 }
 
 TEST_F(Drive, IsNotFoundOnceItHasLeftWhereAnotherSaysTheSameOfItself) {

@@ -1,6 +1,6 @@
 #include "platform/linux/MountInfo.h"
 #include "platform/linux/LinuxMountTable.h"
-#include "tests/platform/SysfsTree.h"
+#include "tests/support/SysfsTree.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
