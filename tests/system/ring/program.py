@@ -3,6 +3,7 @@
 import glob
 import json
 import os
+import pwd
 import re
 import signal
 import socket
@@ -10,11 +11,16 @@ import subprocess
 import xml.etree.ElementTree
 
 from ring.checks import Failure, expect_equal, say, wait_for
+from ring.desktop import USER
 
 PROGRAM = "/usr/bin/zelto"
 BUNDLE = "/usr/lib/zelto/ZeltoAppMac.app"
 DRIVER_PLUGINS = "/host/plugins"
 TEXTS = "/host/zelto_en.ts"
+SOCKETS = f"/run/user/{pwd.getpwnam(USER).pw_uid}/zelto-driver"
+# With these a program can be looked at and used from here.
+DRIVER_ENVIRONMENT = {"QT_PLUGIN_PATH": DRIVER_PLUGINS,
+                      "QT_QPA_GENERIC_PLUGINS": f"zeltotestdriver:{SOCKETS}"}
 
 
 def texts():
@@ -29,7 +35,6 @@ class Program:
     def __init__(self, desktop, name="zelto"):
         self._desktop = desktop
         self.log = f"/host/results/{name}.log"
-        self._sockets = f"{desktop.runtime}/zelto-driver"
         self._connection = None
         self._lines = None
         self._process = None
@@ -45,14 +50,13 @@ class Program:
         log = open(self.log, "ab")
         self._process = self._desktop.start(
             [path], stdout=log, stderr=log,
-            environment={"QT_PLUGIN_PATH": DRIVER_PLUGINS,
-                         "QT_QPA_GENERIC_PLUGINS": f"zeltotestdriver:{self._sockets}",
-                         "QT_LOGGING_RULES": "zelto.disks=true", **(environment or {})})
+            environment={**DRIVER_ENVIRONMENT, "QT_LOGGING_RULES": "zelto.disks=true",
+                         **(environment or {})})
         self.connect(self._process.pid)
 
     def connect(self, pid):
         """To an instance that runs already."""
-        path = f"{self._sockets}/{pid}"
+        path = f"{SOCKETS}/{pid}"
         self._connection = wait_for("the program is up", lambda: self._try_to_connect(path))
         self._lines = self._connection.makefile("r", encoding="utf-8")
 
@@ -77,7 +81,7 @@ class Program:
         if self._process is not None and self._process.poll() is None:
             os.kill(self._process.pid, signal.SIGKILL)
             self._process.wait()
-        for path in glob.glob(f"{self._sockets}/*"):
+        for path in glob.glob(f"{SOCKETS}/*"):
             os.unlink(path)
 
     # What is on the screen.
