@@ -81,8 +81,8 @@ private:
 
 class OneProgramInASession : public ::testing::Test {
 protected:
-    OneProgramInASession() { qunsetenv(Token); }
-    ~OneProgramInASession() override { qunsetenv(Token); }
+    void SetUp() override { qunsetenv(Token); }
+    void TearDown() override { qunsetenv(Token); }
 
     /// The answer to a call of anybody on the bus.
     [[nodiscard]] QDBusMessage answerTo(const QDBusMessage& call) {
