@@ -135,16 +135,32 @@ QSize FittingArea::minimumSizeHint() const {
     return asked(m_contents->totalMinimumSize());
 }
 
+int FittingArea::wholeHeight(int width) const {
+    return m_contents->hasHeightForWidth() ? m_contents->totalHeightForWidth(width)
+                                           : wholeSize().height();
+}
+
 int FittingArea::heightForWidth(int width) const {
-    const int whole = m_contents->hasHeightForWidth() ? m_contents->totalHeightForWidth(width)
-                                                      : wholeSize().height();
-    return std::min(whole, m_room.height());
+    return std::min(wholeHeight(width), m_room.height());
+}
+
+/// The toolkit measures contents beside the bar that there is. Narrowed by it, a text may have one
+/// line more, and the bar would stay for that line's sake.
+void FittingArea::dropNeedlessBar() {
+    setVerticalScrollBarPolicy(wholeHeight(width()) <= height() ? Qt::ScrollBarAlwaysOff
+                                                                : Qt::ScrollBarAsNeeded);
+}
+
+void FittingArea::resizeEvent(QResizeEvent* event) {
+    dropNeedlessBar();
+    QScrollArea::resizeEvent(event);
 }
 
 bool FittingArea::eventFilter(QObject* watched, QEvent* event) {
     // A window that is not on the screen is laid out when it comes there.
     if (watched == widget() && event->type() == QEvent::LayoutRequest && isVisible()) {
         updateGeometry();
+        dropNeedlessBar();
         // The toolkit's area follows its contents when it is asked to by name.
         QScrollArea::event(event);
     }

@@ -34,6 +34,7 @@ public:
     [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     /// What the contents ask for has changed, and with it what the area asks for.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -45,6 +46,8 @@ private:
     [[nodiscard]] QSize wholeSize() const;
     [[nodiscard]] QSize asked(QSize size) const;
     [[nodiscard]] int scrollBarWidth() const;
+    [[nodiscard]] int wholeHeight(int width) const;
+    void dropNeedlessBar();
     void showFocused(QWidget* focused);
 
     QBoxLayout* m_contents = nullptr;

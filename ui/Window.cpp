@@ -42,7 +42,9 @@ void Window::centreAndMakeKeyAndOrderFront() {
     const bool staysWhereItIs = isVisible() && std::exchange(m_givesWay, false);
     resizeToFit(roomOnScreen());
     if (!staysWhereItIs) {
-        move(screen()->availableGeometry().center() - rect().center());
+        const QRect available = screen()->availableGeometry();
+        const QPoint centred = available.center() - rect().center();
+        move(std::max(centred.x(), available.left()), std::max(centred.y(), available.top()));
     }
     focusWhereTheUserStarts();
     show();

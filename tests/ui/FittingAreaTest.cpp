@@ -1,4 +1,5 @@
 #include "ui/FittingArea.h"
+#include "ui/ClippedTexts.h"
 #include "ui/Forms.h"
 
 #include <QApplication>
@@ -37,13 +38,27 @@ TEST_F(FittingAreaTest, PutsThemBesideEachOtherWhereTheScreenIsLow) {
 
 TEST_F(FittingAreaTest, RatherScrollsDownwardsThanToTheSide) {
     EXPECT_EQ(directionIn(Plenty), QBoxLayout::TopToBottom);
-    const QSize narrowAndLow(form.width() + 60, form.height() / 2);
+    const QSize narrowAndLow(area().minimumSizeHint().width() + 60, form.height() / 2);
     EXPECT_EQ(directionIn(narrowAndLow), QBoxLayout::TopToBottom);
     form.show();
     QApplication::processEvents();
     EXPECT_LE(form.height(), narrowAndLow.height());
     EXPECT_GT(area().verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(area().horizontalScrollBar()->maximum(), 0);
+}
+
+// A bar that is needed until the window has grown narrows what is beside it, and a text may have
+// one line more for it.
+TEST_F(FittingAreaTest, HasNoBarAfterTheWindowHasGrown) {
+    form.resizeToFit(Plenty);
+    form.show();
+    for (int words = 0; words < 60; ++words) {
+        for (QLabel* const label : std::initializer_list<QLabel*>{form.PC_TrialsCue, form.label1}) {
+            label->setText(label->text() + QStringLiteral(" more"));
+        }
+        settle(form);
+        EXPECT_FALSE(area().verticalScrollBar()->isVisible()) << words;
+    }
 }
 
 TEST_F(FittingAreaTest, BringsTheControlThatGetsTheFocusIntoView) {
