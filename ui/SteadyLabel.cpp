@@ -1,5 +1,6 @@
 #include "ui/SteadyLabel.h"
 
+#include <QEvent>
 #include <QFontMetrics>
 
 #include <algorithm>
@@ -10,6 +11,21 @@ SteadyLabel::SteadyLabel(QWidget* parent) : QLabel(parent) {
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
+    beginWhereLinesDo();
+}
+
+/// The toolkit aligns a text by its own letters: a time of digits alone would stand at the far end.
+void SteadyLabel::beginWhereLinesDo() {
+    const bool fromRight = layoutDirection() == Qt::RightToLeft;
+    setAlignment((fromRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                 Qt::AlignVCenter);
+}
+
+void SteadyLabel::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        beginWhereLinesDo();
+    }
 }
 
 void SteadyLabel::setHolds(const QString& text) {
@@ -18,7 +34,9 @@ void SteadyLabel::setHolds(const QString& text) {
 }
 
 QSize SteadyLabel::sizeHint() const {
-    return room([](const QLabel& label) { return label.QLabel::sizeHint(); });
+    const QSize hint = room([](const QLabel& label) { return label.QLabel::sizeHint(); });
+    // In two lines at the most, which the toolkit alone would not see to.
+    return wordWrap() ? hint.expandedTo({advanceOf(m_holds) * 3 / 5, 0}) : hint;
 }
 
 QSize SteadyLabel::minimumSizeHint() const {

@@ -9,7 +9,8 @@ namespace zelto {
 
 /// A label for a text that changes while its window is open: it has room from the beginning for
 /// the text it is known to hold later, and keeps the room of the widest that it has shown, also
-/// while it is hidden. So what is around it doesn't move.
+/// while it is hidden. So what is around it doesn't move. From right to left it begins at the right
+/// whatever it holds, digits too.
 class SteadyLabel : public QLabel {
     Q_OBJECT
     Q_PROPERTY(QString holds READ holds WRITE setHolds)
@@ -25,7 +26,11 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] int heightForWidth(int width) const override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void beginWhereLinesDo();
     [[nodiscard]] QSize room(const std::function<QSize(const QLabel&)>& measure) const;
     [[nodiscard]] int advanceOf(const QString& text) const;
     [[nodiscard]] QString withWidestDigits(QString text) const;

@@ -198,6 +198,21 @@ TEST(SteadyLabelTest, HasRoomFromTheBeginningForWhatItIsGoingToHold) {
     }
 }
 
+TEST(SteadyLabelTest, BeginsAtTheRightFromRightToLeftAlsoWithDigitsAlone) {
+    SteadyLabel label;
+    label.setText(QStringLiteral("2026"));
+    label.resize(400, 40);
+    const auto isBlank = [&label](int from) {
+        const QImage half = label.grab({from, 0, 200, 40}).toImage();
+        QImage blank = half;
+        blank.fill(half.pixelColor(0, 0));
+        return half == blank;
+    };
+    EXPECT_TRUE(!isBlank(0) && isBlank(200));
+    label.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_TRUE(isBlank(0) && !isBlank(200));
+}
+
 TEST(SteadyLabelTest, HasRoomForTheLinesThatATextWillWrapInto) {
     SteadyLabel label;
     label.setWordWrap(true);
