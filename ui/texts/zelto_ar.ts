@@ -36,7 +36,7 @@ Set the drive’s clock to this computer’s time, %1? Check first that this tim
         <extracomment>%1 is a date and time</extracomment>
         <translation>توقّفت ساعة القرص، ولذلك أقفل القرص نفسه.
 
-أتريد ضبط ساعة القرص على وقت هذا الحاسوب، %1؟ تحقّق أولًا من صحة هذا الوقت. إن كان مفتاح القرص ما زال موجودًا فيمكنك تسجيل الدخول بعد ذلك.</translation>
+أتريد ضبط ساعة القرص على وقت هذا الحاسوب، &#x2066;%1&#x2069;؟ تحقّق أولًا من صحة هذا الوقت. إن كان مفتاح القرص ما زال موجودًا فيمكنك تسجيل الدخول بعد ذلك.</translation>
     </message>
     <message id="IDS_SET_CURRENT_YIME">
         <source>The drive’s clock has been set. The program now closes. Start it again: it then says whether you can log in.</source>
@@ -125,8 +125,8 @@ To: %2</source>
         <extracomment>%1 and %2 are names of files</extracomment>
         <translation>أُعدّ القرص ويمكن استخدامه. لكن تعذّر نسخ هذا البرنامج إلى منطقة الأدوات: استخدم القرص بالبرنامج الذي على هذا الحاسوب.
 
-من: %1
-إلى: %2</translation>
+من: &#x2066;%1&#x2069;
+إلى: &#x2066;%2&#x2069;</translation>
     </message>
     <message id="IDS_ERR_SPINUP">
         <source>The drive did not get ready, so nothing on it was changed. The program now closes. Plug the drive out and in, and start the program again.</source>
@@ -356,7 +356,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>ثلاث مناطق على الأكثر؛ اترك ما لا تحتاجه على 0 م.بايت. يمكن أن تكون إحداها آمنة: تبقى مخفية حتى تسجّل الدخول.</translation>
+        <translation>ثلاث مناطق على الأكثر؛ اترك ما لا تحتاجه على 0&#xa0;م.بايت. يمكن أن تكون إحداها آمنة: تبقى مخفية حتى تسجّل الدخول.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

@@ -356,7 +356,7 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Nejvýše tři oblasti; nepotřebnou oblast ponechte na 0 MB. Jedna z nich může být zabezpečená: zůstane skrytá, dokud se nepřihlásíte.</translation>
+        <translation>Nejvýše tři oblasti; nepotřebnou oblast ponechte na 0&#xa0;MB. Jedna z nich může být zabezpečená: zůstane skrytá, dokud se nepřihlásíte.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

@@ -23,7 +23,7 @@
     </message>
     <message id="IDS_ENTER_1ST_PASSWORD">
         <source>Enter the password; the first one if the drive has two.</source>
-        <translation>Geben Sie das Passwort ein; das erste, wenn das Laufwerk zwei hat.</translation>
+        <translation>Geben Sie das Passwort ein; bei zweien das erste.</translation>
     </message>
     <message id="IDS_ENTER_2ND_PASSWORD">
         <source>Enter the second password.</source>
@@ -356,7 +356,7 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Bis zu drei Bereiche; lassen Sie einen nicht benötigten bei 0 MB. Einer davon kann sicher sein: Er bleibt verborgen, bis Sie sich anmelden.</translation>
+        <translation>Bis zu drei Bereiche; lassen Sie einen nicht benötigten bei 0&#xa0;MB. Einer davon kann sicher sein: Er bleibt verborgen, bis Sie sich anmelden.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

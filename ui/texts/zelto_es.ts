@@ -356,7 +356,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Hasta tres áreas; deje en 0 MB las que no necesite. Una de ellas puede ser segura: permanece oculta hasta que inicie sesión.</translation>
+        <translation>Hasta tres áreas; deje en 0&#xa0;MB las que no necesite. Una de ellas puede ser segura: permanece oculta hasta que inicie sesión.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>
@@ -873,7 +873,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     </message>
     <message id="IDS_UNLOCKING_EXPLANATION">
         <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off to lock it again, or keep it unlocked and go on working with it.</source>
-        <translation>El área segura está abierta y aparece junto a sus otros discos. Una nueva está vacía: formatéela una vez. Cierre la sesión para bloquearla de nuevo, o déjela desbloqueada y siga trabajando con ella.</translation>
+        <translation>El área segura está abierta y aparece junto a sus otros discos. Una nueva está vacía: formatéela una vez. Cierre la sesión para bloquearla de nuevo, o déjela desbloqueada y siga usándola.</translation>
     </message>
     <message id="IDS_UNLOCKING_SETTINGS">
         <source>&amp;Settings…</source>

@@ -356,7 +356,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Trois zones au plus&#xa0;; laissez à 0 Mo celles qui sont inutiles. L’une d’elles peut être sécurisée&#xa0;: elle reste cachée jusqu’à votre connexion.</translation>
+        <translation>Trois zones au plus&#xa0;; laissez à 0&#xa0;Mo celles qui sont inutiles. L’une d’elles peut être sécurisée&#xa0;: elle reste cachée jusqu’à votre connexion.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>
@@ -873,7 +873,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_UNLOCKING_EXPLANATION">
         <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off to lock it again, or keep it unlocked and go on working with it.</source>
-        <translation>La zone sécurisée est ouverte et apparaît à côté de vos autres disques. Une zone neuve est vierge&#xa0;: formatez-la une fois. Déconnectez-vous pour la verrouiller de nouveau, ou laissez-la déverrouillée et continuez à travailler avec.</translation>
+        <translation>La zone sécurisée est ouverte et apparaît à côté de vos autres disques. Une zone neuve est vierge&#xa0;: formatez-la une fois. Déconnectez-vous pour la verrouiller de nouveau, ou laissez-la déverrouillée et continuez à l’utiliser.</translation>
     </message>
     <message id="IDS_UNLOCKING_SETTINGS">
         <source>&amp;Settings…</source>

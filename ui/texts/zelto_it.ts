@@ -356,7 +356,7 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Fino a tre aree; lasciare a 0 MB quelle che non servono. Una di esse può essere protetta: resta nascosta finché non si accede.</translation>
+        <translation>Fino a tre aree; lasciare a 0&#xa0;MB quelle che non servono. Una di esse può essere protetta: resta nascosta finché non si accede.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

@@ -23,7 +23,7 @@
     </message>
     <message id="IDS_ENTER_1ST_PASSWORD">
         <source>Enter the password; the first one if the drive has two.</source>
-        <translation>パスワードを入力してください。2 つある場合は第 1 パスワードを入力します。</translation>
+        <translation>パスワード (2 つある場合は第 1) を入力してください。</translation>
     </message>
     <message id="IDS_ENTER_2ND_PASSWORD">
         <source>Enter the second password.</source>
@@ -297,7 +297,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_KEY_DIGITS">
         <source>Only the digits 0 to 9 and A to F can be used.</source>
-        <translation>使えるのは 0～9 と A～F だけです。</translation>
+        <translation>A～F と 0～9 だけが使えます。</translation>
     </message>
     <message id="IDS_HINT_KEY_ODD">
         <source>One digit is missing.</source>
@@ -356,7 +356,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>領域は 3 つまでです。不要な領域は 0 MB のままにしてください。そのうち 1 つはセキュア領域にでき、ログインするまで表示されません。</translation>
+        <translation>領域は 3 つまでです。不要な領域は 0&#xa0;MB のままにしてください。そのうち 1 つはセキュア領域にでき、ログインするまで表示されません。</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>
@@ -1104,7 +1104,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_RULE_HEADING">
         <source>Let this computer’s users use the drive.</source>
-        <translation>このコンピューターのユーザーがドライブを使えるようにします。</translation>
+        <translation>ドライブの使用をユーザーに許可します。</translation>
     </message>
     <message id="IDS_RULE_EXPLANATION">
         <source>An administrator enters this &amp;command in a terminal. It adds the device rule that it holds. Then plug the drive in again.</source>

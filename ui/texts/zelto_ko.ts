@@ -356,7 +356,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>영역은 세 개까지입니다. 필요 없는 영역은 0 MB로 두세요. 그중 하나는 보안 영역으로 할 수 있으며 로그인할 때까지 숨겨집니다.</translation>
+        <translation>영역은 세 개까지입니다. 필요 없는 영역은 0&#xa0;MB로 두세요. 그중 하나는 보안 영역으로 할 수 있으며 로그인할 때까지 숨겨집니다.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

@@ -23,7 +23,7 @@
     </message>
     <message id="IDS_ENTER_1ST_PASSWORD">
         <source>Enter the password; the first one if the drive has two.</source>
-        <translation>Voer het wachtwoord in; het eerste als het station er twee heeft.</translation>
+        <translation>Voer het wachtwoord in; bij twee het eerste.</translation>
     </message>
     <message id="IDS_ENTER_2ND_PASSWORD">
         <source>Enter the second password.</source>
@@ -356,7 +356,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Hoogstens drie gebieden; laat een gebied dat u niet nodig hebt op 0 MB. Een ervan kan beveiligd zijn: dat blijft verborgen tot u zich aanmeldt.</translation>
+        <translation>Hoogstens drie gebieden; laat een gebied dat u niet nodig hebt op 0&#xa0;MB. Een ervan kan beveiligd zijn: dat blijft verborgen tot u zich aanmeldt.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

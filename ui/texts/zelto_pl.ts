@@ -356,7 +356,7 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Najwyżej trzy obszary; niepotrzebny obszar pozostaw jako 0 MB. Jeden z nich może być bezpieczny: pozostaje ukryty, dopóki się nie zalogujesz.</translation>
+        <translation>Najwyżej trzy obszary; niepotrzebny obszar pozostaw jako 0&#xa0;MB. Jeden z nich może być bezpieczny: pozostaje ukryty, dopóki się nie zalogujesz.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

@@ -356,7 +356,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>Até três áreas; deixe em 0 MB as desnecessárias. Uma delas pode ser segura: fica oculta até você entrar.</translation>
+        <translation>Até três áreas; deixe em 0&#xa0;MB as desnecessárias. Uma delas pode ser segura: fica oculta até você entrar.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

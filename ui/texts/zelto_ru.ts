@@ -356,7 +356,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>До трёх областей; ненужную оставьте равной 0 МБ. Одна из них может быть защищённой: она скрыта, пока вы не войдёте.</translation>
+        <translation>До трёх областей; ненужную оставьте равной 0&#xa0;МБ. Одна из них может быть защищённой: она скрыта, пока вы не войдёте.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

@@ -356,7 +356,7 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>En çok üç alan; gerekmeyeni 0 MB bırakın. Biri güvenli olabilir: oturum açana dek gizli kalır.</translation>
+        <translation>En çok üç alan; gerekmeyeni 0&#xa0;MB bırakın. Biri güvenli olabilir: oturum açana dek gizli kalır.</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>

@@ -356,7 +356,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_AREAS_EXPLANATION">
         <source>Up to three areas; leave an area at 0 MB if you do not need it. One of them can be secure: it stays hidden until you log in.</source>
-        <translation>最多三个区域；不需要的区域请保留为 0 MB。其中一个可以是安全区域：在您登录之前一直隐藏。</translation>
+        <translation>最多三个区域；不需要的区域请保留为 0&#xa0;MB。其中一个可以是安全区域：在您登录之前一直隐藏。</translation>
     </message>
     <message id="IDS_AREAS_BAR_NAME">
         <source>The areas in proportion</source>
