@@ -27,7 +27,7 @@ int NSApplicationMain(int argc, char** argv) {
     zelto::installStrings();
     // No display name: the toolkit would append it to the titles, which begin with it.
     QApplication::setWindowIcon(zelto::ProductIcon::icon());
-    zelto::OutlinedStyle::installWhereNeeded();
+    QApplication::setStyle(new zelto::OutlinedStyle);
 
     zelto::AlertPresenter alerts;
     zelto::linux_platform::LinuxPlatform linuxPlatform(

@@ -135,9 +135,10 @@ QColor warningColour(const QPalette& palette) {
 
 bool isHighContrast(const QPalette& palette) {
     constexpr double EnoughForAnybody = 15;
-    const QColor window = palette.color(QPalette::Window);
+    // A disabled control's own colours are weaker.
+    const QColor window = palette.color(QPalette::Active, QPalette::Window);
     const double first = luminance(window);
-    const double second = luminance(palette.color(QPalette::WindowText));
+    const double second = luminance(palette.color(QPalette::Active, QPalette::WindowText));
     const double contrast = (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
     return (window == Qt::black || window == Qt::white) && contrast > EnoughForAnybody;
 }

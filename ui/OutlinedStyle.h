@@ -4,15 +4,13 @@
 
 namespace zelto {
 
-/// The desktop's style with a line around every control. For palettes of high contrast: styles
-/// shade their edges from the window's colour, and of black there is no darker shade.
+/// The desktop's style; where the palette is one of high contrast, with a line around every control
+/// and a double one around what has the focus: styles shade their edges from the window's colour,
+/// and of black there is no darker shade. It follows the palette while the program runs.
 class OutlinedStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
-    /// Gives the application this style if its palette is one of high contrast.
-    static void installWhereNeeded();
-
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -99,7 +99,7 @@ void SetupStepsView::paintEvent(QPaintEvent*) {
         QFont font = this->font();
         font.setBold(state == State::UnderWay || state == State::Failed);
         painter.setFont(font);
-        painter.setPen(state == State::ToCome ? palette().color(QPalette::PlaceholderText)
+        painter.setPen(state == State::ToCome ? colourToCome()
                                               : palette().color(QPalette::WindowText));
         painter.drawText(words, static_cast<int>(Qt::AlignLeading | Qt::AlignVCenter),
                          titleOf(step));
@@ -111,27 +111,34 @@ void SetupStepsView::paintEvent(QPaintEvent*) {
     }
 }
 
+QColor SetupStepsView::colourToCome() const {
+    return palette().color(isHighContrast(palette()) ? QPalette::WindowText
+                                                     : QPalette::PlaceholderText);
+}
+
 void SetupStepsView::paintMark(QPainter& painter, State state, const QRectF& box) const {
     const QColor accent = palette().color(QPalette::Highlight);
+    const QPen line(outlineColour(palette()), 1.2);
+    const bool strong = isHighContrast(palette());
     const QRectF inner = box.adjusted(1, 1, -1, -1);
     painter.setBrush(Qt::NoBrush);
     switch (state) {
     case State::Done:
-        painter.setPen(Qt::NoPen);
+        painter.setPen(strong ? line : QPen(Qt::NoPen));
         painter.setBrush(accent);
         painter.drawEllipse(inner);
         paintGlyph(painter, Glyph::CheckMark, box.adjusted(4, 4, -4, -4),
                    palette().color(QPalette::HighlightedText));
         break;
     case State::UnderWay:
-        painter.setPen(QPen(accent, 2));
+        painter.setPen(strong ? QPen(line.color(), 2) : QPen(accent, 2));
         painter.drawEllipse(inner);
-        painter.setPen(Qt::NoPen);
+        painter.setPen(strong ? line : QPen(Qt::NoPen));
         painter.setBrush(accent);
         painter.drawEllipse(inner.center(), inner.width() / 4, inner.height() / 4);
         break;
     case State::ToCome:
-        painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1.2));
+        painter.setPen(QPen(colourToCome(), 1.2));
         painter.drawEllipse(inner);
         break;
     case State::Failed:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QWidget>
 
 namespace zelto {
@@ -38,6 +39,7 @@ protected:
 
 private:
     [[nodiscard]] int lineHeight() const;
+    [[nodiscard]] QColor colourToCome() const;
     void paintMark(QPainter& painter, State state, const QRectF& box) const;
     void describe();
 

@@ -1,8 +1,10 @@
 #include "ui/SetupStepsView.h"
+#include "ui/VirtualScreen.h"
 
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QPalette>
 
 #include <array>
 
@@ -79,6 +81,24 @@ TEST(SetupStepsViewTest, LooksDifferentInEveryStepAndKeepsItsSize) {
         EXPECT_NE(now, before);
         EXPECT_EQ(steps.sizeHint(), size);
         before = now;
+    }
+}
+
+TEST(SetupStepsViewTest, EveryMarkHasAnOutlineAsStrongAsTextInHighContrast) {
+    SetupStepsView steps;
+    steps.setPalette(highContrastPalette());
+    steps.setCurrentStep(SetupStepsView::DriveReconnects);
+    steps.resize(steps.sizeHint());
+    const QImage image = steps.grab().toImage();
+    const int lineHeight = image.height() / 5;
+    for (int step = 0; step < 5; ++step) {
+        int strong = 0;
+        for (int x = 0; x < lineHeight; ++x) {
+            for (int y = step * lineHeight; y < (step + 1) * lineHeight; ++y) {
+                strong += image.pixelColor(x, y).lightness() > 200 ? 1 : 0;
+            }
+        }
+        EXPECT_GT(strong, 20) << "step " << step;
     }
 }
 
