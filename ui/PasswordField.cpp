@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QStyle>
 #include <QToolButton>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -111,6 +112,13 @@ void PasswordField::focusInEvent(QFocusEvent* event) {
 void PasswordField::focusOutEvent(QFocusEvent* event) {
     setCapsLock(false);
     SecretField::focusOutEvent(event);
+}
+
+void PasswordField::showEvent(QShowEvent* event) {
+    SecretField::showEvent(event);
+    // A screen of another scale takes other pixels.
+    connect(window()->windowHandle(), &QWindow::screenChanged, this, &PasswordField::renderIcons,
+            Qt::UniqueConnection);
 }
 
 void PasswordField::hideEvent(QHideEvent* event) {

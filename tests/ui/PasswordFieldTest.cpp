@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -55,6 +56,12 @@ TEST_F(PasswordFieldTest, TheEyeShowsTheTextUntilItIsPressedAgain) {
     EXPECT_NE(picture(), shown) << "texts are not";
     field->setSecret(QStringLiteral("secret"));
     EXPECT_EQ(picture(), shown);
+}
+
+TEST_F(PasswordFieldTest, TheEyeIsDrawnAnewOnAnotherScreen) {
+    const qint64 before = eye()->icon().cacheKey();
+    Q_EMIT window.windowHandle()->screenChanged(nullptr);
+    EXPECT_NE(eye()->icon().cacheKey(), before);
 }
 
 TEST_F(PasswordFieldTest, TheTextIsHiddenAgainWhenTheWindowIsLeft) {
