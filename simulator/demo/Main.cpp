@@ -1,6 +1,7 @@
 #include "simulator/demo/DemoPanel.h"
 #include "simulator/demo/Story.h"
 #include "ui/Strings.h"
+#include "ui/VirtualScreen.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -18,10 +19,10 @@ constexpr const char* Help =
   zelto-demo                         the windows, and a panel to plug, unplug and wait with
   zelto-demo --story                 stories that play by themselves, without a display
   zelto-demo --story --pictures DIR  the same, with a picture of each window left in DIR
+      --scale 2 --dark               pictures at 200 %, and as dark desktops have the windows
   zelto-demo --help                  this text
 
-Without a display the stories play. The exit code is 1 when a check of a story fails, and 2 when
-the command line is not understood.
+Without a display the stories play. Exit codes: 1, a check failed; 2, the command line is wrong.
 )";
 
 bool hasDisplay() {
@@ -29,14 +30,8 @@ bool hasDisplay() {
            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-/// The offscreen platform remarks on every window that it cannot raise; the rest is printed.
-void printRemark(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (!text.startsWith(QLatin1String("This plugin does not support"))) {
-        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
-    }
-}
-
-int playStories(int argc, char** argv, const std::filesystem::path& pictures) {
+int playStories(int argc, char** argv, const QCommandLineParser& line) {
+    const std::filesystem::path pictures = line.value("pictures").toStdString();
     if (!pictures.empty()) {
         std::error_code error;
         std::filesystem::create_directories(pictures, error);
@@ -45,10 +40,12 @@ int playStories(int argc, char** argv, const std::filesystem::path& pictures) {
             return EXIT_FAILURE;
         }
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(printRemark);
+    const zelto::VirtualScreen screen(line.value("scale").toDouble());
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    if (line.isSet("dark")) {
+        QApplication::setPalette(zelto::darkPalette());
+    }
     zelto::installStrings();
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     bool failed = false;
@@ -79,7 +76,11 @@ int showWindows(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     QCommandLineParser line;
-    line.addOptions({{{"h", "help"}, {}}, {"story", {}}, {"pictures", {}, "DIR"}});
+    line.addOptions({{{"h", "help"}, {}},
+                     {"story", {}},
+                     {"pictures", {}, "DIR"},
+                     {"scale", {}, "FACTOR", "1"},
+                     {"dark", {}}});
     if (!line.parse(QStringList(argv, argv + argc)) || !line.positionalArguments().isEmpty()) {
         std::fputs(Help, stderr);
         return 2;
@@ -88,7 +89,6 @@ int main(int argc, char** argv) {
         std::fputs(Help, stdout);
         return EXIT_SUCCESS;
     }
-    return line.isSet("story") || !hasDisplay()
-               ? playStories(argc, argv, line.value("pictures").toStdString())
-               : showWindows(argc, argv);
+    return line.isSet("story") || !hasDisplay() ? playStories(argc, argv, line)
+                                                : showWindows(argc, argv);
 }

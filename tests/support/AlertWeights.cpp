@@ -11,33 +11,27 @@
 namespace zelto::test {
 namespace {
 
-struct Row {
-    const char* key;
-    AlertWeight weight;
-};
-
-/// Every text that is ever shown in an alert.
 constexpr std::array Rows{
-    Row{"IDS_SET_CURRENT_YIME", AlertWeight::Information},
-    Row{"IDS_TIME_SYNC_COMPLETE", AlertWeight::Information},
-    Row{"IDS_ERR_NOT_FOUND_ZELTO", AlertWeight::Warning},
-    Row{"IDS_FULLLOCK_TIME_STATUS_INVALID", AlertWeight::Warning},
-    Row{"IDS_ERR_AUTHENTICATE_FAILED", AlertWeight::Warning},
-    Row{"IDS_ERR_UNMOUNT", AlertWeight::Warning},
-    Row{"IDS_COMMAND_FAIL_WITH_SENSE_INFO", AlertWeight::Warning},
-    Row{"IDS_COMMAND_FAIL", AlertWeight::Warning},
-    Row{"IDS_ERR_FORMAT", AlertWeight::Warning},
-    Row{"IDS_ERR_FILE_COPY", AlertWeight::Warning},
-    Row{"IDS_ERR_SPINUP", AlertWeight::Warning},
-    Row{"IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP", AlertWeight::Warning},
-    Row{"IDS_ERR_CURRENT_1ST_PASSWORD_INVALID", AlertWeight::Warning},
-    Row{"IDS_ERR_CURRENT_2ND_PASSWORD_INVALID", AlertWeight::Warning},
-    Row{"IDS_ERR_ZELTO_NOT_UNLOCKING", AlertWeight::Warning},
-    Row{"IDS_HINT_SETUP_TABLE_FULL", AlertWeight::Warning},
-    Row{"IDS_HINT_NO_MANUAL", AlertWeight::Warning},
-    Row{"IDS_CLEAR_ALL_CONFIRM", AlertWeight::Warning},
-    Row{"IDS_ERASE_ENCRYPTION_KEY_CONFIRM", AlertWeight::Warning},
-    Row{"IDS_ERR_ZELTO_DRIVE_LOST", AlertWeight::Critical},
+    WeighedText{"IDS_SET_CURRENT_YIME", AlertWeight::Information},
+    WeighedText{"IDS_TIME_SYNC_COMPLETE", AlertWeight::Information},
+    WeighedText{"IDS_ERR_NOT_FOUND_ZELTO", AlertWeight::Warning},
+    WeighedText{"IDS_FULLLOCK_TIME_STATUS_INVALID", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_AUTHENTICATE_FAILED", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_UNMOUNT", AlertWeight::Warning},
+    WeighedText{"IDS_COMMAND_FAIL_WITH_SENSE_INFO", AlertWeight::Warning},
+    WeighedText{"IDS_COMMAND_FAIL", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_FORMAT", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_FILE_COPY", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_SPINUP", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_ENCRYPTION_MANUAL_KEY_NOT_SETUP", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_CURRENT_1ST_PASSWORD_INVALID", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_CURRENT_2ND_PASSWORD_INVALID", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_ZELTO_NOT_UNLOCKING", AlertWeight::Warning},
+    WeighedText{"IDS_HINT_SETUP_TABLE_FULL", AlertWeight::Warning},
+    WeighedText{"IDS_HINT_NO_MANUAL", AlertWeight::Warning},
+    WeighedText{"IDS_CLEAR_ALL_CONFIRM", AlertWeight::Warning},
+    WeighedText{"IDS_ERASE_ENCRYPTION_KEY_CONFIRM", AlertWeight::Warning},
+    WeighedText{"IDS_ERR_ZELTO_DRIVE_LOST", AlertWeight::Critical},
 };
 
 /// Texts with blanks to fill are told by what stands before the first.
@@ -47,9 +41,13 @@ bool says(const AlertPanel& panel, const char* key) {
 
 } // namespace
 
+std::span<const WeighedText> alertTexts() {
+    return Rows;
+}
+
 void expectWeightOfWords(const AlertPanel& panel) {
     const auto row =
-        std::ranges::find_if(Rows, [&](const Row& each) { return says(panel, each.key); });
+        std::ranges::find_if(Rows, [&](const WeighedText& each) { return says(panel, each.key); });
     ASSERT_NE(row, Rows.end()) << panel.message.toStdString();
     EXPECT_EQ(panel.weight, row->weight) << row->key;
 }

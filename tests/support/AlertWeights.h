@@ -2,7 +2,17 @@
 
 #include "platform/Alerts.h"
 
+#include <span>
+
 namespace zelto::test {
+
+struct WeighedText {
+    const char* key;
+    AlertWeight weight;
+};
+
+/// Every text that is ever shown in an alert.
+[[nodiscard]] std::span<const WeighedText> alertTexts();
 
 /// Fails the test when a panel looks more or less serious than what it says.
 void expectWeightOfWords(const AlertPanel& panel);

@@ -30,6 +30,7 @@ const std::map<QString, Keys>& shownIn() {
         {QStringLiteral("AuthenticateDeviceTimeText"), {"IDS_ERR_TIME_STATUS_INVALID"}},
         {QStringLiteral("DeviceTimeText"), {"IDS_ERR_TIME_STATUS_INVALID"}},
         {QStringLiteral("AuthenticateRemainingTimeText"), {"IDS_EXPIRED"}},
+        {QStringLiteral("SelectZeltoNoDrive"), {"IDS_ERR_NOT_FOUND_ZELTO"}},
         {QStringLiteral("SelectZeltoAccessHint"),
          {"IDS_HINT_RULE_MISSING", "IDS_HINT_OTHER_SESSION", "IDS_HINT_DRIVE_IN_USE"}},
         {QStringLiteral("ZeltoSettingText"), {"IDS_NOW_SETTING", "IDS_SETTING_COMPLETE"}},
@@ -48,11 +49,12 @@ const std::map<QString, Keys>& shownIn() {
         {QStringLiteral("PS_TrialsCue"), {"IDS_HINT_TRIALS_ERASE"}},
         {QStringLiteral("PC_TrialsCue"), {"IDS_HINT_TRIALS_ERASE"}},
         {QStringLiteral("PS_Obstacle"),
-         {"IDS_HINT_FIRST_DIFFERS", "IDS_HINT_SECOND_DIFFERS", "IDS_HINT_PASSWORD_ACCENTS",
-          "IDS_HINT_PASSWORD_TOO_LONG", "IDS_HINT_TRIALS"}},
+         {"IDS_HINT_FIRST_MISSING", "IDS_HINT_FIRST_AGAIN", "IDS_HINT_FIRST_DIFFERS",
+          "IDS_HINT_SECOND_MISSING", "IDS_HINT_SECOND_AGAIN", "IDS_HINT_SECOND_DIFFERS",
+          "IDS_HINT_PASSWORD_ACCENTS", "IDS_HINT_PASSWORD_TOO_LONG", "IDS_HINT_TRIALS"}},
         {QStringLiteral("PC_Obstacle"),
-         {"IDS_HINT_SECOND_DIFFERS", "IDS_HINT_CURRENT_FIRST_MISSING",
-          "IDS_HINT_CURRENT_SECOND_MISSING", "IDS_HINT_PASSWORD_ACCENTS"}},
+         {"IDS_HINT_CURRENT_FIRST_MISSING", "IDS_HINT_CURRENT_SECOND_MISSING",
+          "IDS_HINT_FIRST_DIFFERS", "IDS_HINT_SECOND_DIFFERS", "IDS_HINT_PASSWORD_ACCENTS"}},
         {QStringLiteral("EncryptionKeyObstacle"),
          {"IDS_HINT_KEY_MISSING", "IDS_HINT_KEY_DIGITS", "IDS_HINT_KEY_ODD"}},
     };
@@ -65,13 +67,16 @@ void keepLonger(QLabel& label, const QString& text) {
     }
 }
 
+const Keys& keysOf(const QLabel& label) {
+    static const Keys none;
+    const auto keys = shownIn().find(label.objectName());
+    return keys == shownIn().end() ? none : keys->second;
+}
+
 void fillLabels(Window& form) {
     for (QLabel* label : form.findChildren<QLabel*>()) {
-        const auto keys = shownIn().find(label->objectName());
-        if (keys != shownIn().end()) {
-            for (const char* key : keys->second) {
-                keepLonger(*label, localized(key));
-            }
+        for (const char* key : keysOf(*label)) {
+            keepLonger(*label, localized(key));
             label->show();
         }
         if (label->objectName().endsWith(QStringLiteral("TimeText"))) {
@@ -129,6 +134,22 @@ void fill(Window& form) {
     }
     if (auto* const command = form.findChild<QPlainTextEdit*>()) {
         command->setPlainText(deviceRuleCommand());
+    }
+}
+
+int textsInTurn(const Window& form) {
+    std::size_t most = 1;
+    for (const QLabel* label : form.findChildren<QLabel*>()) {
+        most = std::max(most, keysOf(*label).size());
+    }
+    return static_cast<int>(most);
+}
+
+void showText(Window& form, int turn) {
+    for (QLabel* label : form.findChildren<QLabel*>()) {
+        if (const Keys& keys = keysOf(*label); !keys.empty()) {
+            label->setText(localized(keys[static_cast<std::size_t>(turn) % keys.size()]));
+        }
     }
 }
 
