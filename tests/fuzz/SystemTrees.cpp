@@ -15,7 +15,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <ranges>
 #include <set>
 #include <unistd.h>
 
@@ -72,7 +71,8 @@ void checkRegistry(const fs::path& sysfs, std::uint8_t diskNumber, std::uint32_t
                                                     .location = location},
                                                    names);
     require(isFound || names.empty(), "a drive that is not found has no disks");
-    const auto isTheirs = [&](const SysfsEntry& device) {
+    const auto isTheirs = [&](const auto& numbered) {
+        const SysfsEntry& device = numbered.second;
         const auto below = namesBelow(device.folder());
         return device.hexadecimal("idVendor") == Vendor &&
                device.hexadecimal("idProduct") == Product &&
@@ -80,7 +80,7 @@ void checkRegistry(const fs::path& sysfs, std::uint8_t diskNumber, std::uint32_t
                std::ranges::all_of(names,
                                    [&](const std::string& name) { return below.contains(name); });
     };
-    require(!isFound || std::ranges::any_of(usbDevices(sysfs) | std::views::values, isTheirs),
+    require(!isFound || std::ranges::any_of(usbDevices(sysfs), isTheirs),
             "the disks are those of one such drive");
 }
 
