@@ -51,8 +51,8 @@ public:
         std::string title;
         std::string text;
     };
-    /// Shows a notice, which outlives the program; does not wait for anybody to show it.
-    virtual void notify(const Notice& /*notice*/) {}
+    /// Has a notice shown when the program ends.
+    virtual void leaveNotice(const Notice& /*notice*/) {}
 
     /// Shows a file in the program that the user reads such files with; does not wait for it. False
     /// when there is none.

@@ -79,9 +79,9 @@ AlertButton AppDelegate::RunAlertPanel(const AlertPanel& panel) {
 }
 
 void AppDelegate::LeaveNotice(Desktop::Notice::Weight weight, const char* messageKey) {
-    m_platform.desktop.notify({.weight = weight,
-                               .title = localized("IDS_APP_TITLE").toStdString(),
-                               .text = localized(messageKey).toStdString()});
+    m_platform.desktop.leaveNotice({.weight = weight,
+                                    .title = localized("IDS_APP_TITLE").toStdString(),
+                                    .text = localized(messageKey).toStdString()});
 }
 
 void AppDelegate::Pause(std::chrono::seconds duration) {

@@ -58,8 +58,8 @@ void LinuxDesktop::bringOtherForward() {
     (void)m_place.bringOtherForward();
 }
 
-void LinuxDesktop::notify(const Notice& notice) {
-    m_notifications.notify(notice);
+void LinuxDesktop::leaveNotice(const Notice& notice) {
+    m_notifications.leave(notice);
 }
 
 bool LinuxDesktop::openDocument(const std::filesystem::path& file) {

@@ -26,7 +26,7 @@ public:
     [[nodiscard]] bool takePlace(const LaterStart& later) override;
     void giveWayToNewStart() override;
     void bringOtherForward() override;
-    void notify(const Notice& notice) override;
+    void leaveNotice(const Notice& notice) override;
     [[nodiscard]] bool openDocument(const std::filesystem::path& file) override;
     /// X11 tells it at any time; Wayland only to the toolkit, which keeps it to itself.
     [[nodiscard]] std::optional<bool> isCapsLockOn() const override;

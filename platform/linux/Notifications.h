@@ -3,35 +3,39 @@
 #include "platform/Desktop.h"
 
 #include <QDBusConnection>
-#include <QDBusPendingCall>
 
 #include <chrono>
 #include <functional>
-#include <optional>
+#include <vector>
 
 namespace zelto::linux_platform {
 
-/// The notices that a program leaves on the desktop, shown by its org.freedesktop.Notifications
-/// where there is one.
+/// The notices that a program leaves on the desktop.
+///
+/// GNOME's shell, and what was made of it, takes a notice away when the program that asked for it
+/// ends, if it knows the program by a window or by its name. So notices are shown last of all, when
+/// the windows are gone, and under the program's name only where the desktop keeps such ones.
 class Notifications {
 public:
     using Bus = std::function<QDBusConnection()>;
 
-    explicit Notifications(Bus bus,
-                           std::chrono::milliseconds answerLimit = std::chrono::seconds(2));
+    /// A service that does not answer is waited for as long as that.
+    explicit Notifications(Bus bus, std::chrono::milliseconds limit = std::chrono::seconds(2));
     Notifications(const Notifications&) = delete;
     Notifications& operator=(const Notifications&) = delete;
-    /// Gives the service that moment to take what was left: the bus forgets what it has for a
-    /// service that is only just starting when the sender goes.
+    /// Shows what was left. Waits for the answers, as the bus forgets what it has for a service
+    /// that is only just starting when the sender goes.
     ~Notifications();
 
-    /// Does not wait.
-    void notify(const Desktop::Notice& notice);
+    void leave(const Desktop::Notice& notice) { m_notices.push_back(notice); }
 
 private:
+    [[nodiscard]] bool showUnderOwnName(const Desktop::Notice& notice) const;
+    void show(const Desktop::Notice& notice) const;
+
     Bus m_bus;
-    std::chrono::milliseconds m_answerLimit;
-    std::optional<QDBusPendingCall> m_latest;
+    std::chrono::milliseconds m_limit;
+    std::vector<Desktop::Notice> m_notices;
 };
 
 } // namespace zelto::linux_platform

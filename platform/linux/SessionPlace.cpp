@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const QString PlaceName = QStringLiteral("com.kestrin.zelto");
+const QString PlaceName = QString::fromLatin1(SessionPlace::Name);
 const QString PlacePath = QStringLiteral("/com/kestrin/zelto");
 /// Who gives way has this name instead: a desktop that wants to show the program then starts it.
 const QString GivesWayName = QStringLiteral("com.kestrin.zelto.GivesWay");

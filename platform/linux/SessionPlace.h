@@ -26,6 +26,9 @@ class SessionPlace final : public QObject {
 public:
     using Bus = std::function<QDBusConnection()>;
 
+    /// The program's name on the bus, and that of its desktop file.
+    static constexpr auto Name = "com.kestrin.zelto";
+
     /// The other copy may be in the middle of a command, which may take 5 s.
     SessionPlace(Bus bus, const Waiting& waiting,
                  std::chrono::milliseconds comeForwardLimit = std::chrono::seconds(7));

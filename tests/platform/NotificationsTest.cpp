@@ -19,44 +19,56 @@ namespace {
 using namespace linux_platform;
 using Weight = Desktop::Notice::Weight;
 
-/// The desktop's notification service. It lives in a thread of its own, as the program's end waits
-/// for its answer.
+/// A notification service. It lives in a thread of its own, as the program's end waits for its
+/// answer.
 class FakeNotificationService : public QDBusVirtualObject {
 public:
-    explicit FakeNotificationService(const QDBusConnection& bus) : m_bus(bus) {
+    FakeNotificationService(const QDBusConnection& bus, const QString& name)
+        : m_bus(bus), m_path(QStringLiteral("/") + QString(name).replace('.', '/')) {
         moveToThread(&m_thread);
-        m_bus.registerVirtualObject("/org/freedesktop/Notifications", this);
-        m_bus.registerService("org.freedesktop.Notifications");
+        m_bus.registerVirtualObject(m_path, this);
+        m_bus.registerService(name);
         m_thread.start();
     }
     FakeNotificationService(const FakeNotificationService&) = delete;
     FakeNotificationService& operator=(const FakeNotificationService&) = delete;
     ~FakeNotificationService() override {
-        m_bus.unregisterObject("/org/freedesktop/Notifications");
+        m_bus.unregisterObject(m_path);
         m_thread.quit();
         m_thread.wait();
     }
+
+    enum class Manner { Obeys, Refuses, IsSilent };
+    void be(Manner manner) { m_manner = manner; }
 
     [[nodiscard]] QList<QDBusMessage> calls() const {
         const QMutexLocker lock(&m_mutex);
         return m_calls;
     }
-    /// From now on nobody gets an answer.
-    void fallSilent() { m_isSilent = true; }
 
     QString introspect(const QString& /*path*/) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
         const QMutexLocker lock(&m_mutex);
         m_calls.append(message);
-        return m_isSilent || connection.send(message.createReply(uint{1}));
+        switch (m_manner) {
+        case Manner::Obeys:
+            return connection.send(message.createReply(uint{1}));
+        case Manner::Refuses:
+            return connection.send(
+                message.createErrorReply("org.gtk.Notifications.InvalidApp", ""));
+        case Manner::IsSilent:
+            return true;
+        }
+        return false;
     }
 
 private:
     QDBusConnection m_bus;
+    QString m_path;
     QThread m_thread;
     mutable QMutex m_mutex;
     QList<QDBusMessage> m_calls;
-    std::atomic<bool> m_isSilent = false;
+    std::atomic<Manner> m_manner = Manner::Obeys;
 };
 
 class NotificationsTest : public ::testing::Test {
@@ -64,14 +76,14 @@ protected:
     /// A program that leaves a notice and ends.
     void leave(Weight weight, std::chrono::milliseconds limit = std::chrono::seconds(30)) {
         Notifications notifications([this] { return bus.connection("program"); }, limit);
-        notifications.notify({.weight = weight, .title = "ZELTO DISK", .text = "It is locked."});
+        notifications.leave({.weight = weight, .title = "ZELTO DISK", .text = "It is locked."});
     }
 
     PrivateBus bus;
+    FakeNotificationService service{bus.connection("service"), "org.freedesktop.Notifications"};
 };
 
 TEST_F(NotificationsTest, TheServiceHasGotItWhenTheProgramEnds) {
-    const FakeNotificationService service(bus.connection("service"));
     leave(Weight::Passing);
     ASSERT_EQ(service.calls().size(), 1);
     const QDBusMessage call = service.calls().front();
@@ -89,7 +101,6 @@ TEST_F(NotificationsTest, TheServiceHasGotItWhenTheProgramEnds) {
 }
 
 TEST_F(NotificationsTest, ALastingOneStaysUntilTheUserCloses) {
-    const FakeNotificationService service(bus.connection("service"));
     leave(Weight::Lasting);
     ASSERT_EQ(service.calls().size(), 1);
     const auto arguments = service.calls().front().arguments();
@@ -97,18 +108,53 @@ TEST_F(NotificationsTest, ALastingOneStaysUntilTheUserCloses) {
     EXPECT_EQ(arguments.at(7), 0);
 }
 
-TEST_F(NotificationsTest, WithoutAServiceTheProgramEnds) {
+TEST_F(NotificationsTest, NothingIsShownWhileTheProgramRuns) {
+    Notifications notifications([this] { return bus.connection("program"); });
+    notifications.leave({});
+    EXPECT_TRUE(service.calls().isEmpty());
+}
+
+TEST_F(NotificationsTest, WhereTheDesktopKeepsNoticesUnderTheProgramsNameItGetsThem) {
+    const FakeNotificationService shell(bus.connection("shell"), "org.gtk.Notifications");
+    leave(Weight::Passing);
     leave(Weight::Lasting);
+    EXPECT_TRUE(service.calls().isEmpty());
+    ASSERT_EQ(shell.calls().size(), 2);
+    const QDBusMessage call = shell.calls().front();
+    EXPECT_EQ(call.member(), "AddNotification");
+    EXPECT_EQ(call.signature(), "ssa{sv}");
+    EXPECT_EQ(call.arguments().at(0), "com.kestrin.zelto");
+    const auto content = qdbus_cast<QVariantMap>(call.arguments().at(2));
+    EXPECT_EQ(content.value("title"), "ZELTO DISK");
+    EXPECT_EQ(content.value("body"), "It is locked.");
+    EXPECT_EQ(content.value("priority"), "normal");
+    const auto lasting = qdbus_cast<QVariantMap>(shell.calls().back().arguments().at(2));
+    EXPECT_EQ(lasting.value("priority"), "urgent");
+}
+
+TEST_F(NotificationsTest, WhereTheDesktopDoesNotKnowTheProgramTheNoticeIsNobodys) {
+    FakeNotificationService shell(bus.connection("shell"), "org.gtk.Notifications");
+    shell.be(FakeNotificationService::Manner::Refuses);
+    leave(Weight::Passing);
+    EXPECT_EQ(shell.calls().size(), 1);
+    ASSERT_EQ(service.calls().size(), 1);
+    const auto hints = qdbus_cast<QVariantMap>(service.calls().front().arguments().at(6));
+    EXPECT_EQ(hints.keys(), QStringList{"urgency"}) << "a name would have it taken away";
+}
+
+TEST_F(NotificationsTest, WithoutAServiceTheProgramEnds) {
+    bus.connection("service").unregisterService("org.freedesktop.Notifications");
+    leave(Weight::Lasting);
+    EXPECT_TRUE(service.calls().isEmpty());
 }
 
 TEST_F(NotificationsTest, WithoutABusTheProgramEnds) {
     Notifications notifications([] { return QDBusConnection("nowhere"); });
-    notifications.notify({});
+    notifications.leave({});
 }
 
 TEST_F(NotificationsTest, AServiceThatNeverAnswersKeepsTheProgramNoLongerThanItsLimit) {
-    FakeNotificationService service(bus.connection("service"));
-    service.fallSilent();
+    service.be(FakeNotificationService::Manner::IsSilent);
     leave(Weight::Lasting, std::chrono::milliseconds(1));
 }
 

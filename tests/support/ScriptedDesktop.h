@@ -16,7 +16,7 @@ public:
     [[nodiscard]] bool takePlace(const LaterStart& later) override;
     void giveWayToNewStart() override { m_givesWay = true; }
     void bringOtherForward() override { ++m_othersForward; }
-    void notify(const Notice& notice) override { m_notices.push_back(notice); }
+    void leaveNotice(const Notice& notice) override { m_notices.push_back(notice); }
     [[nodiscard]] bool openDocument(const std::filesystem::path& file) override;
     void setSessionEndHandler(const std::function<bool()>& mayEnd) override;
 
