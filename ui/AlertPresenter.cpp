@@ -3,8 +3,10 @@
 #include "ui/FrontWindow.h"
 #include "ui/ProductIcon.h"
 #include "ui/ReturnKey.h"
+#include "ui/Strings.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -30,6 +32,19 @@ QMessageBox::Icon iconOf(AlertWeight weight) {
         return QMessageBox::Critical;
     }
     return QMessageBox::NoIcon;
+}
+
+/// Who does not see the sign hears what it means.
+QString nameOfIcon(AlertWeight weight) {
+    switch (weight) {
+    case AlertWeight::Information:
+        return localized("IDS_ALERT_INFORMATION");
+    case AlertWeight::Warning:
+        return localized("IDS_ALERT_WARNING");
+    case AlertWeight::Critical:
+        return localized("IDS_ALERT_CRITICAL");
+    }
+    return {};
 }
 
 /// The window that the user looks at: while another program is active none of ours is, but the
@@ -75,7 +90,7 @@ AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
     for (QLabel* label : box.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
         if (!label->pixmap().isNull()) {
-            label->setAccessibleName(panel.title);
+            label->setAccessibleName(nameOfIcon(panel.weight));
         }
     }
 
@@ -84,6 +99,8 @@ AlertButton AlertPresenter::NSRunAlertPanel(const AlertPanel& panel) {
     if (!panel.alternateButton.isEmpty()) {
         second = addButton(box, panel.alternateButton, QMessageBox::RejectRole);
     }
+    // Read after both texts, in the order in which they stand.
+    box.findChild<QDialogButtonBox*>()->raise();
     const bool escapeIsSecond = second != nullptr && panel.onEscape == AlertButton::Alternate;
     box.setDefaultButton(first);
     box.setEscapeButton(escapeIsSecond ? second : first);

@@ -1173,5 +1173,20 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>الإصدار %1 من البرنامج.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>معلومة</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>تحذير</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>فقدان البيانات</translation>
+    </message>
 </context>
 </TS>

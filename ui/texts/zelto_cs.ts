@@ -1173,5 +1173,20 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Verze %1 programu.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Informace</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Varování</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Ztráta dat</translation>
+    </message>
 </context>
 </TS>

@@ -1173,5 +1173,20 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Version %1 des Programms.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Hinweis</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Warnung</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Datenverlust</translation>
+    </message>
 </context>
 </TS>

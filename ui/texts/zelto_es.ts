@@ -1173,5 +1173,20 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Versión %1 del programa.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Información</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Advertencia</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Pérdida de datos</translation>
+    </message>
 </context>
 </TS>

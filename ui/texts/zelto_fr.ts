@@ -1173,5 +1173,20 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Version %1 du programme.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Information</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Avertissement</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Perte de données</translation>
+    </message>
 </context>
 </TS>

@@ -1173,5 +1173,20 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Versione %1 del programma.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Informazione</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Avviso</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Perdita di dati</translation>
+    </message>
 </context>
 </TS>

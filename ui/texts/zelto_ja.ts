@@ -1173,5 +1173,20 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>プログラムのバージョン %1。</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>情報</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>警告</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>データの損失</translation>
+    </message>
 </context>
 </TS>

@@ -1091,7 +1091,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_NOTICE_CLEARED">
         <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
-        <translation>드라이브의 내용을 모두 지웠습니다. 드라이브를 뺐다가 다시 연결하고 이 프로그램을 시작하여 다시 설정하세요.</translation>
+        <translation>드라이브의 내용을 모두 지웠습니다. 드라이브를 뺐다가 다시 연결하고 이 프로그램을 시작하여 다시 초기 설정하세요.</translation>
     </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
@@ -1172,6 +1172,21 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source>Version %1 of the program.</source>
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>프로그램 버전 %1.</translation>
+    </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>정보</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>경고</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>데이터 손실</translation>
     </message>
 </context>
 </TS>

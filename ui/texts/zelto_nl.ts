@@ -1173,5 +1173,20 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Versie %1 van het programma.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Informatie</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Gegevensverlies</translation>
+    </message>
 </context>
 </TS>

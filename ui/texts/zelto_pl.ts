@@ -1173,5 +1173,20 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Wersja %1 programu.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Informacja</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Ostrzeżenie</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Utrata danych</translation>
+    </message>
 </context>
 </TS>

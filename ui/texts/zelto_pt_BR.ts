@@ -1173,5 +1173,20 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Versão %1 do programa.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Informação</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Aviso</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Perda de dados</translation>
+    </message>
 </context>
 </TS>

@@ -1173,5 +1173,20 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <extracomment>Below messages that support is asked about</extracomment>
         <translation>Program sürümü %1.</translation>
     </message>
+    <message id="IDS_ALERT_INFORMATION">
+        <source>Information</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Bilgi</translation>
+    </message>
+    <message id="IDS_ALERT_WARNING">
+        <source>Warning</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Uyarı</translation>
+    </message>
+    <message id="IDS_ALERT_CRITICAL">
+        <source>Loss of data</source>
+        <extracomment>Heard for the sign of an alert, before its text</extracomment>
+        <translation>Veri kaybı</translation>
+    </message>
 </context>
 </TS>
