@@ -19,10 +19,11 @@ public:
                                                    : QAccessibleWidget::interface_cast(type);
     }
 
-    QVariant currentValue() const override { return m_steps.currentStep(); }
+    // Counted as in its description, from 1.
+    QVariant currentValue() const override { return m_steps.currentStep() + 1; }
     void setCurrentValue(const QVariant& /*value*/) override {}
-    QVariant minimumValue() const override { return int{SetupStepsView::SettingsSent}; }
-    QVariant maximumValue() const override { return int{SetupStepsView::AllDone}; }
+    QVariant minimumValue() const override { return SetupStepsView::SettingsSent + 1; }
+    QVariant maximumValue() const override { return SetupStepsView::AllDone + 1; }
     QVariant minimumStepSize() const override { return 1; }
 
 private:

@@ -12,6 +12,11 @@ namespace zelto {
 
 MatchHint::MatchHint(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
+    // Empty, a reader would take the title around it for its name.
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+    hide();
 }
 
 // As large as its longest text, so that typing doesn't move the window.
@@ -44,6 +49,7 @@ void MatchHint::findFields() {
 
 void MatchHint::refresh() {
     setText(verdict());
+    setVisible(!text().isEmpty());
     if (m_second != nullptr) {
         describe(*m_second, *this, text());
     }

@@ -60,7 +60,7 @@ void SetupStepsView::describe() {
                                    StepCount, titleOf(m_current));
     if (told != accessibleDescription()) {
         setAccessibleDescription(told);
-        QAccessibleValueChangeEvent event(this, m_current);
+        QAccessibleValueChangeEvent event(this, m_current + 1);
         QAccessible::updateAccessibility(&event);
     }
     update();

@@ -20,6 +20,11 @@ static_assert(Words.size() == StrengthHint::Strongest);
 
 StrengthHint::StrengthHint(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
+    // Empty, a reader would take the title around it for its name.
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+    hide();
     makeRoomForBar();
 }
 
@@ -27,6 +32,7 @@ void StrengthHint::setStrength(int strength) {
     m_strength = std::clamp(strength, 0, Strongest);
     setText(m_strength == 0 ? QString()
                             : localized(Words.at(static_cast<std::size_t>(m_strength) - 1)));
+    setVisible(m_strength > 0);
     update();
 }
 

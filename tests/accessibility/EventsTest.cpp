@@ -77,7 +77,7 @@ TEST_F(SaidByItself, EachStepOfTheSetUpAndItsEnd) {
     fill({});
     commit();
     (void)frontWindow();
-    EXPECT_THAT(saidNow(), HasSubstr("Steps of the set-up, progress bar, 1 of 4, Step 2 of 5"));
+    EXPECT_THAT(saidNow(), HasSubstr("Steps of the set-up, progress bar, 2 of 5, Step 2 of 5"));
     tick(10);
     const std::string rest = saidNow();
     for (const char* step : {"Step 3 of 5", "Step 4 of 5"}) {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <algorithm>
 #include <iostream>
 
 namespace zelto::test {
@@ -48,9 +49,9 @@ protected:
         EXPECT_GE(focused, 1) << "what has no focus is not heard";
     }
 
-    [[nodiscard]] Heard find(const QString& name) {
+    [[nodiscard]] Heard find(const QString& name, const QString& role = {}) {
         for (const Heard& heard : read()) {
-            if (heard.name == name) {
+            if (heard.name == name && (role.isEmpty() || heard.role == role)) {
                 return heard;
             }
         }
@@ -131,13 +132,20 @@ TEST_F(EveryWindow, OfTheAreas) {
     begin();
     inDialog("AreaSettingsButton", "AreaSettingsWindow", [this] {
         hear("AreaSettingsWindow");
+        EXPECT_EQ(find(QStringLiteral("Disk1:"), QStringLiteral("text")).description, u"MB");
         EXPECT_EQ(find(control("LeftCapacityText")->accessibleName()).description,
                   text("LeftCapacityText"));
     });
 }
 
 TEST_F(EveryWindow, OfTheFirstPasswords) {
-    inPasswordDialog([this] { hear("PasswordSettingsWindow"); });
+    inPasswordDialog([this] {
+        hear("PasswordSettingsWindow");
+        const auto heard = read();
+        EXPECT_TRUE(std::ranges::none_of(heard, [](const Heard& one) {
+            return one.role == u"label" && one.name == localized("IDS_PASSWORDS_FIRST_GROUP");
+        })) << "a hint that says nothing";
+    });
 }
 
 TEST_F(EveryWindow, OfAChangeOfPasswords) {
@@ -161,7 +169,7 @@ TEST_F(EveryWindow, OfTheSetUp) {
     hear("ZeltoSettingWindow");
     const Heard steps = find(control("SetupStepsView")->accessibleName());
     EXPECT_EQ(steps.role, u"progress bar");
-    EXPECT_TRUE(steps.value.endsWith(QStringLiteral(" of 4"))) << steps.value.toStdString();
+    EXPECT_TRUE(steps.value.endsWith(QStringLiteral(" of 5"))) << steps.value.toStdString();
     EXPECT_TRUE(steps.isFocused);
 }
 
@@ -174,7 +182,16 @@ TEST_F(EveryWindow, OfAnAlert) {
         ASSERT_NE(alert, nullptr);
         ScreenReader::waitUntil(
             [] { return qobject_cast<QPushButton*>(QApplication::focusWidget()) != nullptr; });
-        hear(reader.read(alert->windowTitle()));
+        const auto heard = reader.read(alert->windowTitle());
+        hear(heard);
+        QStringList names;
+        for (const Heard& one : heard) {
+            names += one.name.isEmpty() ? QStringList() : QStringList(one.name);
+        }
+        // Weight, text, more to the text, and only then the buttons.
+        EXPECT_EQ(names.mid(1),
+                  QStringList({localized("IDS_ALERT_WARNING"), localized("IDS_ERR_UNMOUNT"),
+                               QStringLiteral("tail"), localized("OK")}));
         alert->close();
     });
     AlertPresenter presenter;

@@ -103,9 +103,9 @@ TEST(AccessibleViewsTest, TheStepsAreAProgressBarWithAValue) {
     EXPECT_EQ(heard(&steps).role(), QAccessible::ProgressBar);
     auto* const value = heard(&steps).valueInterface();
     ASSERT_NE(value, nullptr);
-    EXPECT_EQ(value->minimumValue().toInt(), 0);
-    EXPECT_EQ(value->currentValue().toInt(), 2);
-    EXPECT_EQ(value->maximumValue().toInt(), 4);
+    EXPECT_EQ(value->minimumValue().toInt(), 1);
+    EXPECT_EQ(value->currentValue().toInt(), 3);
+    EXPECT_EQ(value->maximumValue().toInt(), 5);
 }
 
 TEST(AccessibleViewsTest, RadioButtonsAreInAGroupWithAName) {
