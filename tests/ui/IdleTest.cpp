@@ -3,9 +3,11 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QEventLoop>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace zelto::test {
@@ -13,27 +15,27 @@ namespace {
 
 class Idle : public ::testing::TestWithParam<FormUnderTest> {};
 
-bool hasTimer(const QObject* object) {
-    auto* dispatcher = QAbstractEventDispatcher::instance();
-    return !dispatcher->registeredTimers(const_cast<QObject*>(object)).isEmpty();
+bool wakesTheProcessor(const QWidget& window) {
+    auto* const dispatcher = QAbstractEventDispatcher::instance();
+    const auto hasTimer = [dispatcher](const QObject* part) {
+        return !dispatcher->registeredTimers(const_cast<QObject*>(part)).isEmpty();
+    };
+    const auto parts = window.findChildren<QObject*>();
+    return hasTimer(&window) || std::ranges::any_of(parts, hasTimer);
 }
 
 // The clocks are brought up to date by the controller's tick, so a window that nobody touches
 // leaves the processor asleep. Whether a caret blinks is the desktop's to say.
-TEST_P(Idle, KeepsNoTimerRunning) {
+TEST_P(Idle, LetsTheProcessorSleep) {
     QApplication::setCursorFlashTime(0);
     const auto window = GetParam().create();
     fill(*window);
     window->show();
-    // What a view puts off until it is idle, it does in the next rounds.
-    for (int round = 0; round < 5; ++round) {
-        QApplication::processEvents();
-    }
-    const auto parts = window->findChildren<QObject*>();
-    EXPECT_FALSE(hasTimer(window.get()));
-    for (const auto* part : parts) {
-        EXPECT_FALSE(hasTimer(part))
-            << part->metaObject()->className() << ' ' << part->objectName().toStdString();
+    QApplication::processEvents();
+    // What a view puts off for a moment ends by itself; what repeats itself runs into the test's
+    // time limit.
+    while (wakesTheProcessor(*window)) {
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }
 
