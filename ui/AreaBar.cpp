@@ -61,8 +61,10 @@ QString kindWord(AreaBar::Kind kind) {
 QString spoken(const AreaBar::Segment& segment) {
     const QString size = shortSize(segment.mebibytes);
     const QString kind = kindWord(segment.kind);
-    return segment.name.isEmpty() ? localized("IDS_BAR_UNNAMED", kind, size)
-                                  : localized("IDS_BAR_NAMED", segment.name, kind, size);
+    // What is free is called so already.
+    return segment.name.isEmpty() || segment.kind == AreaBar::Kind::Free
+               ? localized("IDS_BAR_UNNAMED", kind, size)
+               : localized("IDS_BAR_NAMED", segment.name, kind, size);
 }
 
 QColor fillOf(AreaBar::Kind kind, const QPalette& palette) {
