@@ -1089,7 +1089,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>غُيّرت إعدادات القرص.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>مُسح كل ما على القرص. انزعه وصِله مجددًا، ثم شغّل هذا البرنامج لإعداده من جديد.</translation>
     </message>

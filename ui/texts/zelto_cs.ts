@@ -1089,7 +1089,7 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <translation>Nastavení jednotky bylo změněno.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Vše na jednotce bylo vymazáno. Odpojte ji a připojte, potom spusťte tento program, abyste ji znovu nastavili.</translation>
     </message>

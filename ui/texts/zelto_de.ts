@@ -1089,7 +1089,7 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <translation>Die Einstellungen des Laufwerks wurden geändert.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Alles auf dem Laufwerk wurde gelöscht. Ziehen Sie es ab, stecken Sie es wieder ein und starten Sie dann dieses Programm, um es neu einzurichten.</translation>
     </message>

@@ -1089,7 +1089,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <translation>Se han cambiado los ajustes de la unidad.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Se ha borrado todo en la unidad. Desconéctela y vuelva a conectarla; después, inicie este programa para configurarla de nuevo.</translation>
     </message>

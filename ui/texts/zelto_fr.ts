@@ -1089,7 +1089,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <translation>Les paramètres du disque ont été modifiés.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Tout le contenu du disque a été effacé. Débranchez-le et rebranchez-le, puis relancez ce programme pour le configurer à nouveau.</translation>
     </message>

@@ -1089,7 +1089,7 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <translation>Le impostazioni dell’unità sono state modificate.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Tutto ciò che era sull’unità è stato cancellato. Scollegarla e ricollegarla, quindi avviare questo programma per configurarla di nuovo.</translation>
     </message>

@@ -1089,7 +1089,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>드라이브 설정을 변경했습니다.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>드라이브의 내용을 모두 지웠습니다. 드라이브를 뺐다가 다시 연결하고 이 프로그램을 시작하여 다시 초기 설정하세요.</translation>
     </message>

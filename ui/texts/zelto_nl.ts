@@ -1089,7 +1089,7 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <translation>De instellingen van het station zijn gewijzigd.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Alles op het station is gewist. Koppel het los en weer aan en start dan dit programma om het opnieuw in te stellen.</translation>
     </message>

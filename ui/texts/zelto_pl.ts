@@ -1089,7 +1089,7 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <translation>Ustawienia napędu zostały zmienione.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Wszystko na napędzie zostało wyczyszczone. Odłącz go i podłącz, a potem uruchom ten program, aby skonfigurować go na nowo.</translation>
     </message>

@@ -1089,7 +1089,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <translation>As configurações da unidade foram alteradas.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Tudo na unidade foi limpo. Desconecte-a e reconecte-a; depois, inicie este programa para configurá-la de novo.</translation>
     </message>

@@ -1089,7 +1089,7 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <translation>Sürücünün ayarları değiştirildi.</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Sürücüdeki her şey temizlendi. Çıkarıp takın, sonra yeniden kurmak için bu programı başlatın.</translation>
     </message>

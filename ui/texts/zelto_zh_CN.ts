@@ -1089,7 +1089,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>驱动器的设置已更改。</translation>
     </message>
     <message id="IDS_NOTICE_CLEARED">
-        <source>Everything on the drive has been cleared. Plug it out and in, then start this program to set it up again.</source>
+        <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>驱动器上的所有内容已清除。请拔出并重新插入，然后启动此程序重新进行初始设置。</translation>
     </message>
