@@ -168,7 +168,9 @@ def started_twice_the_program_comes_forward_and_the_second_ends(ring):
     applications = f"{ring.desktop.home}/Applications"
     os.mkdir(applications)
     for path in (PROGRAM, shutil.copy(PROGRAM, applications)):
-        ring.start_as_user(["xterm", "-geometry", "200x70+0+0", "-T", "in front"])
+        # No shell: it would give the window another title.
+        ring.start_as_user(["xterm", "-geometry", "200x70+0+0", "-T", "in front",
+                            "-e", "tail", "-f", "/dev/null"])
         wait_for("a terminal covers it", lambda: ring.desktop.front_window() == "in front")
         second = ring.start_as_user([path])
         wait_for("the second has ended", lambda started=second: started.poll() is not None)
