@@ -23,7 +23,7 @@ Notifications::~Notifications() {
     if (m_notices.empty() || !m_bus().isConnected()) {
         return;
     }
-    if (qGuiApp != nullptr) {
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
         QGuiApplication::sync(); // The desktop knows then, too, that the windows are gone.
     }
     for (const Desktop::Notice& notice : m_notices) {
