@@ -84,6 +84,7 @@ std::map<QString, QString> usedTexts() {
             }
         }
     }
+    addTextsOfCode(Sources + QStringLiteral("/packaging/bundle/starter.in"), texts);
     return texts;
 }
 

@@ -1188,5 +1188,35 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <extracomment>Heard for the sign of an alert, before its text</extracomment>
         <translation>Ztráta dat</translation>
     </message>
+    <message id="IDS_STARTER_DAMAGED_VOLUME">
+        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <extracomment>The starter’s message; the program does not start</extracomment>
+        <translation>Program na tomto svazku je poškozený. Nainstalujte jej znovu, nebo jednotku znovu nastavte.</translation>
+    </message>
+    <message id="IDS_STARTER_DAMAGED_COPY">
+        <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
+        <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
+        <translation>Tato kopie programu je poškozená. Spusťte jej ještě jednou z jednotky, aby se nahradila.</translation>
+    </message>
+    <message id="IDS_STARTER_OTHER_MACHINE">
+        <source>This program is made for %1 computers; this one is %2.</source>
+        <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
+        <translation>Tento program je určen pro počítače %1; tento je %2.</translation>
+    </message>
+    <message id="IDS_STARTER_NOT_FOUND">
+        <source>%1 cannot be found.</source>
+        <extracomment>The starter’s message; %1 is the name of a file</extracomment>
+        <translation>Soubor %1 nelze najít.</translation>
+    </message>
+    <message id="IDS_STARTER_NO_ROOM">
+        <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
+        <extracomment>The starter’s message; /tmp is a folder</extracomment>
+        <translation>Program nelze rozbalit: není pro něj místo v domovské složce ani v /tmp.</translation>
+    </message>
+    <message id="IDS_STARTER_LACKS">
+        <source>This system lacks something that the program needs: %1</source>
+        <extracomment>The starter’s message; %1 is what the system says of it, in English</extracomment>
+        <translation>V tomto systému chybí něco, co program potřebuje: %1</translation>
+    </message>
 </context>
 </TS>

@@ -1188,5 +1188,35 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <extracomment>Heard for the sign of an alert, before its text</extracomment>
         <translation>Datenverlust</translation>
     </message>
+    <message id="IDS_STARTER_DAMAGED_VOLUME">
+        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <extracomment>The starter’s message; the program does not start</extracomment>
+        <translation>Das Programm auf diesem Datenträger ist beschädigt. Installieren Sie es neu oder richten Sie das Laufwerk neu ein.</translation>
+    </message>
+    <message id="IDS_STARTER_DAMAGED_COPY">
+        <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
+        <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
+        <translation>Diese Kopie des Programms ist beschädigt. Starten Sie es noch einmal vom Laufwerk, um sie zu ersetzen.</translation>
+    </message>
+    <message id="IDS_STARTER_OTHER_MACHINE">
+        <source>This program is made for %1 computers; this one is %2.</source>
+        <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
+        <translation>Dieses Programm ist für Computer der Art %1; dieser hier ist %2.</translation>
+    </message>
+    <message id="IDS_STARTER_NOT_FOUND">
+        <source>%1 cannot be found.</source>
+        <extracomment>The starter’s message; %1 is the name of a file</extracomment>
+        <translation>%1 wurde nicht gefunden.</translation>
+    </message>
+    <message id="IDS_STARTER_NO_ROOM">
+        <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
+        <extracomment>The starter’s message; /tmp is a folder</extracomment>
+        <translation>Das Programm kann nicht entpackt werden: Weder im persönlichen Ordner noch in /tmp ist Platz dafür.</translation>
+    </message>
+    <message id="IDS_STARTER_LACKS">
+        <source>This system lacks something that the program needs: %1</source>
+        <extracomment>The starter’s message; %1 is what the system says of it, in English</extracomment>
+        <translation>Diesem System fehlt etwas, das das Programm braucht: %1</translation>
+    </message>
 </context>
 </TS>

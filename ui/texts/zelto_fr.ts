@@ -1188,5 +1188,35 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <extracomment>Heard for the sign of an alert, before its text</extracomment>
         <translation>Perte de données</translation>
     </message>
+    <message id="IDS_STARTER_DAMAGED_VOLUME">
+        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <extracomment>The starter’s message; the program does not start</extracomment>
+        <translation>Le programme qui se trouve sur ce volume est endommagé. Installez-le de nouveau ou configurez de nouveau le disque.</translation>
+    </message>
+    <message id="IDS_STARTER_DAMAGED_COPY">
+        <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
+        <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
+        <translation>Cette copie du programme est endommagée. Relancez-le depuis le disque pour la remplacer.</translation>
+    </message>
+    <message id="IDS_STARTER_OTHER_MACHINE">
+        <source>This program is made for %1 computers; this one is %2.</source>
+        <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
+        <translation>Ce programme est fait pour les ordinateurs %1 ; celui-ci est de type %2.</translation>
+    </message>
+    <message id="IDS_STARTER_NOT_FOUND">
+        <source>%1 cannot be found.</source>
+        <extracomment>The starter’s message; %1 is the name of a file</extracomment>
+        <translation>%1 est introuvable.</translation>
+    </message>
+    <message id="IDS_STARTER_NO_ROOM">
+        <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
+        <extracomment>The starter’s message; /tmp is a folder</extracomment>
+        <translation>Le programme ne peut pas être décompressé : ni le dossier personnel ni /tmp n’ont assez de place.</translation>
+    </message>
+    <message id="IDS_STARTER_LACKS">
+        <source>This system lacks something that the program needs: %1</source>
+        <extracomment>The starter’s message; %1 is what the system says of it, in English</extracomment>
+        <translation>Il manque à ce système quelque chose dont le programme a besoin : %1</translation>
+    </message>
 </context>
 </TS>

@@ -1188,5 +1188,35 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <extracomment>Heard for the sign of an alert, before its text</extracomment>
         <translation>Perdita di dati</translation>
     </message>
+    <message id="IDS_STARTER_DAMAGED_VOLUME">
+        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <extracomment>The starter’s message; the program does not start</extracomment>
+        <translation>Il programma su questo volume è danneggiato. Installarlo di nuovo o configurare di nuovo l’unità.</translation>
+    </message>
+    <message id="IDS_STARTER_DAMAGED_COPY">
+        <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
+        <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
+        <translation>Questa copia del programma è danneggiata. Avviarlo ancora una volta dall’unità per sostituirla.</translation>
+    </message>
+    <message id="IDS_STARTER_OTHER_MACHINE">
+        <source>This program is made for %1 computers; this one is %2.</source>
+        <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
+        <translation>Questo programma è per computer %1; questo è %2.</translation>
+    </message>
+    <message id="IDS_STARTER_NOT_FOUND">
+        <source>%1 cannot be found.</source>
+        <extracomment>The starter’s message; %1 is the name of a file</extracomment>
+        <translation>Impossibile trovare %1.</translation>
+    </message>
+    <message id="IDS_STARTER_NO_ROOM">
+        <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
+        <extracomment>The starter’s message; /tmp is a folder</extracomment>
+        <translation>Impossibile estrarre il programma: non c’è spazio né nella cartella home né in /tmp.</translation>
+    </message>
+    <message id="IDS_STARTER_LACKS">
+        <source>This system lacks something that the program needs: %1</source>
+        <extracomment>The starter’s message; %1 is what the system says of it, in English</extracomment>
+        <translation>A questo sistema manca qualcosa di cui il programma ha bisogno: %1</translation>
+    </message>
 </context>
 </TS>

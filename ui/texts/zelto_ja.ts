@@ -1188,5 +1188,35 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>Heard for the sign of an alert, before its text</extracomment>
         <translation>データの損失</translation>
     </message>
+    <message id="IDS_STARTER_DAMAGED_VOLUME">
+        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <extracomment>The starter’s message; the program does not start</extracomment>
+        <translation>このボリュームのプログラムは壊れています。インストールし直すか、ドライブをもう一度セットアップしてください。</translation>
+    </message>
+    <message id="IDS_STARTER_DAMAGED_COPY">
+        <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
+        <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
+        <translation>このプログラムのコピーは壊れています。ドライブからもう一度起動すると置き換えられます。</translation>
+    </message>
+    <message id="IDS_STARTER_OTHER_MACHINE">
+        <source>This program is made for %1 computers; this one is %2.</source>
+        <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
+        <translation>このプログラムは %1 のコンピューター用です。このコンピューターは %2 です。</translation>
+    </message>
+    <message id="IDS_STARTER_NOT_FOUND">
+        <source>%1 cannot be found.</source>
+        <extracomment>The starter’s message; %1 is the name of a file</extracomment>
+        <translation>%1 が見つかりません。</translation>
+    </message>
+    <message id="IDS_STARTER_NO_ROOM">
+        <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
+        <extracomment>The starter’s message; /tmp is a folder</extracomment>
+        <translation>プログラムを展開できません。ホームフォルダーにも /tmp にも空きがありません。</translation>
+    </message>
+    <message id="IDS_STARTER_LACKS">
+        <source>This system lacks something that the program needs: %1</source>
+        <extracomment>The starter’s message; %1 is what the system says of it, in English</extracomment>
+        <translation>プログラムに必要なものがこのシステムにありません: %1</translation>
+    </message>
 </context>
 </TS>

@@ -1188,5 +1188,35 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>Heard for the sign of an alert, before its text</extracomment>
         <translation>데이터 손실</translation>
     </message>
+    <message id="IDS_STARTER_DAMAGED_VOLUME">
+        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <extracomment>The starter’s message; the program does not start</extracomment>
+        <translation>이 볼륨의 프로그램이 손상되었습니다. 다시 설치하거나 드라이브를 다시 초기 설정하세요.</translation>
+    </message>
+    <message id="IDS_STARTER_DAMAGED_COPY">
+        <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
+        <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
+        <translation>이 프로그램 사본이 손상되었습니다. 드라이브에서 다시 시작하면 새 사본으로 바뀝니다.</translation>
+    </message>
+    <message id="IDS_STARTER_OTHER_MACHINE">
+        <source>This program is made for %1 computers; this one is %2.</source>
+        <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
+        <translation>이 프로그램은 %1 컴퓨터용입니다. 이 컴퓨터는 %2입니다.</translation>
+    </message>
+    <message id="IDS_STARTER_NOT_FOUND">
+        <source>%1 cannot be found.</source>
+        <extracomment>The starter’s message; %1 is the name of a file</extracomment>
+        <translation>%1을(를) 찾을 수 없습니다.</translation>
+    </message>
+    <message id="IDS_STARTER_NO_ROOM">
+        <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
+        <extracomment>The starter’s message; /tmp is a folder</extracomment>
+        <translation>프로그램의 압축을 풀 수 없습니다. 홈 폴더와 /tmp에 공간이 없습니다.</translation>
+    </message>
+    <message id="IDS_STARTER_LACKS">
+        <source>This system lacks something that the program needs: %1</source>
+        <extracomment>The starter’s message; %1 is what the system says of it, in English</extracomment>
+        <translation>프로그램에 필요한 것이 이 시스템에 없습니다: %1</translation>
+    </message>
 </context>
 </TS>

@@ -1188,5 +1188,35 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <extracomment>Heard for the sign of an alert, before its text</extracomment>
         <translation>Gegevensverlies</translation>
     </message>
+    <message id="IDS_STARTER_DAMAGED_VOLUME">
+        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <extracomment>The starter’s message; the program does not start</extracomment>
+        <translation>Het programma op dit volume is beschadigd. Installeer het opnieuw of stel het station opnieuw in.</translation>
+    </message>
+    <message id="IDS_STARTER_DAMAGED_COPY">
+        <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
+        <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
+        <translation>Deze kopie van het programma is beschadigd. Start het nog eens vanaf het station om haar te vervangen.</translation>
+    </message>
+    <message id="IDS_STARTER_OTHER_MACHINE">
+        <source>This program is made for %1 computers; this one is %2.</source>
+        <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
+        <translation>Dit programma is gemaakt voor computers van het type %1; deze is %2.</translation>
+    </message>
+    <message id="IDS_STARTER_NOT_FOUND">
+        <source>%1 cannot be found.</source>
+        <extracomment>The starter’s message; %1 is the name of a file</extracomment>
+        <translation>%1 is niet gevonden.</translation>
+    </message>
+    <message id="IDS_STARTER_NO_ROOM">
+        <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
+        <extracomment>The starter’s message; /tmp is a folder</extracomment>
+        <translation>Het programma kan niet worden uitgepakt: in de persoonlijke map en in /tmp is er geen ruimte voor.</translation>
+    </message>
+    <message id="IDS_STARTER_LACKS">
+        <source>This system lacks something that the program needs: %1</source>
+        <extracomment>The starter’s message; %1 is what the system says of it, in English</extracomment>
+        <translation>Op dit systeem ontbreekt iets wat het programma nodig heeft: %1</translation>
+    </message>
 </context>
 </TS>
