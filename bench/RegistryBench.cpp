@@ -24,9 +24,9 @@ void addUsbDevices(const SysfsTree& tree, unsigned count) {
         const auto bus = index / DevicesOfBus + 1;
         const auto number = index % DevicesOfBus + 1;
         const auto name = std::to_string(bus) + "-1." + std::to_string(number);
-        const auto place = "pci0000:00/0000:00:14.0/usb" + std::to_string(bus) + "/" + name;
+        auto place = "pci0000:00/0000:00:14.0/usb" + std::to_string(bus) + "/" + name;
         tree.addUsbDevice(place, bus, number, "046d", "c31c", "");
-        tree.addDevice(place + "/" + name + ":1.0", "usb");
+        tree.addDevice(place.append("/").append(name).append(":1.0"), "usb");
     }
 }
 
