@@ -1196,12 +1196,12 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
         <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
-        <translation>Tato kopie programu je poškozená. Spusťte jej ještě jednou z jednotky, aby se nahradila.</translation>
+        <translation>Tato kopie programu je poškozená. Spusťte program ještě jednou z jednotky, tím se tato kopie nahradí.</translation>
     </message>
     <message id="IDS_STARTER_OTHER_MACHINE">
         <source>This program is made for %1 computers; this one is %2.</source>
         <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
-        <translation>Tento program je určen pro počítače %1; tento je %2.</translation>
+        <translation>Tento program je určen pro počítače %1; tento počítač je %2.</translation>
     </message>
     <message id="IDS_STARTER_NOT_FOUND">
         <source>%1 cannot be found.</source>

@@ -115,7 +115,7 @@ Para soporte técnico: clave de detección %1, código %2, calificador %3.</tran
     </message>
     <message id="IDS_ERR_FORMAT">
         <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
-        <translation>La unidad está configurada y se puede usar. Solo no se ha podido formatear su área de herramientas, así que la unidad no lleva este programa: úsela con el programa de este equipo.</translation>
+        <translation>La unidad está configurada y se puede usar. Solo no se ha podido formatear su área de herramientas, así que la unidad no lleva este programa: use la unidad con el programa de este equipo.</translation>
     </message>
     <message id="IDS_ERR_FILE_COPY">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
@@ -123,7 +123,7 @@ Para soporte técnico: clave de detección %1, código %2, calificador %3.</tran
 From: %1
 To: %2</source>
         <extracomment>%1 and %2 are names of files</extracomment>
-        <translation>La unidad está configurada y se puede usar. Solo no se ha podido copiar este programa a su área de herramientas: úsela con el programa de este equipo.
+        <translation>La unidad está configurada y se puede usar. Solo no se ha podido copiar este programa a su área de herramientas: use la unidad con el programa de este equipo.
 
 Desde: %1
 A: %2</translation>
@@ -1096,7 +1096,7 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>La unidad está configurada y se puede usar. Solo no se ha podido copiar este programa a su área de herramientas: úsela con el programa de este equipo.</translation>
+        <translation>La unidad está configurada y se puede usar. Solo no se ha podido copiar este programa a su área de herramientas: use la unidad con el programa de este equipo.</translation>
     </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
@@ -1196,12 +1196,12 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
         <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
-        <translation>Esta copia del programa está dañada. Inícielo otra vez desde la unidad para sustituirla.</translation>
+        <translation>Esta copia del programa está dañada. Inícielo otra vez desde la unidad para sustituir la copia.</translation>
     </message>
     <message id="IDS_STARTER_OTHER_MACHINE">
         <source>This program is made for %1 computers; this one is %2.</source>
         <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
-        <translation>Este programa es para equipos %1; este es %2.</translation>
+        <translation>Este programa es para equipos %1; este equipo es %2.</translation>
     </message>
     <message id="IDS_STARTER_NOT_FOUND">
         <source>%1 cannot be found.</source>

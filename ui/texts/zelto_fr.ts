@@ -1201,7 +1201,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_STARTER_OTHER_MACHINE">
         <source>This program is made for %1 computers; this one is %2.</source>
         <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
-        <translation>Ce programme est fait pour les ordinateurs %1 ; celui-ci est de type %2.</translation>
+        <translation>Ce programme est fait pour les ordinateurs %1 ; cet ordinateur est de type %2.</translation>
     </message>
     <message id="IDS_STARTER_NOT_FOUND">
         <source>%1 cannot be found.</source>
@@ -1211,12 +1211,12 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     <message id="IDS_STARTER_NO_ROOM">
         <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
         <extracomment>The starter’s message; /tmp is a folder</extracomment>
-        <translation>Le programme ne peut pas être décompressé : ni le dossier personnel ni /tmp n’ont assez de place.</translation>
+        <translation>Le programme ne peut pas être décompressé : ni le dossier personnel ni /tmp n’ont assez de place.</translation>
     </message>
     <message id="IDS_STARTER_LACKS">
         <source>This system lacks something that the program needs: %1</source>
         <extracomment>The starter’s message; %1 is what the system says of it, in English</extracomment>
-        <translation>Il manque à ce système quelque chose dont le programme a besoin : %1</translation>
+        <translation>Il manque à ce système quelque chose dont le programme a besoin : %1</translation>
     </message>
 </context>
 </TS>

@@ -115,7 +115,7 @@ Per l’assistenza: chiave di rilevamento %1, codice %2, qualificatore %3.</tran
     </message>
     <message id="IDS_ERR_FORMAT">
         <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
-        <translation>L’unità è configurata e può essere usata. Solo la sua area strumenti non è stata formattata, quindi l’unità non contiene questo programma: usarla con il programma di questo computer.</translation>
+        <translation>L’unità è configurata e può essere usata. Solo la sua area strumenti non è stata formattata, quindi l’unità non contiene questo programma: usare l’unità con il programma di questo computer.</translation>
     </message>
     <message id="IDS_ERR_FILE_COPY">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
@@ -123,7 +123,7 @@ Per l’assistenza: chiave di rilevamento %1, codice %2, qualificatore %3.</tran
 From: %1
 To: %2</source>
         <extracomment>%1 and %2 are names of files</extracomment>
-        <translation>L’unità è configurata e può essere usata. Solo questo programma non è stato copiato nella sua area strumenti: usarla con il programma di questo computer.
+        <translation>L’unità è configurata e può essere usata. Solo questo programma non è stato copiato nella sua area strumenti: usare l’unità con il programma di questo computer.
 
 Da: %1
 A: %2</translation>
@@ -1096,7 +1096,7 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>L’unità è configurata e può essere usata. Solo questo programma non è stato copiato nella sua area strumenti: usarla con il programma di questo computer.</translation>
+        <translation>L’unità è configurata e può essere usata. Solo questo programma non è stato copiato nella sua area strumenti: usare l’unità con il programma di questo computer.</translation>
     </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
@@ -1196,12 +1196,12 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
         <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
-        <translation>Questa copia del programma è danneggiata. Avviarlo ancora una volta dall’unità per sostituirla.</translation>
+        <translation>Questa copia del programma è danneggiata. Avviarlo ancora una volta dall’unità per sostituire la copia.</translation>
     </message>
     <message id="IDS_STARTER_OTHER_MACHINE">
         <source>This program is made for %1 computers; this one is %2.</source>
         <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
-        <translation>Questo programma è per computer %1; questo è %2.</translation>
+        <translation>Questo programma è per computer %1; questo computer è %2.</translation>
     </message>
     <message id="IDS_STARTER_NOT_FOUND">
         <source>%1 cannot be found.</source>

@@ -1201,7 +1201,7 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
     <message id="IDS_STARTER_OTHER_MACHINE">
         <source>This program is made for %1 computers; this one is %2.</source>
         <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
-        <translation>Ten program jest przeznaczony dla komputerów %1; ten jest typu %2.</translation>
+        <translation>Ten program jest przeznaczony dla komputerów %1; ten komputer jest typu %2.</translation>
     </message>
     <message id="IDS_STARTER_NOT_FOUND">
         <source>%1 cannot be found.</source>

@@ -1196,12 +1196,12 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
         <extracomment>The starter’s message about a copy of the program on the computer</extracomment>
-        <translation>Esta cópia do programa está danificada. Inicie-o mais uma vez a partir da unidade para substituí-la.</translation>
+        <translation>Esta cópia do programa está danificada. Inicie-o mais uma vez a partir da unidade para substituir a cópia.</translation>
     </message>
     <message id="IDS_STARTER_OTHER_MACHINE">
         <source>This program is made for %1 computers; this one is %2.</source>
         <extracomment>The starter’s message; %1 and %2 are kinds of processors, x86_64 say</extracomment>
-        <translation>Este programa é para computadores %1; este é %2.</translation>
+        <translation>Este programa é para computadores %1; este computador é %2.</translation>
     </message>
     <message id="IDS_STARTER_NOT_FOUND">
         <source>%1 cannot be found.</source>

@@ -1211,7 +1211,7 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
     <message id="IDS_STARTER_NO_ROOM">
         <source>The program cannot be unpacked: neither the home folder nor /tmp has room for it.</source>
         <extracomment>The starter’s message; /tmp is a folder</extracomment>
-        <translation>Program açılamıyor: ne ev klasöründe ne de /tmp içinde yer var.</translation>
+        <translation>Programın paketi açılamıyor: ne ev klasöründe ne de /tmp içinde yer var.</translation>
     </message>
     <message id="IDS_STARTER_LACKS">
         <source>This system lacks something that the program needs: %1</source>
