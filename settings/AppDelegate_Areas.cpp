@@ -55,8 +55,9 @@ QString AppDelegate::tableViewObjectValue(const QString& column, int row) const 
 }
 
 void AppDelegate::reloadAreaTable(const AreaView& view) {
-    m_areaTable->reloadData();
+    // First, as the table's model comes with the window.
     MainSettingsWindow->AreaBarView->setSegments(barOfView(view, !Settings.InitialSetting));
+    m_areaTable->reloadData();
 }
 
 void AppDelegate::MainSettingsAreaSettingsAction() {

@@ -20,6 +20,7 @@ constexpr std::array Sizes{16, 24, 32, 48, 64, 128, 256, 512};
 
 /// To find out what a file holds, the toolkit would load all the formats that it can read.
 QPixmap iconFile(int size) {
+    initResources();
     QImageReader reader(QStringLiteral(":/zelto/icons/zelto-%1.png").arg(size), "png");
     reader.setAutoDetectImageFormat(false);
     return QPixmap::fromImageReader(&reader);
@@ -29,7 +30,6 @@ QPixmap iconFile(int size) {
 /// desktop takes the icon that is installed.
 QIcon iconForFrames() {
     constexpr int Largest = 128;
-    initResources();
     QIcon icon;
     for (const int size : Sizes) {
         if (size <= Largest) {
@@ -72,7 +72,6 @@ void ProductIcon::changeEvent(QEvent* event) {
 }
 
 void ProductIcon::render() {
-    initResources();
     const int side = fontMetrics().height() * 3;
     QPixmap icon = iconOfSide(qRound(side * devicePixelRatioF()));
     icon.setDevicePixelRatio(devicePixelRatioF());

@@ -12,7 +12,7 @@ class ProductIcon : public QLabel {
 public:
     explicit ProductIcon(QWidget* parent = nullptr);
 
-    /// The icon in all its sizes, for the windows' frames and the task bar.
+    /// The icon in the sizes of the windows' frames and the task bar, 16 to 128 pixels.
     [[nodiscard]] static QIcon icon();
 
 protected:
