@@ -13,17 +13,6 @@ QBoxLayout::Direction turned(QBoxLayout::Direction direction) {
     return direction == QBoxLayout::TopToBottom ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
 }
 
-/// While a window is hidden no layout tells the one around it what has changed in it.
-void layOutAnew(QWidget& widget) {
-    for (QWidget* child : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        layOutAnew(*child);
-    }
-    if (QLayout* const layout = widget.layout()) {
-        layout->invalidate();
-        layout->activate();
-    }
-}
-
 void moveFirst(QBoxLayout& from, QBoxLayout& to) {
     QLayoutItem* const item = from.takeAt(0);
     if (QLayout* const layout = item->layout()) {
@@ -82,9 +71,9 @@ void FittingArea::setRoom(const QSize& room) {
 }
 
 void FittingArea::foldInto(const QSize& room) {
-    layOutAnew(*widget());
+    m_room = room;
+    // Also where the room is as before: the contents may have changed.
     updateGeometry();
-    setRoom(room);
     if (m_columns == nullptr) {
         return;
     }

@@ -26,6 +26,14 @@ bool takesInput(const QWidget& widget) {
     return isField && widget.isEnabled() && widget.focusPolicy() != Qt::NoFocus;
 }
 
+/// While a window is hidden no layout tells the one around it what has changed in it.
+void forgetSizes(QWidget& window) {
+    for (QLayout* const layout : window.findChildren<QLayout*>()) {
+        layout->invalidate();
+        layout->parentWidget()->updateGeometry();
+    }
+}
+
 } // namespace
 
 Window::Window() {
@@ -106,9 +114,8 @@ QSize Window::roomOnScreen() const {
 void Window::resizeToFit(const QSize& available) {
     m_available = available;
     ensurePolished();
-    layout()->activate();
+    forgetSizes(*this);
     m_contents->foldInto(roomForContents(available.width()));
-    layout()->activate();
     m_contents->setRoom(
         roomForContents(std::min(layout()->totalSizeHint().width(), available.width())));
     layout()->activate();
@@ -118,10 +125,12 @@ void Window::resizeToFit(const QSize& available) {
 /// What the buttons and the margins of a window so wide leave.
 QSize Window::roomForContents(int width) const {
     const QMargins margins = layout()->contentsMargins();
-    const int inner = margins.left() + margins.right();
-    const int others =
-        layout()->totalHeightForWidth(width) - m_contents->heightForWidth(width - inner);
-    return {m_available.width() - inner, m_available.height() - others};
+    const int sides = margins.left() + margins.right();
+    const QLayoutItem& buttons = *layout()->itemAt(layout()->count() - 1);
+    const int height = buttons.hasHeightForWidth() ? buttons.heightForWidth(width - sides)
+                                                   : buttons.sizeHint().height();
+    const int others = margins.top() + layout()->spacing() + height + margins.bottom();
+    return {m_available.width() - sides, m_available.height() - others};
 }
 
 // A text that appears in an open window may wrap into lines that a layout doesn't make room for.

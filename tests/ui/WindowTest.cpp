@@ -1,3 +1,4 @@
+#include "ui/ClippedTexts.h"
 #include "ui/FittingArea.h"
 #include "ui/Forms.h"
 
@@ -163,6 +164,17 @@ TEST_F(ModalRun, KeepsWhatWasTypedForTheNextRun) {
               }),
               Window::ModalCancel);
     EXPECT_EQ(dialog.PS_1stPasswordText->secret(), QStringLiteral("abc"));
+}
+
+TEST(WindowTest, FitsWhatHasChangedWhileItWasOffTheScreen) {
+    Form<Ui::SelectZeltoWindow> form;
+    form.centreAndMakeKeyAndOrderFront();
+    const int before = form.height();
+    form.orderOut();
+    form.SelectZeltoPluggedIn->setText(QStringLiteral("more words ").repeated(40));
+    form.centreAndMakeKeyAndOrderFront();
+    EXPECT_GT(form.height(), before);
+    EXPECT_EQ(clippedTexts(form), QStringList());
 }
 
 TEST(WindowTest, GrowsWhenAHintAppearsInIt) {
