@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <memory>
 #include <ranges>
@@ -16,6 +17,8 @@ inline void zeroMemory(void* memory, std::size_t size) noexcept {
         bytes[index] = 0;
     }
 }
+
+inline std::atomic<bool> heapIsWiped{false};
 } // namespace detail
 
 /// A contiguous range whose elements can be overwritten byte by byte.
@@ -60,5 +63,14 @@ struct Wiped {
     [[nodiscard]] Record* operator->() { return std::addressof(value); }
     [[nodiscard]] const Record* operator->() const { return std::addressof(value); }
 };
+
+/// From here on the program's heap (platform/linux/WipedHeap.cpp) overwrites whatever is given back
+/// to it. To be called before anything that might be secret can come in.
+inline void startWipingHeap() noexcept {
+    detail::heapIsWiped.store(true, std::memory_order_relaxed);
+}
+[[nodiscard]] inline bool wipesHeap() noexcept {
+    return detail::heapIsWiped.load(std::memory_order_relaxed);
+}
 
 } // namespace zelto

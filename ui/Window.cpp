@@ -1,5 +1,6 @@
 #include "ui/Window.h"
 
+#include "digest/Wipe.h"
 #include "ui/FittingArea.h"
 // Included for its own sake: a form that does not compile fails here and not in the controller.
 #include "ui/Forms.h"
@@ -58,6 +59,8 @@ void Window::centreAndMakeKeyAndOrderFront() {
     show();
     raise();
     activateWindow();
+    // Before the run loop hands on what is typed and pasted into the window.
+    startWipingHeap();
 }
 
 void Window::orderOut() {

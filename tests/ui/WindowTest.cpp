@@ -1,3 +1,4 @@
+#include "digest/Wipe.h"
 #include "ui/ClippedTexts.h"
 #include "ui/FittingArea.h"
 #include "ui/Forms.h"
@@ -20,6 +21,12 @@ TEST(WindowTest, ComesUpCentredOnItsScreenAndInFront) {
     EXPECT_TRUE(form.isVisible());
     const QPoint offset = form.geometry().center() - form.screen()->availableGeometry().center();
     EXPECT_LE(offset.manhattanLength(), 4);
+}
+
+TEST(WindowTest, OnTheScreenHasWhatIsFreedOverwritten) {
+    Form<Ui::SelectZeltoWindow> form;
+    form.centreAndMakeKeyAndOrderFront();
+    EXPECT_TRUE(wipesHeap());
 }
 
 TEST(WindowTest, KeepsItsTitleBarOnASmallScreen) {
