@@ -29,10 +29,9 @@ const char Landmark = 0;
 /// started through it, as is done on volumes mounted without execute permission.
 fs::path findProgram(const fs::path& proc) {
     const auto address = reinterpret_cast<std::uintptr_t>(&Landmark);
-    for (const auto& mapping : parseFileMappings(readTextFile(proc / "self/maps").value_or(""))) {
-        if (mapping.begin <= address && address < mapping.end) {
-            return withoutDeletedRemark(mapping.path);
-        }
+    const auto maps = readTextFile(proc / "self/maps").value_or("");
+    if (auto file = fileMappedAt(address, maps)) {
+        return withoutDeletedRemark(std::move(*file));
     }
     return Process(proc / "self").executable().value_or("");
 }

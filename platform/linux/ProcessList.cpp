@@ -66,6 +66,17 @@ std::optional<FileMapping> parseMapping(std::string_view line) {
     return mapping;
 }
 
+/// Off the text goes all up to the mapping's line's end.
+std::optional<FileMapping> takeMapping(std::string_view& text) {
+    std::optional<FileMapping> mapping;
+    while (!mapping && !text.empty()) {
+        const auto line = text.substr(0, text.find('\n'));
+        mapping = parseMapping(line);
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+    }
+    return mapping;
+}
+
 /// A line reads: "Uid:", a tab, the real user, and others after further tabs.
 std::optional<uid_t> userOfStatus(const std::string& status) {
     constexpr std::string_view Label = "\nUid:\t";
@@ -91,14 +102,19 @@ std::string withoutDeletedRemark(std::string path) {
 
 std::vector<FileMapping> parseFileMappings(std::string_view text) {
     std::vector<FileMapping> mappings;
-    while (!text.empty()) {
-        const auto line = text.substr(0, text.find('\n'));
-        if (auto mapping = parseMapping(line)) {
-            mappings.push_back(std::move(*mapping));
-        }
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
+    while (auto mapping = takeMapping(text)) {
+        mappings.push_back(std::move(*mapping));
     }
     return mappings;
+}
+
+std::optional<std::string> fileMappedAt(std::uintptr_t address, std::string_view text) {
+    while (auto mapping = takeMapping(text)) {
+        if (mapping->begin <= address && address < mapping->end) {
+            return std::move(mapping->path);
+        }
+    }
+    return std::nullopt;
 }
 
 bool Process::belongsTo(uid_t user) const {

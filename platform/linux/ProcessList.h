@@ -45,6 +45,10 @@ struct FileMapping {
 /// passed over.
 [[nodiscard]] std::vector<FileMapping> parseFileMappings(std::string_view text);
 
+/// The path of the file that is mapped to the address, in such a text.
+[[nodiscard]] std::optional<std::string> fileMappedAt(std::uintptr_t address,
+                                                      std::string_view text);
+
 /// The path without the remark that the kernel adds for a file that has been deleted.
 [[nodiscard]] std::string withoutDeletedRemark(std::string path);
 

@@ -103,6 +103,17 @@ TEST(FileMappings, HaveAddressesAndPathsWithBlanks) {
     EXPECT_EQ(withoutDeletedRemark(mappings[0].path), "/a b/c");
 }
 
+TEST(FileMappings, TellWhatIsMappedToAnAddress) {
+    const std::string text = "55d0-55e0 r-xp 00000000 08:01 123    /a\n"
+                             "55e0-55f0 rw-p 00000000 08:01 124    /b\n"
+                             "7f20-7f30 rw-p 00000000 00:00 0    [heap]\n";
+    EXPECT_EQ(fileMappedAt(0x55cf, text), std::nullopt);
+    EXPECT_EQ(fileMappedAt(0x55d0, text), "/a");
+    EXPECT_EQ(fileMappedAt(0x55df, text), "/a");
+    EXPECT_EQ(fileMappedAt(0x55e0, text), "/b");
+    EXPECT_EQ(fileMappedAt(0x7f20, text), std::nullopt);
+}
+
 TEST(Processes, AreListedByNumberThisOneAmongThem) {
     const Process self("/proc/" + std::to_string(::getpid()));
     EXPECT_TRUE(self.belongsTo(::getuid()));
