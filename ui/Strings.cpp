@@ -29,19 +29,10 @@ bool installTexts(const QString& language) {
     return install(QStringLiteral("zelto_") + language, QStringLiteral(":/zelto/strings"));
 }
 
-} // namespace
-
-bool installStrings() {
-    return installStrings(languageFor(desktopLanguages(), textLanguages()));
-}
-
-bool installStrings(const QString& language) {
+bool use(const QString& language) {
     QCoreApplication& application = *QCoreApplication::instance();
     if (application.property(Language).toString() == language) {
         return true;
-    }
-    if (!textLanguages().contains(language)) {
-        return false;
     }
     qDeleteAll(application.findChildren<QTranslator*>(TranslatorName));
     // What the toolkit says by itself, in the menu of a field for example, where the system has it.
@@ -53,6 +44,16 @@ bool installStrings(const QString& language) {
     QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
     application.setProperty(Language, language);
     return true;
+}
+
+} // namespace
+
+bool installStrings() {
+    return use(languageFor(desktopLanguages(), textLanguages()));
+}
+
+bool installStrings(const QString& language) {
+    return textLanguages().contains(language) && use(language);
 }
 
 QString localized(const char* key) {
