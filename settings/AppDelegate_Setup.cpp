@@ -54,7 +54,8 @@ bool AppDelegate::sendEncryptionInfo() {
     // The drive makes the key, or it is made here, in its place: a copy would stay behind.
     const Wiped<EncryptionInfo> info{
         {.automaticKey = isAutomatic,
-         .key = keyOfDigits(isAutomatic ? QStringView() : Settings.StrEncryptionKey.view())}};
+         .key =
+             keyOfDigits(isAutomatic ? std::u16string_view() : Settings.StrEncryptionKey.view())}};
     return !reportIfFailed(writeEncryptionInfo(Device(), *info));
 }
 

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QTimeZone>
 
 #include <utility>
 
@@ -136,9 +137,8 @@ QString DemoWorld::describe() {
     text +=
         QStringLiteral("\nVolumes: %1")
             .arg(volumes.isEmpty() ? QStringLiteral("none") : volumes.join(QStringLiteral(", ")));
-    const QDateTime moment =
-        QDateTime::fromSecsSinceEpoch(now.time_since_epoch().count(), Qt::OffsetFromUTC,
-                                      static_cast<int>(m_computer.clock.utcOffset(now).count()));
+    const QTimeZone zone(static_cast<int>(m_computer.clock.utcOffset(now).count()));
+    const auto moment = QDateTime::fromSecsSinceEpoch(now.time_since_epoch().count(), zone);
     return text +
            QStringLiteral("\nTime: %1").arg(moment.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")));
 }
