@@ -239,9 +239,14 @@ void typeText(QWidget& field, const QString& text) {
 }
 
 /// One character more, so that no request ever holds the whole of a secret.
-void typeLetter(QWidget& field, QChar letter) {
-    field.window()->activateWindow();
-    field.setFocus(Qt::TabFocusReason);
+/// Not done until the display has given the window the keyboard.
+QJsonObject answerFocus(QWidget& widget) {
+    widget.window()->activateWindow();
+    widget.setFocus(Qt::TabFocusReason);
+    return widget.hasFocus() ? QJsonObject() : error(QStringLiteral("it has no focus yet"));
+}
+
+void typeLetter(const QWidget& field, QChar letter) {
     press(field.window()->windowHandle(), letter.toUpper().unicode(),
           letter.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, letter);
 }
@@ -334,6 +339,9 @@ QJsonObject answerForWidget(const QString& verb, QWidget& widget, const QJsonObj
     if (verb == QLatin1String("type")) {
         typeText(widget, request.value(QLatin1String("text")).toString());
         return {};
+    }
+    if (verb == QLatin1String("focus")) {
+        return answerFocus(widget);
     }
     if (verb == QLatin1String("letter")) {
         const QString text = request.value(QLatin1String("text")).toString();

@@ -18,7 +18,14 @@ SCREEN = "1280x960x24"
 
 class Desktop:
     """The session's leader is the X server, as behind a display manager; what is started here
-    becomes part of the session, so that logind, polkit and udev treat it as the user's."""
+    becomes part of the session, so that logind, polkit and udev treat it as the user's. Nothing else
+    runs in it."""
+
+    leader = ["Xvfb", DISPLAY, "-screen", "0", SCREEN, "-nolisten", "tcp"]
+    # What a program has to know of the screen, and of what kind it is.
+    display = {"DISPLAY": DISPLAY, "XDG_SESSION_TYPE": "x11"}
+    shows_notices = False
+    screen_socket = "/tmp/.X11-unix/X" + DISPLAY.lstrip(":")
 
     def __init__(self):
         account = pwd.getpwnam(USER)
@@ -29,24 +36,27 @@ class Desktop:
         self._stop_mounting = None
 
     def log_in(self):
+        variables = {"XDG_SEAT": "seat0", "XDG_VTNR": "1", **self.leader_variables()}
         subprocess.run(
             ["systemd-run", "--quiet", "--collect", "--unit=session", f"--uid={USER}",
              "-p", "PAMName=login", "-p", "TTYPath=/dev/tty1", "-p", "StandardInput=tty-force",
              "-p", "StandardOutput=null", "-p", "StandardError=null",
-             "--setenv=XDG_SEAT=seat0", "--setenv=XDG_VTNR=1", "--setenv=XDG_SESSION_TYPE=x11",
-             "Xvfb", DISPLAY, "-screen", "0", SCREEN, "-nolisten", "tcp"],
+             *(f"--setenv={name}={value}" for name, value in variables.items()), *self.leader],
             check=True)
         session = wait_for("the user has a session", self._session)
         wait_for("the session is active", lambda: self._property(session, "Active") == "yes")
-        wait_for("the X server is up",
-                 lambda: os.path.exists("/tmp/.X11-unix/X" + DISPLAY.lstrip(":")))
+        wait_for("its screen is there", lambda: os.path.exists(self.screen_socket))
         self._scope = self._property(session, "Scope")
+
+    def leader_variables(self):
+        return {"XDG_SESSION_TYPE": self.display["XDG_SESSION_TYPE"]}
 
     @staticmethod
     def _session():
         listed = subprocess.run(["loginctl", "list-sessions", "--no-legend"],
                                 capture_output=True, text=True, check=True).stdout.split("\n")
-        return next((line.split()[0] for line in listed if f" {USER} " in line + " "), None)
+        # Not the one of the user's service manager.
+        return next((line.split()[0] for line in listed if f" {USER} seat0 " in line), None)
 
     @staticmethod
     def _property(session, name):
@@ -58,10 +68,10 @@ class Desktop:
         variables = {
             "HOME": self.home, "USER": USER, "LOGNAME": USER, "SHELL": "/bin/bash",
             "PATH": "/usr/local/bin:/usr/bin:/bin", "LANG": "C.UTF-8",
-            "DISPLAY": DISPLAY, "XDG_RUNTIME_DIR": self.runtime, "XDG_SESSION_TYPE": "x11",
+            "XDG_RUNTIME_DIR": self.runtime,
             "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.runtime}/bus",
+            **self.display, **(environment or {}),
         }
-        variables.update(environment or {})
         return subprocess.Popen(arguments, env=variables, cwd=options.pop("cwd", self.home),
                                 preexec_fn=self._become_user, stdin=subprocess.DEVNULL, **options)
 
@@ -86,6 +96,11 @@ class Desktop:
         _, tree = self.run(["xwininfo", "-root", "-tree"])
         titles = re.findall(r'^ +0x[0-9a-f]+ "(.*)": \(.*\)  [0-9]{3}', tree, flags=re.MULTILINE)
         return titles[0] if titles else ""
+
+    @staticmethod
+    def take_picture(program, file):
+        """Of the whole screen; whether there is one now."""
+        return "error" not in program.ask("picture", file=file)
 
     @staticmethod
     def inhibitors(program):

@@ -141,10 +141,10 @@ class DriveShelf:
         return drive
 
     def set_up_drive(self, log, serial=SERIAL, two_passwords=False, clock_set=True,
-                     erase_period=0, idle_period=0):
-        """Locked, with a normal and a secure volume. Periods are in seconds; a second password may
-        be tried twice."""
-        key = (serial, two_passwords)
+                     erase_period=0, idle_period=0, partitioned=False):
+        """Locked, with a normal and a secure volume, the latter on the whole disk or in a partition.
+        Periods are in seconds; a second password may be tried twice."""
+        key = (serial, two_passwords, partitioned)
         if key not in self._prepared:
             self._prepared[key] = self._prepare(*key)
         drive = Drive(self._folder(), log, serial)
@@ -161,7 +161,7 @@ class DriveShelf:
         drive.start_log()
         return drive
 
-    def _prepare(self, serial, two_passwords):
+    def _prepare(self, serial, two_passwords, partitioned):
         """By the drive's own requests, past the utility; its folder on the shelf."""
         drive = self.new_drive("/host/results/preparations.drive.log", serial, 96)
         try:
@@ -176,8 +176,10 @@ class DriveShelf:
             for unit, label in ((1, "SHARED"), (drive.secure_unit, "PRIVATE")):
                 wait_for("the unit shows its medium",
                          lambda number=unit: volumes.has_medium(serial, number))
-                subprocess.run(["mkfs.vfat", "-I", "-n", label,
-                                f"/dev/{volumes.disk(serial, unit)}"], check=True,
+                device = volumes.disk(serial, unit)
+                if partitioned and unit == drive.secure_unit:
+                    device = volumes.make_partition(serial, unit)
+                subprocess.run(["mkfs.vfat", "-I", "-n", label, f"/dev/{device}"], check=True,
                                stdout=subprocess.DEVNULL)
             drive.requests.log_out()
         finally:

@@ -35,6 +35,16 @@ class PlugStart:
             self.manage("stop", UNIT)
             self.manage("unset-environment", *variables)
 
+    @contextlib.contextmanager
+    def switched_on(self):
+        """Where it is off otherwise."""
+        self.manage("unmask", UNIT)
+        try:
+            yield
+        finally:
+            self.manage("stop", UNIT)
+            self.manage("mask", UNIT)
+
     def _property(self, name):
         return self.manage("show", UNIT, "-P", name)[1]
 

@@ -120,10 +120,9 @@ class Program:
         return next((window for window in self.windows() if "message" in window), None)
 
     def picture(self, name):
-        answer = self.ask("picture", file=f"{self._desktop.runtime}/picture.png")
-        if "error" not in answer:
-            subprocess.run(["cp", f"{self._desktop.runtime}/picture.png",
-                            f"/host/results/{name}.png"], check=True)
+        file = f"{self._desktop.runtime}/picture.png"
+        if self._desktop.take_picture(self, file):
+            subprocess.run(["cp", file, f"/host/results/{name}.png"], check=True)
 
     # What a person does.
 
@@ -164,6 +163,7 @@ class Program:
     def type_secretly(self, widget, text):
         """Leaves no copy of the text in the program beside what the program itself makes."""
         self.wait_for_enabled(widget)
+        self._do("focus", widget=widget)
         for letter in text:
             self.ask("letter", widget=widget, text=letter)
         self._wait(f"{widget} is filled in", lambda: self.text(widget) == "●" * len(text))

@@ -13,6 +13,9 @@ START_SECONDS = 300
 
 
 class RealDesktop(Desktop):
+    """Its user has switched on that what is plugged in is mounted, and off that a plug starts the
+    utility, but for where a scenario is about that."""
+
     shows_notices = True
     lets_windows_come_forward = True
 
@@ -22,7 +25,6 @@ class RealDesktop(Desktop):
         variables = [f"{name}={value}" for name, value in DRIVER_ENVIRONMENT.items()]
         wait_for("the user has a service manager",
                  lambda: self.run(["systemctl", "--user", "set-environment", *variables])[0] == 0)
-        # Not for every drive that a scenario makes ready.
         self.run(["systemctl", "--user", "mask", UNIT])
         self._start_desktop()
         for service in ("org.freedesktop.Notifications", "org.xfce.FileManager"):
@@ -88,6 +90,7 @@ class WaylandDesktop(RealDesktop):
     display = {"WAYLAND_DISPLAY": "wayland-0", "XDG_SESSION_TYPE": "wayland",
                "XDG_CURRENT_DESKTOP": "labwc:wlroots"}
     lets_windows_come_forward = False
+
     def __init__(self):
         super().__init__()
         self.screen_socket = f"{self.runtime}/wayland-0"

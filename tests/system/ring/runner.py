@@ -9,6 +9,7 @@ from ring.checks import Failure, say
 from ring.desktop import Desktop
 from ring.drive import DriveShelf
 from ring.program import Program
+from ring.real_desktops import REAL_DESKTOPS
 
 SCENARIOS = []
 
@@ -99,11 +100,11 @@ class Ring:
         self.desktop.remove_leftovers()
 
 
-def run_scenarios(modules, wanted):
+def run_scenarios(system, modules, wanted):
     """Runs the scenarios of some modules in whose names the pattern `wanted` is found; their number
     and that of the failed ones."""
     names = {module.__name__ for module in modules}
-    desktop = Desktop()
+    desktop = REAL_DESKTOPS.get(system, Desktop)()
     desktop.log_in()
     shelf = DriveShelf(desktop)
     chosen = [test for test in SCENARIOS

@@ -3,6 +3,9 @@
 import glob
 import os
 import re
+import subprocess
+
+from ring.checks import wait_for
 
 VENDOR, PRODUCT = "07f7", "0135"
 
@@ -52,6 +55,16 @@ def partition(serial, number):
     """The first partition of a unit, such as "sdb1"."""
     device = disk(serial, number)
     return f"{device}1" if device and os.path.exists(f"/sys/class/block/{device}1") else None
+
+
+def make_partition(serial, number):
+    """One over the whole unit, for a FAT volume; its name."""
+    subprocess.run(["sfdisk", "--quiet", f"/dev/{disk(serial, number)}"],
+                   input="label: dos\n2048,,0e\n", text=True, check=True)
+    made = wait_for("the partition is there", lambda: partition(serial, number))
+    # Before it has seen the partition, udev does not notice that something is written to it.
+    subprocess.run(["udevadm", "settle"], check=True)
+    return made
 
 
 def mounts():

@@ -7,7 +7,7 @@ from scenarios import flows, portable, real_desktop
 
 @scenario
 def the_desktops_prompt_starts_the_program_that_the_drive_brings(ring):
-    drive = ring.set_up_drive()
+    drive = real_desktop.set_up_drive(ring)
     folder, partition = portable.carry_program(ring, drive)
     with portable.with_driver_everywhere():
         ring.start_as_user(["nautilus-autorun-software", f"file://{folder}"])

@@ -1,5 +1,6 @@
 """A computer without Qt that has never seen the program; the drive brings it along."""
 
+import contextlib
 import glob
 import os
 import subprocess
@@ -14,13 +15,7 @@ PRELOADED = "/etc/ld.so.preload"
 
 def carry_program(ring, drive):
     """Puts the bundle on the tool area as the program itself does; where the volume is mounted."""
-    disk = volumes.disk(drive.serial, drive.tool_unit)
-    subprocess.run(["sfdisk", "--quiet", f"/dev/{disk}"], input="label: dos\n2048,,0e\n",
-                   text=True, check=True)
-    partition = wait_for("the partition is there",
-                         lambda: volumes.partition(drive.serial, drive.tool_unit))
-    # Before it has seen the partition, udev does not notice that something is written to it.
-    subprocess.run(["udevadm", "settle"], check=True)
+    partition = volumes.make_partition(drive.serial, drive.tool_unit)
     subprocess.run(["mkfs.vfat", "-n", "ZELTO TOOL", f"/dev/{partition}"], check=True,
                    stdout=subprocess.DEVNULL)
     wait_for("its volume is recognised", lambda: volumes.file_system(partition) == "vfat")
@@ -46,20 +41,36 @@ def running_copy(home):
     return None
 
 
-@scenario
-def started_from_the_drive_the_program_moves_to_the_computer_and_leaves_the_drive_free(ring):
-    expect("this system has no Qt", not glob.glob("/usr/lib/*/libQt*"))
+@contextlib.contextmanager
+def with_driver_everywhere():
+    """The copy that a starter starts can be used from here, too."""
     with open(PRELOADED, "w", encoding="ascii") as preloaded:
         preloaded.write("/host/plugins/libzelto_test_preload.so\n")
-    drive = ring.set_up_drive()
-    folder, partition = carry_program(ring, drive)
+    try:
+        yield
+    finally:
+        os.unlink(PRELOADED)
 
-    starter = ring.start_as_user(["sh", f"{folder}/autorun.sh"])
+
+def connect_to_copy(ring):
+    """What has been started from the drive and moved to the computer."""
     pid = wait_for("the copy runs", lambda: running_copy(ring.desktop.home))
-    wait_for("the program on the drive has quit", lambda: starter.poll() is not None)
     program = ring.program()
     program.connect(pid)
     program.wait_for_window("AuthenticateWindow")
+    return program
+
+
+@scenario
+def started_from_the_drive_the_program_moves_to_the_computer_and_leaves_the_drive_free(ring):
+    expect("this system has no Qt", not glob.glob("/usr/lib/*/libQt*"))
+    drive = ring.set_up_drive()
+    folder, partition = carry_program(ring, drive)
+
+    with with_driver_everywhere():
+        starter = ring.start_as_user(["sh", f"{folder}/autorun.sh"])
+        program = connect_to_copy(ring)
+        wait_for("the program on the drive has quit", lambda: starter.poll() is not None)
     program.picture("started-from-the-drive")
     menu = f"{ring.desktop.home}/.local/share/applications"
     expect("the menu has an entry for it", os.path.exists(f"{menu}/com.kestrin.zelto.desktop"))
@@ -75,7 +86,6 @@ def started_from_the_drive_the_program_moves_to_the_computer_and_leaves_the_driv
     expect_equal("the drive's state", drive.requests.state(), vendor.LOCKED)
     expect("no volume of the drive is mounted",
            not any(device.startswith("sd") for device in volumes.mounts()))
-    os.unlink(PRELOADED)
 
 
 @scenario

@@ -35,27 +35,6 @@ def files_on_the_secure_volume_come_back_with_the_next_log_in(ring):
 
 
 @scenario
-def the_unlocked_drive_is_pictured_for_the_documents(ring):
-    drive = ring.set_up_drive()
-    program = flows.log_in(ring, drive)
-    folder = ring.desktop.mount(flows.secure_volume(drive))
-    for name in ("contract.txt", "keys.txt", "letter.txt"):
-        flows.write_file(ring, folder, name, f"{name}\n" * 40)
-    ring.desktop.run(["xsetroot", "-solid", "#3a5f7d"])
-    drawn = f"{ring.desktop.runtime}/drawn"
-    ring.start_as_user(
-        ["xterm", "-geometry", "92x12+270+160", "-fa", "DejaVu Sans Mono", "-fs", "10", "-e", "sh",
-         "-c", f"lsblk -o NAME,VENDOR,MODEL,SIZE,FSTYPE,MOUNTPOINTS /dev/sd?; echo; "
-               f"ls -l {folder}; touch {drawn}; exec sleep 3600"])
-    wait_for("the terminal has drawn", lambda: os.path.exists(drawn))
-    # Started anew, its window is in front of the terminal's.
-    program.click("UnlockingCancel")
-    program.wait_for_end()
-    program = ring.start_program("UnlockingWindow")
-    program.picture("system")
-
-
-@scenario
 def logging_off_leaves_the_normal_volumes_mounted(ring):
     drive = ring.set_up_drive()
     normal = ring.desktop.mount(volumes.disk(drive.serial, 1))
