@@ -103,7 +103,7 @@ class WaylandDesktop(RealDesktop):
         self._mount_what_appears()
         log = open("/host/results/desktop.log", "ab")
         self.run(["dbus-update-activation-environment", "--systemd", *self.display])
-        for program in (["mako"], ["thunar", "--daemon"]):
+        for program in (["swaybg", "--color", "#3a5f7d"], ["mako"], ["thunar", "--daemon"]):
             self.start(program, stdout=log, stderr=log)
 
     def terminal(self, *command):

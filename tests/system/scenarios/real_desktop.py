@@ -75,6 +75,7 @@ def a_terminal_in_the_volume_keeps_the_drive_unlocked_and_is_named(ring):
     program.click("UnlockingCancel")
     program.wait_for_end()
     program = ring.start_program("UnlockingWindow")
+    wait_for("it has the keyboard", lambda: program.has_focus("UnlockingLogOff"))
     program.picture("desktop")
     # What the file manager shows keeps nobody from locking it, where somebody works does.
     terminal = ring.start_as_user(ring.desktop.terminal(), cwd=folder)
