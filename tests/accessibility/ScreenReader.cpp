@@ -6,6 +6,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
+#include <QEvent>
 #include <QEventLoop>
 
 #include <stdexcept>
@@ -51,6 +52,21 @@ bool has(const QList<uint>& words, State state) {
     const int bit = state;
     return words.size() > bit / 32 && ((words[bit / 32] >> (bit % 32)) & 1U) != 0;
 }
+
+/// A key that comes up, from now on, at a control. What the toolkit still asks the registry about
+/// has not got there, and is lost when the program ends.
+class ReleasedKey : public QObject {
+public:
+    ReleasedKey() { QCoreApplication::instance()->installEventFilter(this); }
+    [[nodiscard]] bool hasArrived() const { return m_hasArrived; }
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        m_hasArrived |= event->type() == QEvent::KeyRelease && receiver->isWidgetType();
+        return false;
+    }
+
+private:
+    bool m_hasArrived = false;
+};
 
 } // namespace
 
@@ -250,12 +266,13 @@ std::vector<Heard> ScreenReader::read(const QString& windowTitle) {
 }
 
 void ScreenReader::pressKey(int keyCode) {
+    ReleasedKey released;
     constexpr uint PressAndRelease = 2;
     auto message = QDBusMessage::createMethodCall(Registry, KeysPath, KeysInterface,
                                                   QStringLiteral("GenerateKeyboardEvent"));
     message.setArguments({keyCode, QString(), PressAndRelease});
     QDBusPendingCallWatcher pending(m_bus.asyncCall(message));
-    waitUntil([&] { return pending.isFinished(); });
+    waitUntil([&] { return pending.isFinished() && released.hasArrived(); });
 }
 
 BusMonitor::BusMonitor() {

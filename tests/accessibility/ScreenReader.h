@@ -56,7 +56,8 @@ public:
     /// Keys take the way over the bus; those pressed so far have arrived when it returns.
     static void letKeysArrive();
 
-    /// A key of the keyboard, through the bus's registry and the display server.
+    /// A key of the keyboard, through the bus's registry and the display server, to the control
+    /// that has the focus. It has arrived there, and is up again, when it returns.
     void pressKey(int keyCode);
 
 private Q_SLOTS:
