@@ -2,7 +2,10 @@
 
 #include "platform/linux/SessionPlace.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusReply>
+#include <QFile>
 #include <QGuiApplication>
 
 #include <utility>
@@ -10,14 +13,21 @@
 namespace zelto::linux_platform {
 namespace {
 
+constexpr uint None = 0;
+
 bool lasts(const Desktop::Notice& notice) {
     return notice.weight == Desktop::Notice::Weight::Lasting;
 }
 
 } // namespace
 
-Notifications::Notifications(Bus bus, std::chrono::milliseconds limit)
-    : m_bus(std::move(bus)), m_limit(limit) {}
+QString Notifications::usualMemory() {
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return folder.isEmpty() ? QString() : folder + QStringLiteral("/zelto-notice");
+}
+
+Notifications::Notifications(Bus bus, std::chrono::milliseconds limit, QString memory)
+    : m_bus(std::move(bus)), m_limit(limit), m_memory(std::move(memory)) {}
 
 Notifications::~Notifications() {
     if (m_notices.empty() || !m_bus().isConnected()) {
@@ -52,21 +62,47 @@ bool Notifications::showUnderOwnName(const Desktop::Notice& notice) const {
 }
 
 void Notifications::show(const Desktop::Notice& notice) const {
-    constexpr uint ReplacesNone = 0;
     constexpr int AsTheServiceLikes = -1;
     constexpr int Never = 0;
     constexpr uchar Normal = 1;
     constexpr uchar Critical = 2;
-    auto call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
-                                               QStringLiteral("/org/freedesktop/Notifications"),
-                                               QStringLiteral("org.freedesktop.Notifications"),
-                                               QStringLiteral("Notify"));
+    const QString service = QStringLiteral("org.freedesktop.Notifications");
+    auto call =
+        QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/Notifications"),
+                                       service, QStringLiteral("Notify"));
     const QVariantMap hints{
         {QStringLiteral("urgency"), QVariant::fromValue(lasts(notice) ? Critical : Normal)}};
-    call.setArguments({QStringLiteral("ZELTO DISK"), ReplacesNone, QStringLiteral("zelto"),
+    const uint replaced = lastingOneOf(m_bus().interface()->serviceOwner(service));
+    call.setArguments({QStringLiteral("ZELTO DISK"), replaced, QStringLiteral("zelto"),
                        QString::fromStdString(notice.title), QString::fromStdString(notice.text),
                        QStringList(), hints, lasts(notice) ? Never : AsTheServiceLikes});
-    (void)m_bus().call(call, QDBus::Block, static_cast<int>(m_limit.count()));
+    const QDBusMessage answer = m_bus().call(call, QDBus::Block, static_cast<int>(m_limit.count()));
+    const QDBusReply<uint> number = answer;
+    rememberLastingOne(number.isValid() && lasts(notice) ? number.value() : None, answer.service());
+}
+
+/// The number of a lasting notice that is left with this very service: a later one counts anew, and
+/// the number would be another program's. None without one.
+uint Notifications::lastingOneOf(const QString& service) const {
+    constexpr qint64 LongestLine = 100;
+    QFile file(m_memory);
+    if (m_memory.isEmpty() || service.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        return None;
+    }
+    const QStringList words = QString::fromLatin1(file.read(LongestLine)).split(u' ');
+    return words.size() == 2 && words.back() == service ? words.front().toUInt() : None;
+}
+
+void Notifications::rememberLastingOne(uint number, const QString& service) const {
+    if (m_memory.isEmpty()) {
+        return;
+    }
+    QFile file(m_memory);
+    if (number == None) {
+        (void)file.remove();
+    } else if (file.open(QIODevice::WriteOnly)) {
+        (void)file.write(QStringLiteral("%1 %2").arg(QString::number(number), service).toLatin1());
+    }
 }
 
 } // namespace zelto::linux_platform

@@ -1,5 +1,6 @@
 #include "platform/linux/Notifications.h"
 #include "tests/support/PrivateBus.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <QDBusArgument>
 #include <QDBusMessage>
@@ -75,12 +76,23 @@ class NotificationsTest : public ::testing::Test {
 protected:
     /// A program that leaves a notice and ends.
     void leave(Weight weight, std::chrono::milliseconds limit = std::chrono::seconds(30)) {
-        Notifications notifications([this] { return bus.connection("program"); }, limit);
+        Notifications notifications([this] { return bus.connection("program"); }, limit,
+                                    QString::fromStdString((folder / "zelto-notice").native()));
         notifications.leave({.weight = weight, .title = "ZELTO DISK", .text = "It is locked."});
+    }
+
+    /// The number of the notice that each one takes the place of; 0 of none.
+    [[nodiscard]] std::vector<uint> replaced() const {
+        std::vector<uint> numbers;
+        for (const QDBusMessage& call : service.calls()) {
+            numbers.push_back(call.arguments().at(1).toUInt());
+        }
+        return numbers;
     }
 
     PrivateBus bus;
     FakeNotificationService service{bus.connection("service"), "org.freedesktop.Notifications"};
+    TemporaryFolder folder;
 };
 
 TEST_F(NotificationsTest, TheServiceHasGotItWhenTheProgramEnds) {
@@ -106,6 +118,22 @@ TEST_F(NotificationsTest, ALastingOneStaysUntilTheUserCloses) {
     const auto arguments = service.calls().front().arguments();
     EXPECT_EQ(qdbus_cast<QVariantMap>(arguments.at(6)).value("urgency").value<uchar>(), 2);
     EXPECT_EQ(arguments.at(7), 0);
+}
+
+TEST_F(NotificationsTest, ALastingOneIsTakenBackByTheNextAlsoOfALaterRun) {
+    leave(Weight::Passing);
+    leave(Weight::Lasting);
+    leave(Weight::Passing);
+    leave(Weight::Passing);
+    EXPECT_THAT(replaced(), ::testing::ElementsAre(0, 0, 1, 0));
+}
+
+TEST_F(NotificationsTest, WhatAnotherServiceHasShownIsNotTakenBack) {
+    for (const char* const left : {"1 :1.9999", "1", "", "one two three", "1  "}) {
+        folder.write("zelto-notice", left);
+        leave(Weight::Passing);
+    }
+    EXPECT_THAT(replaced(), ::testing::ElementsAre(0, 0, 0, 0, 0));
 }
 
 TEST_F(NotificationsTest, NothingIsShownWhileTheProgramRuns) {
