@@ -1,5 +1,4 @@
-"""Desktops as people have them: a file manager that mounts what appears, a notification service, an
-agent that asks for the administrator's password."""
+"""Desktops as people have them: a file manager that mounts what appears, and a notification service."""
 
 import re
 
