@@ -1,12 +1,12 @@
 #include "ui/SetupStepsView.h"
 
 #include "ui/AccessibleViews.h"
+#include "ui/FocusFrame.h"
 #include "ui/Glyph.h"
 #include "ui/Strings.h"
 
 #include <QAccessible>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 #include <array>
@@ -104,11 +104,7 @@ void SetupStepsView::paintEvent(QPaintEvent*) {
         painter.drawText(words, static_cast<int>(Qt::AlignLeading | Qt::AlignVCenter),
                          titleOf(step));
     }
-    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
-        QStyleOptionFocusRect frame;
-        frame.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
-    }
+    paintFocusFrame(painter, *this);
 }
 
 QColor SetupStepsView::colourToCome() const {
