@@ -3,12 +3,13 @@
 #include "ui/Resources.h"
 #include "ui/Strings.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QImageReader>
 #include <QPixmap>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -26,13 +27,13 @@ QPixmap iconFile(int size) {
     return QPixmap::fromImageReader(&reader);
 }
 
-/// Each size goes to the display with each window. Where more is shown than a task bar does, a
-/// desktop takes the icon that is installed.
+/// Each size goes to the display with each window, so none that its screens do not ask for. Where
+/// more is shown than a task bar does, a desktop takes the icon that is installed.
 QIcon iconForFrames() {
-    constexpr int Largest = 128;
+    const int largest = qCeil(64 * qGuiApp->devicePixelRatio());
     QIcon icon;
     for (const int size : Sizes) {
-        if (size <= Largest) {
+        if (size <= largest) {
             icon.addPixmap(iconFile(size));
         }
     }

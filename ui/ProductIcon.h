@@ -12,7 +12,8 @@ class ProductIcon : public QLabel {
 public:
     explicit ProductIcon(QWidget* parent = nullptr);
 
-    /// The icon in the sizes of the windows' frames and the task bar, 16 to 128 pixels.
+    /// The icon in the sizes of the windows' frames and the task bar: 16 to 64 pixels, and up
+    /// to as many more as the finest screen has in one.
     [[nodiscard]] static QIcon icon();
 
 protected:
