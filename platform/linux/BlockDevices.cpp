@@ -57,7 +57,10 @@ std::optional<std::string> BlockDevices::nameOfMounted(const std::string& number
                                                        const std::string& source) const {
     constexpr std::string_view Devices = "/dev/";
     constexpr std::string_view Mappings = "/dev/mapper/";
-    if (const auto entry = entryOf(m_sysfs / "dev/block" / number)) {
+    // No device has a number that begins so: a file system has it from the kernel for itself.
+    const bool isOfFileSystem = number.starts_with("0:");
+    if (const auto entry =
+            isOfFileSystem ? std::nullopt : entryOf(m_sysfs / "dev/block" / number)) {
         return entry->kernelName();
     }
     if (source.starts_with(Mappings)) {
