@@ -1,6 +1,9 @@
 """A plug opens the window; nobody has to look for the program."""
 
+import contextlib
+import os
 import pwd
+import signal
 import subprocess
 
 from ring import vendor, volumes
@@ -48,6 +51,48 @@ def a_drive_that_comes_back_during_its_set_up_starts_nothing(ring):
         expect_equal("programs that run", running_programs(), [str(program.process_id)])
         program.click("ZeltoSettingOKButton")
         program.wait_for_end()
+
+
+@scenario
+def what_help_opened_stays_when_the_program_ends(ring):
+    drive = ring.set_up_drive()
+    drive.unplug()
+    start = PlugStart(ring.desktop.name, ring.desktop.run)
+    with a_browser(ring) as process_id, start.in_a_session_with_a_display():
+        drive.plug()
+        program = start.wait_for_program(ring)
+        program.wait_for_window("AuthenticateWindow")
+        program.click("Help")
+        reader = wait_for("the browser runs", process_id)
+        expect("it belongs to the unit", UNIT in volumes.read(f"/proc/{reader}/cgroup"))
+        program.click("AuthenticateCancel")
+        start.wait_for_end()
+        expect("it still runs", volumes.read(f"/proc/{reader}/cmdline"))
+
+        drive.unplug()
+        drive.plug()
+        start.wait_for_program(ring).wait_for_window("AuthenticateWindow")
+
+
+@contextlib.contextmanager
+def a_browser(ring):
+    """Opened with a page it stays until the end; yields what tells its process id then."""
+    opener, seen = "/usr/local/bin/xdg-open", f"{ring.desktop.runtime}/browser"
+    with open(opener, "w", encoding="ascii") as script:
+        script.write(f"#!/bin/sh\necho $$ >{seen}\nexec sleep infinity\n")
+    os.chmod(opener, 0o755)
+
+    def process_id():
+        return volumes.read(seen)
+
+    try:
+        yield process_id
+    finally:
+        os.unlink(opener)
+        if process_id():
+            with contextlib.suppress(ProcessLookupError):
+                os.kill(int(process_id()), signal.SIGKILL)
+            os.unlink(seen)
 
 
 @scenario
