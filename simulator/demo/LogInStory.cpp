@@ -11,9 +11,19 @@ using Drive = std::shared_ptr<DriveOnBus>;
 const std::filesystem::path SecureVolume = "/media/user/PRIVATE";
 const std::filesystem::path Letters = SecureVolume / "My letters";
 
-bool wasSentTo(const Story& story, const std::string& serial) {
-    return std::ranges::any_of(story.computer.log.lines(),
-                               [&](const LogLine& line) { return line.serial == serial; });
+void showTheRule(Story& story, const Drive& drive) {
+    story.tell("The computer lets nobody talk to such a drive yet: the utility shows the rule.");
+    drive->describe().openResult = kIOReturnNotPrivileged;
+    story.computer.plug(drive);
+    story.startUtility();
+    story.person.press("SelectZeltoShowRule", [&] {
+        story.checkWindow("DeviceRuleWindow");
+        story.picture("device-rule");
+        story.person.press("DeviceRuleClose");
+    });
+    story.tell("An administrator adds it, and the drive is plugged in again.");
+    drive->describe().openResult = kIOReturnSuccess;
+    story.computer.replug(drive);
 }
 
 void chooseDrive(Story& story) {
@@ -79,7 +89,9 @@ void useAndLogOff(Story& story, const Drive& drive) {
 
 void unplugTheOther(Story& story, const Drive& other) {
     story.tell("The other drive was never touched; it is pulled out.");
-    story.check("no command went to it", !wasSentTo(story, other->description().serial));
+    story.check("no command went to it",
+                std::ranges::count(story.computer.log.lines(), other->description().serial,
+                                   &LogLine::serial) == 0);
     story.computer.unplug(other);
 }
 
@@ -118,8 +130,8 @@ void setTheClock(Story& story, const Drive& drive) {
     story.computer.plug(drive);
     story.checkState("the drive is fully locked", *drive, SecurityState::StateFullLock);
     story.startUtility();
-    const auto panels = story.alerts.takePanels();
-    story.check("asked first, then told that the clock is set", panels.size() == 2);
+    story.check("asked first, then told that the clock is set",
+                story.alerts.takePanels().size() == 2);
     story.check("the drive's clock was written",
                 story.computer.log.latest("TKVR21_ZELTO_SetCurrentTime") != nullptr);
     story.checkState("the drive asks for its password again", *drive, SecurityState::StateLocked);
@@ -166,7 +178,7 @@ void playLogInStory(Story& story) {
         story.check("the drives could be prepared", false);
         return;
     }
-    story.computer.plug(other);
+    showTheRule(story, other);
     story.computer.plug(drive);
     story.computer.log.clear();
 

@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
 
@@ -136,20 +135,11 @@ void Person::choose(const char* comboBox, int index) {
 
 QString Person::text(const char* control) const {
     const QWidget* const found = find(control);
-    if (const auto* const label = qobject_cast<const QLabel*>(found)) {
-        return label->text();
-    }
     if (const auto* const secret = qobject_cast<const SecretField*>(found)) {
         return secret->secret().toString();
     }
-    if (const auto* const line = qobject_cast<const QLineEdit*>(found)) {
-        return line->text();
-    }
     if (const auto* const box = qobject_cast<const QComboBox*>(found)) {
         return box->currentText();
-    }
-    if (const auto* const button = qobject_cast<const QAbstractButton*>(found)) {
-        return button->text();
     }
     return found != nullptr ? found->property("text").toString() : QString();
 }

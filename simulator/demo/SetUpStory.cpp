@@ -13,14 +13,15 @@ using Drive = std::shared_ptr<DriveOnBus>;
 constexpr std::uint64_t DriveSectors = 262144;
 /// A set-up without trouble takes fewer.
 constexpr int PatientTicks = 30;
+constexpr const char* Key = "AC4B79DDD83A4257C3BA2C94EC9ACB8733ADC631ED7EF25AD539A398E0BD0909";
 const std::filesystem::path ToolCopy = "/media/user/ZELTO TOOL/ZeltoAppMac.app";
 
 struct Passwords {
     const char* first;
     const char* second;
 };
-constexpr Passwords OldPasswords{"first", "second"};
-constexpr Passwords NewPasswords{"primary", "another"};
+constexpr Passwords OldPasswords{"copper lantern ridge moth", "violin pasture kettle drum"};
+constexpr Passwords NewPasswords{"walnut glacier poem anchor", "orchid tunnel ladder frost"};
 
 void layOutAreas(Story& story) {
     story.tell("A new drive is plugged in. The settings open; OK waits until all is said.");
@@ -51,7 +52,7 @@ void choosePasswords(Story& story) {
         story.picture("passwords-empty");
         story.person.press("PS_1stAnd2ndCell");
         story.person.type("PS_1stPasswordText", QString::fromLatin1(OldPasswords.first));
-        story.person.type("PS_Again1stPasswordText", QStringLiteral("firts"));
+        story.person.type("PS_Again1stPasswordText", QStringLiteral("copper lantern ridge moht"));
         story.person.type("PS_2ndPasswordText", QString::fromLatin1(OldPasswords.second));
         story.person.type("PS_Again2ndPasswordText", QString::fromLatin1(OldPasswords.second));
         story.person.type("PS_2ndPasswordNumberOfTrials", QStringLiteral("3"));
@@ -59,6 +60,8 @@ void choosePasswords(Story& story) {
                     !story.person.isEnabled("PS_OKButton"));
         story.picture("passwords-differ");
         story.person.type("PS_Again1stPasswordText", QString::fromLatin1(OldPasswords.first));
+        story.check("the first password is strong",
+                    story.person.text("PS_1stStrength") == localized("IDS_STRENGTH_STRONG"));
         story.picture("passwords");
         story.person.press("PS_OKButton");
     });
@@ -68,7 +71,7 @@ void chooseKeyAndPeriods(Story& story) {
     story.tell("The key is entered by hand, in hexadecimal digits.");
     story.person.press("EncryptionKeyManualCell");
     story.person.press("EncryptionKeyButton", [&] {
-        story.person.type("EncryptionKeyText", QStringLiteral("0A1B2C3D4E5F60718293A4B5C6D7E8F9"));
+        story.person.type("EncryptionKeyText", QString::fromLatin1(Key));
         story.picture("key");
         story.person.press("EncryptionKeyOKButton");
     });
@@ -82,13 +85,21 @@ void chooseKeyAndPeriods(Story& story) {
     story.picture("filled-in");
 }
 
-void waitForCompletion(Story& story) {
+void finishSetUp(Story& story) {
     for (int tick = 0;
          tick < PatientTicks && story.person.visibleWindowName() == "ZeltoSettingWindow" &&
          !story.person.isEnabled("ZeltoSettingOKButton");
          ++tick) {
         story.tick(1);
     }
+    story.picture("set-up-complete");
+    story.checkNoAlert();
+    story.check("it says: " + story.person.text("ZeltoSettingText").toStdString(),
+                story.person.text("ZeltoSettingText") == localized("IDS_SETTING_COMPLETE"));
+    story.check("the volume ZELTO TOOL holds the utility, byte for byte",
+                story.computer.files.areEqual(story.computer.files.bundlePath(), ToolCopy));
+    story.person.press("ZeltoSettingOKButton");
+    story.check("the utility has ended", story.utilityHasQuit());
 }
 
 void commit(Story& story, const Drive& drive) {
@@ -107,15 +118,7 @@ void commit(Story& story, const Drive& drive) {
     story.check("the utility runs on", !story.utilityHasQuit());
 
     story.tell("The drive comes back; its tool area is formatted, the utility copied onto it.");
-    waitForCompletion(story);
-    story.picture("set-up-complete");
-    story.checkNoAlert();
-    story.check("it says: " + story.person.text("ZeltoSettingText").toStdString(),
-                story.person.text("ZeltoSettingText") == localized("IDS_SETTING_COMPLETE"));
-    story.check("the volume ZELTO TOOL holds the utility, byte for byte",
-                story.computer.files.areEqual(story.computer.files.bundlePath(), ToolCopy));
-    story.person.press("ZeltoSettingOKButton");
-    story.check("the utility has ended", story.utilityHasQuit());
+    finishSetUp(story);
 }
 
 void logIn(Story& story, const Passwords& passwords) {
@@ -232,13 +235,8 @@ void setUpAnew(Story& story, const Drive& drive) {
     });
     story.picture("without-secure-area");
     story.person.press("MainSettingsOKButton");
-    waitForCompletion(story);
-    story.checkNoAlert();
+    finishSetUp(story);
     story.checkState("the drive needs no password", *drive, SecurityState::StateNoPassword);
-    story.check("the volume ZELTO TOOL holds the utility, byte for byte",
-                story.computer.files.areEqual(story.computer.files.bundlePath(), ToolCopy));
-    story.person.press("ZeltoSettingOKButton");
-    story.check("the utility has ended", story.utilityHasQuit());
 }
 
 } // namespace
