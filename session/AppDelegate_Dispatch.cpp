@@ -176,6 +176,7 @@ void AppDelegate::UpdateAccessHint() {
     hint.setText(accessHint(Drives.refusedAccess()));
     hint.setVisible(Drives.refusedAccess() != AttachedDrives::Access::Granted);
     for (QWidget* const heard : {static_cast<QWidget*>(SelectZeltoWindow->SelectZeltoComboBox),
+                                 static_cast<QWidget*>(SelectZeltoWindow->SelectZeltoNoDrive),
                                  static_cast<QWidget*>(SelectZeltoWindow->SelectZeltoUpdate)}) {
         describe(*heard, hint, hint.text());
     }

@@ -77,6 +77,10 @@ void AppDelegate::MainSettingsAreaSettingsAction() {
     form.AreaSettingsCue->setText(
         Changed.AreaSettingsPerformed ? localized("IDS_HINT_SECURE_CHOICE_DROPPED") : QString());
     form.AreaSettingsCue->setVisible(Changed.AreaSettingsPerformed);
+    for (QWidget* const choice :
+         {form.Disk1SecureCheckBox, form.Disk2SecureCheckBox, form.Disk3SecureCheckBox}) {
+        describe(*choice, *form.AreaSettingsCue, form.AreaSettingsCue->text());
+    }
     UpdateAreaSettingsWindow();
 
     if (form.runModal(&*MainSettingsWindow) == Window::ModalOK) {

@@ -5,6 +5,7 @@
 #include "ui/Description.h"
 #include "ui/Strings.h"
 
+#include <initializer_list>
 #include <utility>
 
 namespace zelto {
@@ -199,9 +200,13 @@ void AppDelegate::showObstacle(QLabel& line, const Obstacle& obstacle) const {
 }
 
 void AppDelegate::showSettingsCues() {
-    const auto show = [](QLabel& label, const char* key) {
+    auto& form = *MainSettingsWindow;
+    const auto show = [](QLabel& label, const char* key, std::initializer_list<QWidget*> controls) {
         label.setText(key == nullptr ? QString() : localized(key));
         label.setVisible(key != nullptr);
+        for (QWidget* const control : controls) {
+            describe(*control, label, label.text());
+        }
     };
     const SecurityView shown = shownSecurity();
     const SettingsCues cues = settingsCues({.isInitial = Settings.InitialSetting,
@@ -211,11 +216,11 @@ void AppDelegate::showSettingsCues() {
                                             .clockIsNotValid = TimeStatusInvalid,
                                             .autoClear = shown.autoClear,
                                             .autoLogOff = shown.autoLogOff});
-    show(*MainSettingsWindow->MainSettingsAreasCue, cues.areas);
-    show(*MainSettingsWindow->MainSettingsClockCue, cues.clock);
-    show(*MainSettingsWindow->MainSettingsPeriodsCue, cues.periods);
-    MainSettingsWindow->MainSettingsCommitCue->setWarns(Settings.InitialSetting);
-    show(*MainSettingsWindow->MainSettingsCommitCue, cues.commit);
+    show(*form.MainSettingsAreasCue, cues.areas, {form.AreaSettingsButton});
+    show(*form.MainSettingsClockCue, cues.clock, {form.MainSettingsSetTimeButton});
+    show(*form.MainSettingsPeriodsCue, cues.periods, {form.AutoClearText, form.AutoLogOffText});
+    form.MainSettingsCommitCue->setWarns(Settings.InitialSetting);
+    show(*form.MainSettingsCommitCue, cues.commit, {form.MainSettingsOKButton});
 }
 
 /// The two text fields are not told apart.

@@ -53,7 +53,6 @@ void showStrength(StrengthHint& hint, PasswordField& field) {
         field.isEnabled() ? passwordStrength(field.secret()) : PasswordStrength::None;
     hint.setStrength(static_cast<int>(strength));
     describe(field, hint, hint.text());
-    field.setAccessibleDescription(hint.text());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ui/ConsequenceLabel.h"
 
+#include "ui/Description.h"
 #include "ui/Glyph.h"
 
 #include <QEvent>
@@ -34,7 +35,7 @@ void ConsequenceLabel::changeEvent(QEvent* event) {
 
 void ConsequenceLabel::showEvent(QShowEvent* event) {
     if (auto* const control = window()->findChild<QWidget*>(m_control)) {
-        control->setAccessibleDescription(text());
+        describe(*control, *this, text());
     }
     QLabel::showEvent(event);
 }

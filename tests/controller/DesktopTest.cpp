@@ -232,6 +232,23 @@ TEST_F(DesktopTest, BesideADisabledOkStandsWhatIsMissing) {
     EXPECT_TRUE(okIsEnabled());
 }
 
+TEST_F(DesktopTest, WhatStandsBesideAControlIsItsDescription) {
+    const auto saysOf = [&](const char* name, const char* key) {
+        return control<QWidget>(name)->accessibleDescription().contains(localized(key));
+    };
+    begin();
+    EXPECT_TRUE(saysOf("MainSettingsOKButton", "IDS_HINT_SETUP_ERASES"));
+    layOut({.secureDisk = 0});
+    EXPECT_TRUE(saysOf("AreaSettingsButton", "IDS_HINT_SETUP_OPEN"));
+    putAway();
+
+    drive = plugPreparedDrive({.areas = {{.mebibytes = 16}}, .clockIsSet = false});
+    start();
+    EXPECT_FALSE(saysOf("MainSettingsSetTimeButton", "IDS_HINT_SET_CLOCK_CLOSES"));
+    tick();
+    EXPECT_TRUE(saysOf("MainSettingsSetTimeButton", "IDS_HINT_SET_CLOCK_CLOSES"));
+}
+
 TEST_F(DesktopTest, AFailedSetUpSaysThatTheAreasHaveToBeConfirmedAgain) {
     begin();
     fill({});

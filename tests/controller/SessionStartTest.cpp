@@ -202,6 +202,9 @@ TEST_F(StartTest, ADriveThatMayNotBeOpenedIsToldApartFromNoDrive) {
     start();
     EXPECT_EQ(text("SelectZeltoComboBox"), localized("IDS_ERR_NOT_FOUND_ZELTO"));
     EXPECT_EQ(text("SelectZeltoAccessHint"), localized("IDS_HINT_RULE_MISSING"));
+    // Where the focus is.
+    EXPECT_EQ(control<QWidget>("SelectZeltoNoDrive")->accessibleDescription(),
+              localized("IDS_HINT_RULE_MISSING"));
     drive->describe().openResult = kIOReturnNotPermitted;
     start();
     EXPECT_EQ(text("SelectZeltoAccessHint"), localized("IDS_HINT_OTHER_SESSION"));

@@ -218,12 +218,23 @@ TEST_F(PasswordDialog, AWeakPasswordIsCalledSoAndMayBeUsed) {
         EXPECT_EQ(text("PS_1stStrength"), QString());
         type("PS_1stPasswordText", "password");
         EXPECT_EQ(text("PS_1stStrength"), localized("IDS_STRENGTH_WEAK"));
-        EXPECT_EQ(control("PS_1stPasswordText")->accessibleDescription(),
-                  localized("IDS_STRENGTH_WEAK"));
+        EXPECT_TRUE(control("PS_1stPasswordText")
+                        ->accessibleDescription()
+                        .contains(localized("IDS_STRENGTH_WEAK")));
         type("PS_Again1stPasswordText", "password");
         EXPECT_TRUE(isEnabled("PS_OKButton"));
         type("PS_1stPasswordText", "x7#kQ9!vLm2pZ");
         EXPECT_EQ(text("PS_1stStrength"), localized("IDS_STRENGTH_STRONG"));
+    });
+}
+
+TEST_F(PasswordDialog, OfAPasswordItsStrengthIsSaidAndWhatIsStillMissing) {
+    inPasswordDialog([&] {
+        control("PS_1stPasswordText")->setFocus();
+        type("PS_1stPasswordText", "password");
+        const QString heard = control("PS_1stPasswordText")->accessibleDescription();
+        EXPECT_TRUE(heard.contains(localized("IDS_STRENGTH_WEAK"))) << heard.toStdString();
+        EXPECT_TRUE(heard.contains(localized("IDS_HINT_FIRST_AGAIN"))) << heard.toStdString();
     });
 }
 
