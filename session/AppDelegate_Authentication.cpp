@@ -4,6 +4,7 @@
 #include "device/DeviceWrites.h"
 #include "digest/SHA256.h"
 #include "digest/Wipe.h"
+#include "settings/Obstacle.h"
 #include "settings/PasswordRules.h"
 #include "ui/Description.h"
 #include "ui/Strings.h"
@@ -19,9 +20,9 @@ void AppDelegate::DisplayAuthenticateWindow(bool firstStep, const QString& messa
     auto& form = *AuthenticateWindow;
     TextInputMode =
         firstStep ? TextInputModes::AuthenticateFirstStep : TextInputModes::AuthenticateFurtherStep;
-    form.AuthenticateSubmit->setEnabled(false);
     form.AuthenticateMessage->setText(message);
     form.AuthenticateTextField->wipe();
+    AuthenticateTextDidChange();
     showValue(*form.AuthenticateDeviceTimeText, {});
     showValue(*form.AuthenticateRemainingTimeText, {});
 
@@ -65,7 +66,11 @@ void AppDelegate::controlTextDidChange() {
 
 void AppDelegate::AuthenticateTextDidChange() {
     auto& form = *AuthenticateWindow;
-    form.AuthenticateSubmit->setEnabled(isValidPassword(form.AuthenticateTextField->secret()));
+    const QStringView password = form.AuthenticateTextField->secret();
+    form.AuthenticateSubmit->setEnabled(isValidPassword(password));
+    const Obstacle obstacle = logInObstacle(password);
+    showObstacle(*form.AuthenticateObstacle, obstacle);
+    form.AuthenticateObstacle->setVisible(obstacle.key != nullptr);
 }
 
 void AppDelegate::AuthenticateSubmitAction() {

@@ -102,6 +102,10 @@ Obstacle passwordChangeObstacle(const PasswordChangeEntries& entries) {
     return passwordSettingsObstacle(entries.renewed);
 }
 
+Obstacle logInObstacle(QStringView password) {
+    return passwordObstacle(password, nullptr);
+}
+
 Obstacle keyObstacle(QStringView text) {
     if (text.isEmpty()) {
         return {"IDS_HINT_KEY_MISSING"};

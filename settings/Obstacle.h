@@ -34,6 +34,9 @@ struct Obstacle {
 [[nodiscard]] Obstacle passwordSettingsObstacle(const PasswordSettingsEntries& entries);
 [[nodiscard]] Obstacle passwordChangeObstacle(const PasswordChangeEntries& entries);
 
+/// Log-in: what is wrong with what has been typed, and nothing before that; see isValidPassword.
+[[nodiscard]] Obstacle logInObstacle(QStringView password);
+
 /// Key dialog: see isValidKeyText.
 [[nodiscard]] Obstacle keyObstacle(QStringView text);
 

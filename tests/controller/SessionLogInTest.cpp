@@ -52,6 +52,23 @@ TEST_F(SessionLogInTest, AcceptsOneToThirtyTwoSingleByteCharacters) {
     }
 }
 
+TEST_F(SessionLogInTest, WhyLogInStaysOffIsShownAndHeardWhileAPasswordIsTyped) {
+    begin();
+    const auto* const line = control<QLabel>("AuthenticateObstacle");
+    const auto* const field = control<QWidget>("AuthenticateTextField");
+    EXPECT_FALSE(line->isVisible());
+    // As on a keyboard of another layout.
+    type("AuthenticateTextField", QStringLiteral("\u0441\u0435\u043a\u0440\u0435\u0442"));
+    EXPECT_TRUE(line->isVisible());
+    EXPECT_EQ(line->text(), localized("IDS_HINT_PASSWORD_ACCENTS"));
+    EXPECT_TRUE(field->accessibleDescription().contains(line->text()));
+    type("AuthenticateTextField", QString(33, u'x'));
+    EXPECT_EQ(line->text(), localized("IDS_HINT_PASSWORD_TOO_LONG"));
+    type("AuthenticateTextField", QStringLiteral("secret"));
+    EXPECT_FALSE(line->isVisible());
+    EXPECT_EQ(field->accessibleDescription(), QString());
+}
+
 TEST_F(SessionLogInTest, ThePayloadIsTheStepFlagAZeroAndTheDigestOfTheCharactersAlone) {
     begin();
     logInWith("abc");

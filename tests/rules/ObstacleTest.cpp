@@ -22,6 +22,15 @@ const AutoClearEntry NoDays{true, PeriodUnit::Days, QString()};
 const AutoClearEntry NoMinutes{true, PeriodUnit::Minutes, QStringLiteral("1000")};
 const AutoLogOffEntry NoLogOff{true, QStringLiteral("0")};
 
+TEST(LogInObstacle, IsWhatIsWrongWithWhatHasBeenTyped) {
+    EXPECT_EQ(logInObstacle(u""), Nothing);
+    EXPECT_EQ(logInObstacle(u"secret"), Nothing);
+    EXPECT_EQ(logInObstacle(u"\u0441"), Obstacle{"IDS_HINT_PASSWORD_ACCENTS"});
+    EXPECT_EQ(logInObstacle(u"12345678901234567890123456789012"), Nothing);
+    EXPECT_EQ(logInObstacle(u"123456789012345678901234567890123"),
+              Obstacle{"IDS_HINT_PASSWORD_TOO_LONG"});
+}
+
 TEST(MainSettingsObstacle, IsTheFirstThingThatASetUpNeeds) {
     MainSettingsEntries entries{.secureAreaExists = true, .autoClear = NoDays};
     EXPECT_EQ(obstacleAtInitialization(entries), Obstacle{"IDS_HINT_NEXT_AREAS"});

@@ -46,6 +46,7 @@ const ControlRow Controls[] = {
     {__LINE__, "DeviceRuleWindow", "DeviceRuleClose", Button, true},
     {__LINE__, "AuthenticateWindow", "AuthenticateMessage", Label, true},
     {__LINE__, "AuthenticateWindow", "AuthenticateTextField", Password, true},
+    {__LINE__, "AuthenticateWindow", "AuthenticateObstacle", Label, true},
     {__LINE__, "AuthenticateWindow", "AuthenticateSubmit", Button, false},
     {__LINE__, "AuthenticateWindow", "AuthenticateCancel", Button, true},
     {__LINE__, "AuthenticateWindow", "AuthenticateDeviceTimeText", Label, true},
