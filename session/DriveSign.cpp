@@ -5,8 +5,8 @@
 namespace zelto {
 namespace {
 
-/// What discovery keeps of one fits.
-constexpr std::size_t LongestSign = 64;
+/// Without a place to break it, a longer one would not fit a small screen in large letters.
+constexpr std::size_t LongestSign = 40;
 
 QString serialShown(const AttachedDrives& drives, std::size_t index) {
     return foreignText(drives.UsbSerial.at(index), LongestSign).trimmed();

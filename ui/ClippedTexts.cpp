@@ -1,8 +1,11 @@
 #include "ui/ClippedTexts.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QStyleOptionComboBox>
 #include <QTableView>
@@ -21,8 +24,13 @@ QString sizeText(const QSize& size) {
     return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
 }
 
-/// What widgets are made of is laid out by them; what a form holds has a name.
+/// What widgets are made of is laid out by them; what a form holds has a name. The toolkit makes an
+/// alert's own.
 bool isOfTheForm(const QWidget& widget) {
+    if (qobject_cast<const QMessageBox*>(widget.window()) != nullptr) {
+        return qobject_cast<const QLabel*>(&widget) != nullptr ||
+               qobject_cast<const QAbstractButton*>(&widget) != nullptr;
+    }
     return !widget.objectName().isEmpty() && !widget.objectName().startsWith(QStringLiteral("qt_"));
 }
 

@@ -3,6 +3,8 @@
 #include "tests/support/QtPrinting.h"
 #include "ui/Strings.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -43,6 +45,34 @@ bool says(const AlertPanel& panel, const char* key) {
 
 std::span<const WeighedText> alertTexts() {
     return Rows;
+}
+
+AlertPanel panelOf(const WeighedText& text) {
+    const QLatin1String key(text.key);
+    QString message = localized(text.key);
+    QStringList blanks{QStringLiteral("3"), QStringLiteral("17"), QStringLiteral("0")};
+    if (key == QLatin1String("IDS_ERR_FILE_COPY")) {
+        blanks = {QStringLiteral("/usr/bin/zelto"), QStringLiteral("/media/user/ZELTO TOOL/zelto")};
+    } else if (key == QLatin1String("IDS_FULLLOCK_TIME_STATUS_INVALID")) {
+        blanks = {QStringLiteral("2026/10/28 20:48:58")};
+    }
+    for (const QString& blank : blanks) {
+        message = message.contains(u'%') ? message.arg(blank) : message;
+    }
+    QString detail;
+    if (key.startsWith(QLatin1String("IDS_COMMAND_FAIL"))) {
+        detail = localized("IDS_HINT_VERSION", QStringLiteral("1.0.0"));
+    } else if (key == QLatin1String("IDS_ERR_UNMOUNT")) {
+        detail = localized("IDS_HINT_BUSY_PROGRAMS", QStringLiteral("gedit"));
+    }
+    const bool asks = key.endsWith(QLatin1String("CONFIRM")) ||
+                      key == QLatin1String("IDS_FULLLOCK_TIME_STATUS_INVALID");
+    return {.weight = text.weight,
+            .title = localized("IDS_APP_TITLE"),
+            .message = message,
+            .detail = detail,
+            .defaultButton = localized(asks ? "IDS_CANCEL_BUTTON" : "OK"),
+            .alternateButton = asks ? localized("OK") : QString()};
 }
 
 void expectWeightOfWords(const AlertPanel& panel) {

@@ -1,6 +1,10 @@
 #include "ui/AlertPresenter.h"
+#include "tests/support/AlertWeights.h"
+#include "ui/ClippedTexts.h"
 #include "ui/Forms.h"
 #include "ui/FrontWindow.h"
+#include "ui/Languages.h"
+#include "ui/Strings.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -117,6 +121,29 @@ TEST(AlertPresenterTest, FitsTheScreenWithLongTextsInLargeLetters) {
         EXPECT_LE(box.height(), screen.height());
         box.reject();
     });
+    QApplication::setFont(normal);
+}
+
+TEST(AlertPresenterTest, EveryAlertIsWholeInEveryLanguageInLargeLetters) {
+    const QFont normal = QApplication::font();
+    QFont large = normal;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    for (const QString& language : textLanguages()) {
+        ASSERT_TRUE(installStrings(language));
+        for (const WeighedText& text : alertTexts()) {
+            SCOPED_TRACE(language.toStdString() + ' ' + text.key);
+            (void)answer(panelOf(text), [](QMessageBox& box) {
+                settle(box);
+                const QSize room = box.screen()->availableGeometry().size();
+                EXPECT_EQ(box.size().boundedTo(room), box.size());
+                EXPECT_EQ(clippedTexts(box).join(QStringLiteral("; ")).toStdString(), "");
+                box.reject();
+            });
+        }
+    }
+    installStrings(QStringLiteral("en"));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setFont(normal);
 }
 

@@ -5,6 +5,7 @@
 #include "ui/AreaTableView.h"
 #include "ui/DeviceRule.h"
 #include "ui/SecretField.h"
+#include "ui/StrengthHint.h"
 #include "ui/Strings.h"
 
 #include <QComboBox>
@@ -30,6 +31,8 @@ const std::map<QString, Keys>& shownIn() {
         {QStringLiteral("AuthenticateDeviceTimeText"), {"IDS_ERR_TIME_STATUS_INVALID"}},
         {QStringLiteral("DeviceTimeText"), {"IDS_ERR_TIME_STATUS_INVALID"}},
         {QStringLiteral("AuthenticateRemainingTimeText"), {"IDS_EXPIRED"}},
+        {QStringLiteral("AuthenticateObstacle"),
+         {"IDS_HINT_PASSWORD_ACCENTS", "IDS_HINT_PASSWORD_TOO_LONG"}},
         {QStringLiteral("SelectZeltoNoDrive"), {"IDS_ERR_NOT_FOUND_ZELTO"}},
         {QStringLiteral("SelectZeltoAccessHint"),
          {"IDS_HINT_RULE_MISSING", "IDS_HINT_OTHER_SESSION", "IDS_HINT_DRIVE_IN_USE"}},
@@ -95,6 +98,11 @@ void fillLabels(Window& form) {
             QStringLiteral("9999 %1 23 %2 59 %3")
                 .arg(localized("IDS_DAYS"), localized("IDS_HOURS"), localized("IDS_MIN")));
     fillOne("EncryptionKeyObstacle", localized("IDS_HINT_KEY_TOO_LONG", 256));
+    fillOne("SelectZeltoSign",
+            localized("IDS_DRIVE_SERIAL_AND_PORT", QString(40, u'W'), QStringLiteral("1-1.4.3.2")));
+    for (StrengthHint* hint : form.findChildren<StrengthHint*>()) {
+        hint->setStrength(StrengthHint::Strongest);
+    }
 }
 
 void fillAreas(Window& form) {
@@ -146,6 +154,9 @@ int textsInTurn(const Window& form) {
 }
 
 void showText(Window& form, int turn) {
+    for (StrengthHint* hint : form.findChildren<StrengthHint*>()) {
+        hint->setStrength(1 + turn % StrengthHint::Strongest);
+    }
     for (QLabel* label : form.findChildren<QLabel*>()) {
         if (const Keys& keys = keysOf(*label); !keys.empty()) {
             label->setText(localized(keys[static_cast<std::size_t>(turn) % keys.size()]));
