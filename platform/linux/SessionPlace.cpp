@@ -23,8 +23,8 @@ const QString GivesWayName = QStringLiteral("com.kestrin.zelto.GivesWay");
 /// What a copy that gives way needs at most to let its drive go.
 constexpr auto GiveWayLimit = 3s;
 
-constexpr auto WaylandToken = "XDG_ACTIVATION_TOKEN";
-constexpr auto X11Token = "DESKTOP_STARTUP_ID";
+constexpr auto TokenVariable = "XDG_ACTIVATION_TOKEN";
+const QString TokenKey = QStringLiteral("activation-token");
 /// Longer than any desktop's token.
 constexpr qsizetype LongestToken = 1024;
 
@@ -37,15 +37,10 @@ bool isToken(const QString& text) {
 /// window, so that it is taken out of the environment.
 QVariantMap takePlatformData() {
     QVariantMap data;
-    const std::pair<const char*, QString> tokens[] = {
-        {X11Token, QStringLiteral("desktop-startup-id")},
-        {WaylandToken, QStringLiteral("activation-token")}};
-    for (const auto& [variable, key] : tokens) {
-        if (const QString token = qEnvironmentVariable(variable); isToken(token)) {
-            data.insert(key, token);
-        }
-        qunsetenv(variable);
+    if (const QString token = qEnvironmentVariable(TokenVariable); isToken(token)) {
+        data.insert(TokenKey, token);
     }
+    qunsetenv(TokenVariable);
     return data;
 }
 
@@ -138,13 +133,13 @@ bool SessionPlace::bringOtherForward() {
 }
 
 void SessionPlace::Activate(const QVariantMap& platformData) {
-    QString token = platformData.value(QStringLiteral("activation-token")).toString();
+    const QString token = platformData.value(TokenKey).toString();
     if (isToken(token)) {
         // Where the toolkit looks for it when the window asks for the focus.
-        qputenv(WaylandToken, token.toLatin1());
+        qputenv(TokenVariable, token.toLatin1());
     }
     m_later.comeForward();
-    qunsetenv(WaylandToken);
+    qunsetenv(TokenVariable);
 }
 
 void SessionPlace::Open(const QStringList& /*uris*/, const QVariantMap& platformData) {
