@@ -24,8 +24,8 @@ constexpr int InhibitMilliseconds = 2000;
 
 LinuxDesktop::LinuxDesktop(Bus systemBus, const Bus& sessionBus, const Waiting& waiting)
     : m_systemBus(std::move(systemBus)),
-      m_place(sessionBus, waiting),
-      m_notifications(sessionBus) {}
+      m_notifications(sessionBus),
+      m_place(sessionBus, waiting) {}
 
 LinuxDesktop::~LinuxDesktop() {
     QObject::disconnect(m_sessionEnd);

@@ -34,8 +34,9 @@ public:
 
 private:
     Bus m_systemBus;
-    SessionPlace m_place;
     Notifications m_notifications;
+    // Goes before them: while notices are shown nobody is to bring this program forward.
+    SessionPlace m_place;
     QMetaObject::Connection m_sessionEnd;
 };
 

@@ -50,7 +50,12 @@ SessionPlace::SessionPlace(Bus bus, const Waiting& waiting,
                            std::chrono::milliseconds comeForwardLimit)
     : m_bus(std::move(bus)), m_waiting(waiting), m_comeForwardLimit(comeForwardLimit) {}
 
-SessionPlace::~SessionPlace() = default;
+SessionPlace::~SessionPlace() {
+    // A bus that was never needed is not connected to now.
+    if (m_later.comeForward != nullptr && m_bus().isConnected()) {
+        giveUp();
+    }
+}
 
 bool SessionPlace::take(const Desktop::LaterStart& later) {
     QDBusConnection connection = m_bus();
@@ -74,6 +79,12 @@ bool SessionPlace::take(const Desktop::LaterStart& later) {
         waitForEndOf(earlier);
     }
     return true;
+}
+
+void SessionPlace::giveUp() {
+    QDBusConnection connection = m_bus();
+    (void)connection.interface()->unregisterService(PlaceName);
+    connection.unregisterObject(PlacePath);
 }
 
 bool SessionPlace::takeName() {
@@ -103,11 +114,10 @@ void SessionPlace::giveWayToNewStart() {
                                                        QDBusServiceWatcher::WatchForRegistration);
     QObject::connect(m_newStart.get(), &QDBusServiceWatcher::serviceRegistered, this,
                      [this] { m_later.giveWay(); });
-    QDBusConnectionInterface& names = *connection.interface();
-    (void)names.registerService(GivesWayName, QDBusConnectionInterface::DontQueueService,
-                                QDBusConnectionInterface::DontAllowReplacement);
-    (void)names.unregisterService(PlaceName);
-    connection.unregisterObject(PlacePath);
+    (void)connection.interface()->registerService(GivesWayName,
+                                                  QDBusConnectionInterface::DontQueueService,
+                                                  QDBusConnectionInterface::DontAllowReplacement);
+    giveUp();
 }
 
 bool SessionPlace::bringOtherForward() {

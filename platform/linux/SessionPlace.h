@@ -32,6 +32,7 @@ public:
     /// The other copy may be in the middle of a command, which may take 5 s.
     SessionPlace(Bus bus, const Waiting& waiting,
                  std::chrono::milliseconds comeForwardLimit = std::chrono::seconds(7));
+    /// Gives the place up: what is asked of the program from then on is asked of a new one.
     ~SessionPlace() override;
 
     [[nodiscard]] bool take(const Desktop::LaterStart& later);
@@ -48,6 +49,7 @@ public Q_SLOTS:
 
 private:
     [[nodiscard]] bool takeName();
+    void giveUp();
     void waitForEndOf(const QString& connectionName);
 
     Bus m_bus;

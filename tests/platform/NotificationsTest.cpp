@@ -1,8 +1,11 @@
 #include "platform/linux/Notifications.h"
+#include "platform/linux/LinuxDesktop.h"
+#include "platform/linux/SessionPlace.h"
 #include "tests/support/PrivateBus.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <QDBusArgument>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QMutex>
@@ -13,6 +16,8 @@
 
 #include <atomic>
 #include <chrono>
+#include <functional>
+#include <vector>
 
 namespace zelto::test {
 namespace {
@@ -42,6 +47,9 @@ public:
     enum class Manner { Obeys, Refuses, IsSilent };
     void be(Manner manner) { m_manner = manner; }
 
+    /// Run when a call arrives, in the service's thread.
+    std::function<void()> look = [] {};
+
     [[nodiscard]] QList<QDBusMessage> calls() const {
         const QMutexLocker lock(&m_mutex);
         return m_calls;
@@ -49,6 +57,7 @@ public:
 
     QString introspect(const QString& /*path*/) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        look();
         const QMutexLocker lock(&m_mutex);
         m_calls.append(message);
         switch (m_manner) {
@@ -74,6 +83,9 @@ private:
 
 class NotificationsTest : public ::testing::Test {
 protected:
+    void SetUp() override { qputenv(Session, folder.path().c_str()); }
+    void TearDown() override { qputenv(Session, m_session); }
+
     /// A program that leaves a notice and ends.
     void leave(Weight weight, std::chrono::milliseconds limit = std::chrono::seconds(30)) {
         Notifications notifications([this] { return bus.connection("program"); }, limit,
@@ -93,6 +105,10 @@ protected:
     PrivateBus bus;
     FakeNotificationService service{bus.connection("service"), "org.freedesktop.Notifications"};
     TemporaryFolder folder;
+
+private:
+    static constexpr auto Session = "XDG_RUNTIME_DIR";
+    const QByteArray m_session = qgetenv(Session);
 };
 
 TEST_F(NotificationsTest, TheServiceHasGotItWhenTheProgramEnds) {
@@ -140,6 +156,24 @@ TEST_F(NotificationsTest, NothingIsShownWhileTheProgramRuns) {
     Notifications notifications([this] { return bus.connection("program"); });
     notifications.leave({});
     EXPECT_TRUE(service.calls().isEmpty());
+}
+
+TEST_F(NotificationsTest, ItComesWhenANewProgramCanTakeThePlace) {
+    const QDBusConnection witness = bus.connection("witness");
+    std::vector<bool> placeIsTaken;
+    const auto look = [&] {
+        placeIsTaken.push_back(witness.interface()->isServiceRegistered(SessionPlace::Name));
+    };
+    service.look = look;
+    {
+        const auto session = [this] { return bus.connection("program"); };
+        const Waiting waiting;
+        LinuxDesktop desktop(session, session, waiting);
+        ASSERT_TRUE(desktop.takePlace({.comeForward = [] {}, .giveWay = [] {}}));
+        desktop.leaveNotice({});
+        look();
+    }
+    EXPECT_THAT(placeIsTaken, ::testing::ElementsAre(true, false));
 }
 
 TEST_F(NotificationsTest, WhereTheDesktopKeepsNoticesUnderTheProgramsNameItGetsThem) {
