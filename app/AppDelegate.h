@@ -265,6 +265,7 @@ private:
     // app/AppDelegate_Startup.cpp
     void relocate(const std::filesystem::path& bundle, const std::filesystem::path& destination);
     void startSession();
+    void showManualOrComeForward();
     /// One request to quit: granted or refused by applicationShouldTerminate.
     void terminate();
 

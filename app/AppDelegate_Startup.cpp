@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/BundleLocation.h"
+#include "app/Manual.h"
 #include "device/IORegistry.h"
 #include "device/ZELTOctrl.h"
 #include "platform/Application.h"
@@ -42,8 +43,9 @@ void AppDelegate::relocate(const std::filesystem::path& bundle,
 
 void AppDelegate::startSession() {
     // Not through the gate: whoever waits in an alert wants to see that alert.
-    if (!m_platform.desktop.takePlace(
-            {.comeForward = bringForward, .giveWay = [this] { TerminateApplication(); }})) {
+    if (!m_platform.desktop.takePlace({.comeForward = bringForward,
+                                       .showManual = [this] { showManualOrComeForward(); },
+                                       .giveWay = [this] { TerminateApplication(); }})) {
         TerminateApplication();
         return;
     }
@@ -64,6 +66,14 @@ void AppDelegate::startSession() {
     }
     DisplaySelectZeltoWindow();
     SelectZeltoWindow->centreAndMakeKeyAndOrderFront();
+}
+
+/// An alert may be open already, so that none says that there is no manual.
+void AppDelegate::showManualOrComeForward() {
+    const auto page = manualPage(m_platform.computer, "index");
+    if (!page || !m_platform.desktop.openDocument(*page)) {
+        bringForward();
+    }
 }
 
 AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() const {

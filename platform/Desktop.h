@@ -30,6 +30,8 @@ public:
     struct LaterStart {
         /// The user wants to see this copy: nothing more.
         std::function<void()> comeForward;
+        /// The user wants to read the manual.
+        std::function<void()> showManual;
         /// This copy has no window, and a new one wants its drive.
         std::function<void()> giveWay;
     };

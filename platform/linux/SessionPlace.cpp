@@ -142,23 +142,28 @@ bool SessionPlace::bringOtherForward() {
     return answer.isFinished() && !answer.isError();
 }
 
-void SessionPlace::Activate(const QVariantMap& platformData) {
+void SessionPlace::obey(const std::function<void()>& wish, const QVariantMap& platformData) {
     const QString token = platformData.value(TokenKey).toString();
     if (isToken(token)) {
-        // Where the toolkit looks for it when the window asks for the focus.
+        // Where the toolkit looks for it when the window asks for the focus, and what it starts.
         qputenv(TokenVariable, token.toLatin1());
     }
-    m_later.comeForward();
+    wish();
     qunsetenv(TokenVariable);
+}
+
+void SessionPlace::Activate(const QVariantMap& platformData) {
+    obey(m_later.comeForward, platformData);
 }
 
 void SessionPlace::Open(const QStringList& /*uris*/, const QVariantMap& platformData) {
     Activate(platformData);
 }
 
-void SessionPlace::ActivateAction(const QString& /*action*/, const QVariantList& /*parameter*/,
+void SessionPlace::ActivateAction(const QString& action, const QVariantList& /*parameter*/,
                                   const QVariantMap& platformData) {
-    Activate(platformData);
+    obey(action == QLatin1String(ManualAction) ? m_later.showManual : m_later.comeForward,
+         platformData);
 }
 
 } // namespace zelto::linux_platform

@@ -17,8 +17,9 @@ class QDBusServiceWatcher;
 namespace zelto::linux_platform {
 
 /// The place of the session's one program: its name on the session bus, where desktops and later
-/// starts find it as an org.freedesktop.Application. Whoever calls it can make it come forward and
-/// nothing else. Its operations are those of Desktop. Without a bus every start has the place.
+/// starts find it as an org.freedesktop.Application. Whoever calls it can make it come forward, or
+/// show its manual, and nothing else. Its operations are those of Desktop. Without a bus every
+/// start has the place.
 class SessionPlace final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -28,6 +29,8 @@ public:
 
     /// The program's name on the bus, and that of its desktop file.
     static constexpr auto Name = "com.kestrin.zelto";
+    /// The action of its desktop file that shows the manual.
+    static constexpr auto ManualAction = "manual";
 
     /// The other copy may be in the middle of a command, which may take 5 s.
     SessionPlace(Bus bus, const Waiting& waiting,
@@ -48,6 +51,8 @@ public Q_SLOTS:
                                      const QVariantMap& platformData);
 
 private:
+    /// Runs it with the caller's leave to take the focus, if that came along.
+    static void obey(const std::function<void()>& wish, const QVariantMap& platformData);
     [[nodiscard]] bool takeName();
     void giveUp();
     void waitForEndOf(const QString& connectionName);

@@ -99,6 +99,63 @@ TEST_F(StartedTwice, ASetUpGoesOn) {
     EXPECT_FALSE(hasQuit());
 }
 
+/// What happens when the user asks for the manual in the menu while the program runs.
+class AskedForTheManual : public StartedTwice {
+protected:
+    AskedForTheManual() {
+        drive = plugPreparedDrive();
+        computer.files.setBundlePath("/usr/bin");
+    }
+    void installManual() {
+        ASSERT_TRUE(computer.files.ownDisk().writeFile(simulator::VirtualFiles::onOwnDisk(Index),
+                                                       std::vector<std::uint8_t>{'<'}, {}));
+    }
+    /// The window that has the keyboard after the user asked from another program's window.
+    [[nodiscard]] std::string activeAfterwards() const {
+        const OtherWindow other;
+        desktop->askForManual();
+        QCoreApplication::processEvents();
+        const QWidget* const active = QApplication::activeWindow();
+        return active == &other ? "other" : active->objectName().toStdString();
+    }
+
+    const std::filesystem::path Index = "/usr/share/doc/zelto/manual/index.html";
+};
+
+TEST_F(AskedForTheManual, ItsFirstPageOpensAndNothingComesForward) {
+    installManual();
+    start();
+    EXPECT_EQ(activeAfterwards(), "other");
+    EXPECT_THAT(desktop->openedDocuments(), testing::ElementsAre(Index));
+    EXPECT_EQ(visibleWindow(), "AuthenticateWindow");
+}
+
+TEST_F(AskedForTheManual, ItOpensWhileAnAlertIsUp) {
+    installManual();
+    start();
+    alerts.answer(AlertButton::Default, [&](const AlertPanel&) {
+        desktop->askForManual();
+        EXPECT_THAT(desktop->openedDocuments(), testing::ElementsAre(Index));
+    });
+    logIn(QStringLiteral("wrong"));
+    EXPECT_EQ(messages().size(), 1U);
+}
+
+TEST_F(AskedForTheManual, WithoutOneTheProgramComesForward) {
+    start();
+    EXPECT_EQ(activeAfterwards(), "AuthenticateWindow");
+    EXPECT_THAT(desktop->openedDocuments(), IsEmpty());
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
+TEST_F(AskedForTheManual, WhereNothingCanShowItTheProgramComesForward) {
+    installManual();
+    desktop->setOpensNothing();
+    start();
+    EXPECT_EQ(activeAfterwards(), "AuthenticateWindow");
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
 /// The program on the drive, started while a copy of it runs on the computer.
 class StartedFromTheDrive : public StartedTwice {
 protected:

@@ -121,7 +121,9 @@ TEST_F(LinuxDesktopTest, IsNotKeptAwakeByABusThatHasBrokenDown) {
 
 TEST_F(LinuxDesktopTest, StartsAlikeWithoutASessionBus) {
     int calls = 0;
-    EXPECT_TRUE(desktop.takePlace({.comeForward = [&] { ++calls; }, .giveWay = [&] { ++calls; }}));
+    const auto called = [&] { ++calls; };
+    EXPECT_TRUE(
+        desktop.takePlace({.comeForward = called, .showManual = called, .giveWay = called}));
     desktop.giveWayToNewStart();
     desktop.bringOtherForward();
     EXPECT_EQ(calls, 0);

@@ -169,7 +169,8 @@ TEST_F(NotificationsTest, ItComesWhenANewProgramCanTakeThePlace) {
         const auto session = [this] { return bus.connection("program"); };
         const Waiting waiting;
         LinuxDesktop desktop(session, session, waiting);
-        ASSERT_TRUE(desktop.takePlace({.comeForward = [] {}, .giveWay = [] {}}));
+        ASSERT_TRUE(
+            desktop.takePlace({.comeForward = [] {}, .showManual = [] {}, .giveWay = [] {}}));
         desktop.leaveNotice({});
         look();
     }

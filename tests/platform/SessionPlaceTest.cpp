@@ -47,6 +47,11 @@ public:
                                       ++timesForward;
                                       tokenSeen = qEnvironmentVariable(Token);
                                   },
+                              .showManual =
+                                  [this] {
+                                      ++timesManualShown;
+                                      tokenSeen = qEnvironmentVariable(Token);
+                                  },
                               .giveWay =
                                   [this] {
                                       ++timesGivenWay;
@@ -68,8 +73,10 @@ public:
     }
 
     int timesForward = 0;
+    int timesManualShown = 0;
     int timesGivenWay = 0;
-    /// The leave to take the focus that the toolkit found when the window came forward.
+    /// The leave to take the focus that the toolkit found when the window came forward, or the
+    /// manual was shown.
     QString tokenSeen;
 
 private:
@@ -181,6 +188,17 @@ TEST_F(OneProgramInASession, ADesktopBringsTheProgramForwardInEachOfItsThreeWays
     EXPECT_TRUE(isObeyed("Open", {QStringList{"file:///etc/passwd"}, leave}));
     EXPECT_TRUE(isObeyed("ActivateAction", {QString("clear-all"), QVariantList(), leave}));
     EXPECT_EQ(first.timesForward, 3);
+    EXPECT_EQ(first.timesManualShown, 0);
+    EXPECT_EQ(first.tokenSeen, "of-the-desktop");
+    EXPECT_FALSE(qEnvironmentVariableIsSet(Token)) << "programs started later must not use it";
+}
+
+TEST_F(OneProgramInASession, ADesktopHasItShowTheManual) {
+    EXPECT_TRUE(first.takePlace());
+    EXPECT_TRUE(isObeyed("ActivateAction", {QString("manual"), QVariantList(),
+                                            QVariantMap{{"activation-token", "of-the-desktop"}}}));
+    EXPECT_EQ(first.timesManualShown, 1);
+    EXPECT_EQ(first.timesForward, 0);
     EXPECT_EQ(first.tokenSeen, "of-the-desktop");
     EXPECT_FALSE(qEnvironmentVariableIsSet(Token)) << "programs started later must not use it";
 }
@@ -204,7 +222,7 @@ TEST_F(OneProgramInASession, TheBusCanCallNothingElse) {
         EXPECT_FALSE(isObeyed(method, {})) << method;
     }
     EXPECT_TRUE(first.hasName());
-    EXPECT_EQ(first.timesForward + first.timesGivenWay, 0);
+    EXPECT_EQ(first.timesForward + first.timesManualShown + first.timesGivenWay, 0);
 }
 
 TEST_F(OneProgramInASession, ANameHeldByWhoHasNoWindowToShowStopsNobody) {

@@ -33,6 +33,8 @@ public:
     /// The user starts the program once more. True when the running copy has given way; otherwise
     /// it has been asked to come forward.
     bool startAgain();
+    /// The user asks for the manual where the program is started, in the menu say.
+    void askForManual() { m_later.showManual(); }
     /// Another copy has the session's place, and a window.
     void setOtherRuns() { m_otherRuns = true; }
     /// How often the other copy was asked to come forward.
