@@ -273,6 +273,10 @@ private:
     [[nodiscard]] IOReturn readSecureAreaDiskNumber(std::uint32_t& diskNumber);
     void copyFilesBesideBundle(const std::filesystem::path& volume);
 
+    // device/AppDelegate_Volumes.cpp
+    /// Whether that volume is mounted, or stands open on another one.
+    [[nodiscard]] bool isInUse(const std::string& bsdName) const;
+
     // session/AppDelegate_Messages.cpp: every message and every pause goes through these, so
     // that the gate is closed while the message is up or the pause lasts.
     /// True when the command failed, which ErrorMessageBox has reported then.
@@ -304,6 +308,7 @@ private:
     /// What stood in the way of the lock, if anything; it has been reported, unless the drive
     /// itself refused.
     [[nodiscard]] IOReturn releaseAndLock();
+    void leaveLockedNotice();
 
     // session/AppDelegate_Timer.cpp
     void tickSetup();

@@ -27,13 +27,8 @@ bool AppDelegate::UnmountVolume(const std::vector<std::string>& bsdNames, std::u
         m_platform.desktop.keepAwake(localized("IDS_AWAKE_RELEASE").toStdString());
     bool allSucceeded = true;
     for (const std::string& name : bsdNames) {
-        // Read afresh for each name: ejecting a disk has unmounted its partitions too.
-        const auto mounted = m_platform.mounts.getmntinfo();
-        const bool isMounted =
-            std::ranges::find(mounted, "/dev/" + name, &MountedFileSystem::f_mntfromname) !=
-            mounted.end();
-        // Open is as bad as mounted: the drive would be locked under an encrypted volume.
-        if (!isMounted && !m_platform.disks.isStacked(name)) {
+        // Asked afresh for each name: ejecting a disk has unmounted its partitions too.
+        if (!isInUse(name)) {
             continue;
         }
         const EventGate::Closing closing(m_gate);
@@ -41,6 +36,14 @@ bool AppDelegate::UnmountVolume(const std::vector<std::string>& bsdNames, std::u
         allSucceeded = done && allSucceeded;
     }
     return allSucceeded;
+}
+
+/// Open is as bad as mounted: the drive would be locked, or pulled, under an encrypted volume.
+bool AppDelegate::isInUse(const std::string& bsdName) const {
+    const auto mounted = m_platform.mounts.getmntinfo();
+    return std::ranges::find(mounted, "/dev/" + bsdName, &MountedFileSystem::f_mntfromname) !=
+               mounted.end() ||
+           m_platform.disks.isStacked(bsdName);
 }
 
 bool AppDelegate::SpinUpDrive() {

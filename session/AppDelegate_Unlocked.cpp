@@ -4,6 +4,8 @@
 #include "platform/Desktop.h"
 #include "platform/Result.h"
 
+#include <algorithm>
+
 namespace zelto {
 
 void AppDelegate::DisplayUnlockedWindow() {
@@ -45,7 +47,7 @@ void AppDelegate::UnlockingSetupAction() {
 void AppDelegate::Logout() {
     switch (releaseAndLock()) {
     case kIOReturnSuccess:
-        LeaveNotice(Desktop::Notice::Weight::Passing, "IDS_NOTICE_LOCKED");
+        leaveLockedNotice();
         break;
     case kIOReturnNoDevice:
         break; // Without power it is locked, and whoever pulled it knows.
@@ -70,6 +72,16 @@ IOReturn AppDelegate::releaseAndLock() {
     }
     // Nothing more can be done about a drive that does not lock: its volumes are gone all the same.
     return TKVR21_Logout(Device(), 0);
+}
+
+/// The normal areas stay mounted: to pull the drive may cost what was written there last.
+void AppDelegate::leaveLockedNotice() {
+    constexpr std::uint8_t AllAreas = 0;
+    GetBsdNameList(AllAreas);
+    const bool mayBeUnplugged = std::ranges::none_of(
+        g_BsdNameList, [this](const std::string& name) { return isInUse(name); });
+    LeaveNotice(Desktop::Notice::Weight::Passing,
+                mayBeUnplugged ? "IDS_NOTICE_LOCKED" : "IDS_NOTICE_LOCKED_IN_USE");
 }
 
 } // namespace zelto

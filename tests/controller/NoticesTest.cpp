@@ -1,7 +1,10 @@
+#include "device/IORegistry.h"
 #include "tests/support/ScriptedDesktop.h"
 #include "tests/support/SettingsBench.h"
 
 #include <gmock/gmock.h>
+
+#include <string_view>
 
 namespace zelto::test {
 namespace {
@@ -21,6 +24,15 @@ protected:
         start();
         logIn(QStringLiteral("first"));
     }
+    /// As a person does it in the file manager: all of the drive's volumes but the secure one.
+    void ejectOtherVolumes() {
+        for (const auto& line : computer.mounts.getmntinfo()) {
+            if (line.f_mntonname == "/media/user/PUBLIC" ||
+                line.f_mntonname == "/media/user/ZELTO TOOL") {
+                EXPECT_TRUE(computer.mounts.unmount(line.f_mntfromname.substr(DevFolder.size())));
+            }
+        }
+    }
     void confirm(const char* button) {
         alerts.answer(AlertButton::Alternate);
         press(button);
@@ -39,14 +51,43 @@ protected:
         EXPECT_THAT(desktop->notices(), IsEmpty());
     }
 
+    /// Of plugPreparedDrive's drive.
+    static constexpr std::uint8_t NormalArea = 1;
+    static constexpr std::string_view DevFolder = "/dev/";
     std::shared_ptr<ScriptedDesktop> desktop = std::make_shared<ScriptedDesktop>();
 };
 
-TEST_F(Notices, AfterLogOffTheDriveMayBeUnplugged) {
+TEST_F(Notices, AfterLogOffADriveOfWhichNothingIsMountedMayBeUnplugged) {
     unlock();
+    ejectOtherVolumes();
     press("UnlockingLogOff");
     expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED");
     EXPECT_EQ(desktop->notices().front().text, "The drive is locked. It can be unplugged.");
+}
+
+TEST_F(Notices, AfterLogOffTheVolumesThatStayMountedAreToBeEjectedFirst) {
+    unlock();
+    press("UnlockingLogOff");
+    expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED_IN_USE");
+    EXPECT_EQ(desktop->notices().front().text,
+              "The drive is locked. Eject its other volumes before you unplug it.");
+}
+
+TEST_F(Notices, AnEncryptedVolumeThatStaysOpenInANormalAreaIsToBeEjectedFirst) {
+    unlock();
+    ejectOtherVolumes();
+    app().GetBsdNameList(NormalArea);
+    computer.disks.stack({.bsdName = "dm0", .below = g_BsdNameList.front()});
+    press("UnlockingLogOff");
+    expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED_IN_USE");
+}
+
+TEST_F(Notices, WhatIsMountedOfOtherDisksKeepsNoDriveFromBeingUnplugged) {
+    unlock();
+    ejectOtherVolumes();
+    computer.mounts.addForeign({"/media/user/OTHER", "/dev/disk7s1"});
+    press("UnlockingLogOff");
+    expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED");
 }
 
 TEST_F(Notices, NothingIsSaidBeforeTheDriveHasLocked) {
@@ -58,7 +99,7 @@ TEST_F(Notices, NothingIsSaidBeforeTheDriveHasLocked) {
         },
         {});
     press("UnlockingLogOff");
-    expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED");
+    expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED_IN_USE");
 }
 
 TEST_F(Notices, ABusyVolumeLeavesThatTheDriveIsStillUnlocked) {
@@ -135,7 +176,7 @@ TEST_F(Notices, ADriveThatWasNotClearedIsNotCalledSo) {
 TEST_F(Notices, AnErasedKeyLeavesWhatTheLogOffDoes) {
     beginWithSettingsOf({});
     confirm("EraseEncryptionKeyButton");
-    expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED");
+    expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED_IN_USE");
 }
 
 TEST_F(Notices, ASetUpThatItsWindowHasCalledFinishedLeavesNothing) {

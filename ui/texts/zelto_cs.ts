@@ -1078,6 +1078,11 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Jednotka je zamčená. Lze ji odpojit.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>Jednotka je zamčená. Než ji odpojíte, vysuňte její ostatní svazky.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1078,6 +1078,11 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Das Laufwerk ist gesperrt. Es kann abgezogen werden.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>Das Laufwerk ist gesperrt. Werfen Sie seine anderen Datenträger aus, bevor Sie es abziehen.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1063,6 +1063,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1078,6 +1078,11 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>La unidad está bloqueada. Se puede desconectar.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>La unidad está bloqueada. Expulse sus otros volúmenes antes de desconectarla.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

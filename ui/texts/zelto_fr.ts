@@ -1078,6 +1078,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Le disque est verrouillé. Il peut être débranché.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>Le disque est verrouillé. Éjectez ses autres volumes avant de le débrancher.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1078,6 +1078,11 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>L’unità è bloccata. Può essere scollegata.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>L’unità è bloccata. Espellere gli altri suoi volumi prima di scollegarla.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1078,6 +1078,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>드라이브가 잠겼습니다. 이제 빼도 됩니다.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>드라이브가 잠겼습니다. 빼기 전에 드라이브의 다른 볼륨을 꺼내세요.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

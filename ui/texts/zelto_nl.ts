@@ -1078,6 +1078,11 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Het station is vergrendeld. Het kan worden losgekoppeld.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>Het station is vergrendeld. Werp de andere volumes ervan uit voordat u het loskoppelt.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

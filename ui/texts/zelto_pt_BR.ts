@@ -1078,6 +1078,11 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>A unidade está bloqueada. Ela pode ser desconectada.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>A unidade está bloqueada. Ejete os outros volumes dela antes de desconectá-la.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1078,6 +1078,11 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Sürücü kilitli. Çıkarılabilir.</translation>
     </message>
+    <message id="IDS_NOTICE_LOCKED_IN_USE">
+        <source>The drive is locked. Eject its other volumes before you unplug it.</source>
+        <extracomment>A notification on the desktop after the program has closed; the drive’s normal areas are still mounted</extracomment>
+        <translation>Sürücü kilitli. Çıkarmadan önce diğer birimlerini de ayırın.</translation>
+    </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
         <source>The drive is still unlocked. Start this program again to log off.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -11,6 +11,9 @@ from ring.runner import scenario
 from ring.screen_reader import ScreenReader
 from scenarios import flows, portable, set_up
 
+# After a log-off: the normal volume stays mounted.
+LOCKED_IN_USE = "The drive is locked. Eject its other volumes before you unplug it."
+
 
 def notice(urgency, limit, text):
     return {"program": "ZELTO DISK", "title": "ZELTO DISK", "urgency": urgency, "limit": limit,
@@ -36,6 +39,9 @@ def set_up_drive(ring):
 
 
 def wait_until_mounted(drive):
+    """The normal volume, too: it was mounted, or is about to be, when the drive was plugged in."""
+    wait_for("the desktop has mounted the normal volume",
+             lambda: volumes.mount_point(volumes.disk(drive.serial, 1)))
     return wait_for("the desktop has mounted it",
                     lambda: volumes.mount_point(volumes.partition(drive.serial, drive.secure_unit)))
 
@@ -59,7 +65,7 @@ def a_plug_opens_the_window_and_the_desktop_mounts_what_a_log_in_unlocks(ring):
     flows.expect_locked(drive)
     expect("the volume is gone", not os.path.ismount(folder))
     expect_equal("what the desktop was given to show", notices.shown(),
-                 [notice(NORMAL, -1, "The drive is locked. It can be unplugged.")])
+                 [notice(NORMAL, -1, LOCKED_IN_USE)])
 
 
 @scenario
@@ -92,7 +98,7 @@ def a_terminal_in_the_volume_keeps_the_drive_unlocked_and_is_named(ring):
     flows.log_off(program, drive)
     expect_equal("what the desktop was given to show", notices.shown(), [
         notice(CRITICAL, 0, "The drive is still unlocked. Start this program again to log off."),
-        notice(NORMAL, -1, "The drive is locked. It can be unplugged.")])
+        notice(NORMAL, -1, LOCKED_IN_USE)])
 
 
 @scenario
