@@ -147,7 +147,7 @@ public:
     void MainSettingsSetTimeAction();
     void UpdateCheckBoxShowRemainingTime();
     /// Despite its name it writes to the drive, not to the computer.
-    void UpdateUserDefaultsShowRemainingTime();
+    [[nodiscard]] IOReturn UpdateUserDefaultsShowRemainingTime();
 
     // --- Messages: session/AppDelegate_Messages.cpp -------------------------------------------
 

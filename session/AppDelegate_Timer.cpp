@@ -162,10 +162,9 @@ void AppDelegate::UpdateCheckBoxShowRemainingTime() {
     showSecurity(withRemainingTime(shownSecurity(), readShowRemainingTime(Device())));
 }
 
-void AppDelegate::UpdateUserDefaultsShowRemainingTime() {
-    // Ignored: everything else has been accepted by now, and the program can end.
-    (void)writeShowRemainingTime(Device(),
-                                 MainSettingsWindow->ShowRemainingTimeCheckBox->isChecked());
+IOReturn AppDelegate::UpdateUserDefaultsShowRemainingTime() {
+    return writeShowRemainingTime(Device(),
+                                  MainSettingsWindow->ShowRemainingTimeCheckBox->isChecked());
 }
 
 } // namespace zelto

@@ -22,13 +22,17 @@ void AppDelegate::MainSettingsOKAction() {
         return;
     }
     Settings.wipeSecrets();
-    UpdateUserDefaultsShowRemainingTime();
+    // All else has been accepted by now, so a failure stops nothing; but what was not written has
+    // not been changed.
+    const IOReturn written = UpdateUserDefaultsShowRemainingTime();
     if (Settings.InitialSetting) {
         beginSetupProgress();
-    } else {
-        LeaveNotice(Desktop::Notice::Weight::Passing, "IDS_NOTICE_SETTINGS_CHANGED");
-        TerminateApplication();
+        return;
     }
+    if (written == kIOReturnSuccess) {
+        LeaveNotice(Desktop::Notice::Weight::Passing, "IDS_NOTICE_SETTINGS_CHANGED");
+    }
+    TerminateApplication();
 }
 
 void AppDelegate::MainSettingsCancelAction() {

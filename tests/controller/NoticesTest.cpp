@@ -160,6 +160,16 @@ TEST_F(Notices, SettingsThatWereRefusedAreNotCalledChanged) {
     expectNoneLeft();
 }
 
+TEST_F(Notices, ASettingThatWasNotWrittenIsNotCalledChanged) {
+    beginWithSettingsOf({});
+    check("ShowRemainingTimeCheckBox", !isChecked("ShowRemainingTimeCheckBox"));
+    failCommand("TKVR21_ZELTO_WriteHintData", {.result = kIOUSBPipeStalled});
+    commit();
+    EXPECT_EQ(all("TKVR21_ZELTO_WriteHintData").size(), 1U);
+    EXPECT_THAT(messages(), IsEmpty());
+    expectNoneLeft();
+}
+
 TEST_F(Notices, AClearedDriveIsSaid) {
     beginWithSettingsOf({});
     confirm("MainSettingsClearAllButton");

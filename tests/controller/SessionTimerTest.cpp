@@ -159,7 +159,7 @@ TEST_F(SetClockTest, AHintByteWithOtherBitsIsShownAsCheckedAndWrittenBackAsOne) 
     forge(HintReadCode, [](ForgedReplies::Reply& reply) { reply.data[0] = 0x03; });
     beginInSettings({});
     EXPECT_TRUE(isChecked("ShowRemainingTimeCheckBox"));
-    app().UpdateUserDefaultsShowRemainingTime();
+    EXPECT_EQ(app().UpdateUserDefaultsShowRemainingTime(), kIOReturnSuccess);
     const auto* write = computer.log.latest("TKVR21_ZELTO_WriteHintData");
     ASSERT_NE(write, nullptr);
     EXPECT_EQ(write->data, std::vector<std::uint8_t>{0x01});
