@@ -103,6 +103,8 @@ void AppDelegate::formatAndCopy(const SetupProgress& before) {
         return;
     }
     showSetup(setupDone());
+    // Here, not with Finish: the window can be closed in other ways as well.
+    LeaveNotice(Desktop::Notice::Weight::Passing, "IDS_NOTICE_SET_UP");
 }
 
 void AppDelegate::showSetup(const SetupView& view) {

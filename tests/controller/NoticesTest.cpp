@@ -11,6 +11,7 @@ namespace {
 
 using simulator::DiskVerb;
 using simulator::ToolBehaviour;
+using testing::ElementsAre;
 using testing::IsEmpty;
 using Weight = Desktop::Notice::Weight;
 
@@ -189,12 +190,22 @@ TEST_F(Notices, AnErasedKeyLeavesWhatTheLogOffDoes) {
     expectLeft(Weight::Passing, "IDS_NOTICE_LOCKED_IN_USE");
 }
 
-TEST_F(Notices, ASetUpThatItsWindowHasCalledFinishedLeavesNothing) {
+TEST_F(Notices, AFinishedSetUpIsSaid) {
     begin();
     fill({});
     commit();
     tick(10);
     press("ZeltoSettingOKButton");
+    expectLeft(Weight::Passing, "IDS_NOTICE_SET_UP");
+}
+
+TEST_F(Notices, ASetUpThatFailedIsNotCalledFinished) {
+    begin();
+    fill({});
+    computer.diskTool.setBehaviour(DiskVerb::EraseDisk, ToolBehaviour::Fails);
+    commit();
+    tick(10);
+    EXPECT_THAT(messages(), ElementsAre(localized("IDS_ERR_FORMAT")));
     expectNoneLeft();
 }
 

@@ -1098,6 +1098,11 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Vše na jednotce bylo vymazáno. Odpojte ji a připojte, potom spusťte tento program, abyste ji znovu nastavili.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Jednotka je nastavena. Každou oblast před použitím jednou naformátujte.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

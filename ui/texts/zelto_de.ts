@@ -1098,6 +1098,11 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Alles auf dem Laufwerk wurde gelöscht. Ziehen Sie es ab, stecken Sie es wieder ein und starten Sie dann dieses Programm, um es neu einzurichten.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Das Laufwerk ist eingerichtet. Formatieren Sie jeden Bereich einmal, bevor Sie ihn verwenden.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

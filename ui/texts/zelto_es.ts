@@ -1098,6 +1098,11 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Se ha borrado todo en la unidad. Desconéctela y vuelva a conectarla; después, inicie este programa para configurarla de nuevo.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>La unidad está configurada. Formatee cada área una vez antes de usarla.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1098,6 +1098,11 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Tout le contenu du disque a été effacé. Débranchez-le et rebranchez-le, puis relancez ce programme pour le configurer à nouveau.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Le disque est configuré. Formatez chaque zone une fois avant de l’utiliser.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

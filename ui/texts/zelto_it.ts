@@ -1098,6 +1098,11 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Tutto ciò che era sull’unità è stato cancellato. Scollegarla e ricollegarla, quindi avviare questo programma per configurarla di nuovo.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>L’unità è configurata. Formattare ciascuna area una volta prima di usarla.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

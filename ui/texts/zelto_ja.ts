@@ -1098,6 +1098,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>ドライブの内容をすべて消去しました。抜き差ししてからこのプログラムを起動し、もう一度セットアップしてください。</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>ドライブのセットアップが終わりました。使う前に各領域を 1 回フォーマットしてください。</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

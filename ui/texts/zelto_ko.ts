@@ -1098,6 +1098,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>드라이브의 내용을 모두 지웠습니다. 드라이브를 뺐다가 다시 연결하고 이 프로그램을 시작하여 다시 초기 설정하세요.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>드라이브 초기 설정을 마쳤습니다. 사용하기 전에 각 영역을 한 번 포맷하세요.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1098,6 +1098,11 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Alles op het station is gewist. Koppel het los en weer aan en start dan dit programma om het opnieuw in te stellen.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Het station is ingesteld. Formatteer elk gebied eenmaal voordat u het gebruikt.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1098,6 +1098,11 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Wszystko na napędzie zostało wyczyszczone. Odłącz go i podłącz, a potem uruchom ten program, aby skonfigurować go na nowo.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Napęd jest skonfigurowany. Sformatuj każdy obszar raz przed użyciem.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

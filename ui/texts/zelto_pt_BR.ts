@@ -1098,6 +1098,11 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Tudo na unidade foi limpo. Desconecte-a e reconecte-a; depois, inicie este programa para configurá-la de novo.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>A unidade está configurada. Formate cada área uma vez antes de usá-la.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

@@ -1098,6 +1098,11 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>Sürücüdeki her şey temizlendi. Çıkarıp takın, sonra yeniden kurmak için bu programı başlatın.</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>Sürücü kuruldu. Her alanı kullanmadan önce bir kez biçimlendirin.</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

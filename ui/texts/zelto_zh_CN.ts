@@ -1098,6 +1098,11 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <extracomment>A notification on the desktop after the program has closed</extracomment>
         <translation>驱动器上的所有内容已清除。请拔出并重新插入，然后启动此程序重新进行初始设置。</translation>
     </message>
+    <message id="IDS_NOTICE_SET_UP">
+        <source>The drive is set up. Format each area once before you use it.</source>
+        <extracomment>A notification on the desktop after the program has closed</extracomment>
+        <translation>驱动器已设置完成。使用各区域前，请分别格式化一次。</translation>
+    </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>

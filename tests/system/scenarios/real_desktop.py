@@ -113,7 +113,8 @@ def a_new_drive_is_set_up_behind_the_desktops_back(ring):
     program.picture("desktop-set-up")
     program.click("ZeltoSettingOKButton")
     program.wait_for_end()
-    expect_equal("what the desktop was given to show", notices.shown(), [])
+    expect_equal("what the desktop was given to show", notices.shown(), [
+        notice(NORMAL, -1, "The drive is set up. Format each area once before you use it.")])
     set_up.check_tool_area(ring, drive, 3)
 
 
