@@ -57,9 +57,13 @@ class RealDesktop(Desktop):
     def open_folder(self, ring, folder):
         """In the file manager."""
         ring.start_as_user(["thunar", folder])
+        wait_for(f"the file manager shows {folder}", lambda: self.shows_folder(folder))
+
+    def shows_folder(self, folder):
+        """Whether a window of the file manager does."""
         name = folder.rpartition("/")[2]
-        wait_for(f"the file manager shows {name}", lambda: any(
-            re.match(f"[Tt]hunar: {name}", window) for window in self._look_around()[1].split("\n")))
+        return any(re.match(f"[Tt]hunar: {name}", window)
+                   for window in self._look_around()[1].split("\n"))
 
     def press_button(self, window, button):
         """Of any program, once it is there."""

@@ -69,7 +69,7 @@ def a_plug_opens_the_window_and_the_desktop_mounts_what_a_log_in_unlocks(ring):
 
 
 @scenario
-def a_terminal_in_the_volume_keeps_the_drive_unlocked_and_is_named(ring):
+def a_terminal_in_the_volume_keeps_the_drive_unlocked_and_a_file_manager_does_not(ring):
     drive = set_up_drive(ring)
     notices = Notices(ring)
     program = flows.log_in(ring, drive)
@@ -83,7 +83,6 @@ def a_terminal_in_the_volume_keeps_the_drive_unlocked_and_is_named(ring):
     program = ring.start_program("UnlockingWindow")
     wait_for("it has the keyboard", lambda: program.has_focus("UnlockingLogOff"))
     program.picture("desktop")
-    # What the file manager shows keeps nobody from locking it, where somebody works does.
     terminal = ring.start_as_user(ring.desktop.terminal(), cwd=folder)
     wait_for("the terminal's shell runs", lambda: folder in shells(ring))
     program.click("UnlockingLogOff")
@@ -95,6 +94,7 @@ def a_terminal_in_the_volume_keeps_the_drive_unlocked_and_is_named(ring):
     terminal.kill()
     terminal.wait()
     program = ring.start_program("UnlockingWindow")
+    expect("the file manager still shows the volume", ring.desktop.shows_folder(folder))
     flows.log_off(program, drive)
     expect_equal("what the desktop was given to show", notices.shown(), [
         notice(CRITICAL, 0, "The drive is still unlocked. Start this program again to log off."),
