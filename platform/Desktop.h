@@ -20,9 +20,9 @@ public:
     Desktop& operator=(const Desktop&) = delete;
     virtual ~Desktop() = default;
 
-    /// Keeps the computer from going to sleep and from being shut down unasked, as long as the
-    /// result lives. `why` is shown to whoever asks what keeps it awake. May block for a fraction
-    /// of a second; null when the computer cannot be kept awake.
+    /// Keeps the computer from sleep and from being shut down unasked, and its user from being
+    /// logged out where the desktop can, as long as the result lives. `why` is shown to whoever
+    /// asks what keeps it awake. May block for a fraction of a second; null when nothing is kept.
     [[nodiscard]] virtual Hold keepAwake(const std::string& /*why*/) { return nullptr; }
 
     /// What a later start of the program does to the copy that has the session's place. Called from

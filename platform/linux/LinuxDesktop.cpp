@@ -17,13 +17,39 @@
 namespace zelto::linux_platform {
 namespace {
 
-/// A computer whose login service does not answer is not kept awake, and nobody waits for it.
+/// A computer whose login service does not answer is not kept awake, and nobody waits for it. Nor
+/// for a session manager.
 constexpr int InhibitMilliseconds = 2000;
+
+QDBusMessage sessionManagerCall(const QString& method, const QVariantList& arguments) {
+    const QString manager = QStringLiteral("org.gnome.SessionManager");
+    auto call = QDBusMessage::createMethodCall(manager, QStringLiteral("/org/gnome/SessionManager"),
+                                               manager, method);
+    call.setAutoStartService(false); // One that does not lead the session could not hold it.
+    call.setArguments(arguments);
+    return call;
+}
+
+/// A session manager's promise not to log the user out, until this goes.
+class LogOutInhibitor {
+public:
+    LogOutInhibitor(QDBusConnection bus, uint cookie) : m_bus(std::move(bus)), m_cookie(cookie) {}
+    LogOutInhibitor(const LogOutInhibitor&) = delete;
+    LogOutInhibitor& operator=(const LogOutInhibitor&) = delete;
+    ~LogOutInhibitor() {
+        (void)m_bus.send(sessionManagerCall(QStringLiteral("Uninhibit"), {m_cookie}));
+    }
+
+private:
+    QDBusConnection m_bus;
+    uint m_cookie;
+};
 
 } // namespace
 
 LinuxDesktop::LinuxDesktop(Bus systemBus, const Bus& sessionBus, const Waiting& waiting)
     : m_systemBus(std::move(systemBus)),
+      m_sessionBus(sessionBus),
       m_notifications(sessionBus),
       m_place(sessionBus, waiting) {}
 
@@ -32,6 +58,12 @@ LinuxDesktop::~LinuxDesktop() {
 }
 
 Desktop::Hold LinuxDesktop::keepAwake(const std::string& why) {
+    using Both = std::pair<Hold, Hold>;
+    const Both both{holdOffShutdown(why), holdOffLogOut(why)};
+    return both.first || both.second ? std::make_shared<Both>(both) : nullptr;
+}
+
+Desktop::Hold LinuxDesktop::holdOffShutdown(const std::string& why) const {
     auto call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1"),
         QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Inhibit"));
@@ -44,6 +76,20 @@ Desktop::Hold LinuxDesktop::keepAwake(const std::string& why) {
     }
     // The inhibitor is given back when the last copy of the descriptor is closed.
     return std::make_shared<QDBusUnixFileDescriptor>(reply.value());
+}
+
+/// A log-out is no shutdown: it is the session manager's, and logind lets it happen.
+Desktop::Hold LinuxDesktop::holdOffLogOut(const std::string& why) const {
+    constexpr uint NoWindow = 0;
+    constexpr uint LogOut = 1;
+    constexpr uint Suspend = 4;
+    const QDBusConnection bus = m_sessionBus();
+    const QDBusReply<uint> cookie =
+        bus.call(sessionManagerCall(QStringLiteral("Inhibit"),
+                                    {QString::fromLatin1(SessionPlace::Name), NoWindow,
+                                     QString::fromStdString(why), LogOut | Suspend}),
+                 QDBus::Block, InhibitMilliseconds);
+    return cookie.isValid() ? std::make_shared<LogOutInhibitor>(bus, cookie.value()) : nullptr;
 }
 
 bool LinuxDesktop::takePlace(const LaterStart& later) {

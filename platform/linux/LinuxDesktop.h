@@ -12,8 +12,8 @@
 
 namespace zelto::linux_platform {
 
-/// The desktop session: logind's inhibitors on the system bus, the program's place and its notices
-/// on the session bus, and the toolkit's session management.
+/// The desktop session: logind's inhibitors on the system bus; the session manager's, the program's
+/// place and its notices on the session bus; and the toolkit's session management.
 class LinuxDesktop final : public Desktop {
 public:
     using Bus = std::function<QDBusConnection()>;
@@ -33,7 +33,11 @@ public:
     void setSessionEndHandler(const std::function<bool()>& mayEnd) override;
 
 private:
+    [[nodiscard]] Hold holdOffShutdown(const std::string& why) const;
+    [[nodiscard]] Hold holdOffLogOut(const std::string& why) const;
+
     Bus m_systemBus;
+    Bus m_sessionBus;
     Notifications m_notifications;
     // Goes before them: while notices are shown nobody is to bring this program forward.
     SessionPlace m_place;
