@@ -1199,9 +1199,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>فقدان البيانات</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>البرنامج الموجود على وحدة التخزين هذه تالف. ثبّته من جديد أو أعِدّ القرص من جديد.</translation>
+        <translation>البرنامج الموجود على وحدة التخزين هذه تالف. استخدم القرص بالبرنامج المثبّت على حاسوب؛ لا حاجة إلى محو أي ملف.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

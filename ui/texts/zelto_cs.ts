@@ -1199,9 +1199,9 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <translation>Ztráta dat</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>Program na tomto svazku je poškozený. Nainstalujte jej znovu, nebo jednotku znovu nastavte.</translation>
+        <translation>Program na tomto svazku je poškozený. Používejte jednotku s programem nainstalovaným v počítači; žádný soubor není třeba mazat.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

@@ -1199,9 +1199,9 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <translation>Datenverlust</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>Das Programm auf diesem Datenträger ist beschädigt. Installieren Sie es neu oder richten Sie das Laufwerk neu ein.</translation>
+        <translation>Das Programm auf diesem Datenträger ist beschädigt. Verwenden Sie das Laufwerk mit dem Programm, das auf einem Computer installiert ist; es muss keine Datei gelöscht werden.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

@@ -1184,7 +1184,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
         <translation type="unfinished"></translation>
     </message>

@@ -1199,9 +1199,9 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <translation>Pérdida de datos</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>El programa de este volumen está dañado. Instálelo de nuevo o vuelva a configurar la unidad.</translation>
+        <translation>El programa de este volumen está dañado. Use la unidad con el programa instalado en un equipo; no hace falta borrar ningún archivo.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

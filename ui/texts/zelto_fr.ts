@@ -1199,9 +1199,9 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <translation>Perte de données</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>Le programme qui se trouve sur ce volume est endommagé. Installez-le de nouveau ou configurez de nouveau le disque.</translation>
+        <translation>Le programme qui se trouve sur ce volume est endommagé. Utilisez le disque avec le programme installé sur un ordinateur. Il n’est pas nécessaire d’effacer des fichiers.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

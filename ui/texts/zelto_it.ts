@@ -1199,9 +1199,9 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <translation>Perdita di dati</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>Il programma su questo volume è danneggiato. Installarlo di nuovo o configurare di nuovo l’unità.</translation>
+        <translation>Il programma su questo volume è danneggiato. Usare l’unità con il programma installato su un computer; non occorre cancellare alcun file.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

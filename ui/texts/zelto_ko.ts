@@ -1199,9 +1199,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>데이터 손실</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>이 볼륨의 프로그램이 손상되었습니다. 다시 설치하거나 드라이브를 다시 초기 설정하세요.</translation>
+        <translation>이 볼륨의 프로그램이 손상되었습니다. 컴퓨터에 설치된 프로그램으로 드라이브를 사용하세요. 파일을 지울 필요는 없습니다.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

@@ -1199,9 +1199,9 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <translation>Gegevensverlies</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>Het programma op dit volume is beschadigd. Installeer het opnieuw of stel het station opnieuw in.</translation>
+        <translation>Het programma op dit volume is beschadigd. Gebruik het station met het programma dat op een computer is geïnstalleerd; er hoeft geen bestand te worden gewist.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

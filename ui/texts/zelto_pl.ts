@@ -1199,9 +1199,9 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <translation>Utrata danych</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>Program na tym woluminie jest uszkodzony. Zainstaluj go ponownie albo skonfiguruj napęd na nowo.</translation>
+        <translation>Program na tym woluminie jest uszkodzony. Używaj napędu z programem zainstalowanym na komputerze; nie trzeba usuwać żadnych plików.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

@@ -1199,9 +1199,9 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <translation>Perda de dados</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>O programa neste volume está danificado. Instale-o de novo ou configure a unidade de novo.</translation>
+        <translation>O programa neste volume está danificado. Use a unidade com o programa instalado em um computador; não é preciso apagar nenhum arquivo.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

@@ -1199,9 +1199,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>Потеря данных</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>Программа на этом томе повреждена. Установите её снова или настройте накопитель заново.</translation>
+        <translation>Программа на этом томе повреждена. Используйте накопитель с программой, установленной на компьютере; удалять файлы не нужно.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

@@ -1199,9 +1199,9 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <translation>Veri kaybı</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>Bu birimdeki program bozulmuş. Yeniden yükleyin ya da sürücüyü yeniden kurun.</translation>
+        <translation>Bu birimdeki program bozulmuş. Sürücüyü bir bilgisayarda yüklü olan programla kullanın; hiçbir dosyanın silinmesi gerekmez.</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>

@@ -1199,9 +1199,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>数据丢失</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_VOLUME">
-        <source>The program on this volume is damaged. Install it again or set the drive up again.</source>
+        <source>The program on this volume is damaged. Use the drive with the program that is installed on a computer; no file has to be erased.</source>
         <extracomment>The starter’s message; the program does not start</extracomment>
-        <translation>此卷上的程序已损坏。请重新安装，或重新对驱动器进行初始设置。</translation>
+        <translation>此卷上的程序已损坏。请通过计算机上安装的程序使用驱动器；无需擦除任何文件。</translation>
     </message>
     <message id="IDS_STARTER_DAMAGED_COPY">
         <source>This copy of the program is damaged. Start it from the drive once more to replace it.</source>
