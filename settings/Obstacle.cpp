@@ -22,7 +22,7 @@ Obstacle passwordObstacle(QStringView password, const char* missingKey) {
         return {missingKey};
     }
     if (!isSingleByteText(password)) {
-        return {"IDS_HINT_PASSWORD_ACCENTS"};
+        return {"IDS_HINT_PASSWORD_SIGNS"};
     }
     return {isValidPassword(password) ? nullptr : "IDS_HINT_PASSWORD_TOO_LONG"};
 }

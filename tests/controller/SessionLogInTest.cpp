@@ -60,7 +60,7 @@ TEST_F(SessionLogInTest, WhyLogInStaysOffIsShownAndHeardWhileAPasswordIsTyped) {
     // As on a keyboard of another layout.
     type("AuthenticateTextField", QStringLiteral("\u0441\u0435\u043a\u0440\u0435\u0442"));
     EXPECT_TRUE(line->isVisible());
-    EXPECT_EQ(line->text(), localized("IDS_HINT_PASSWORD_ACCENTS"));
+    EXPECT_EQ(line->text(), localized("IDS_HINT_PASSWORD_SIGNS"));
     EXPECT_TRUE(field->accessibleDescription().contains(line->text()));
     type("AuthenticateTextField", QString(33, u'x'));
     EXPECT_EQ(line->text(), localized("IDS_HINT_PASSWORD_TOO_LONG"));

@@ -25,7 +25,7 @@ const AutoLogOffEntry NoLogOff{true, QStringLiteral("0")};
 TEST(LogInObstacle, IsWhatIsWrongWithWhatHasBeenTyped) {
     EXPECT_EQ(logInObstacle(u""), Nothing);
     EXPECT_EQ(logInObstacle(u"secret"), Nothing);
-    EXPECT_EQ(logInObstacle(u"\u0441"), Obstacle{"IDS_HINT_PASSWORD_ACCENTS"});
+    EXPECT_EQ(logInObstacle(u"\u0441"), Obstacle{"IDS_HINT_PASSWORD_SIGNS"});
     EXPECT_EQ(logInObstacle(u"12345678901234567890123456789012"), Nothing);
     EXPECT_EQ(logInObstacle(u"123456789012345678901234567890123"),
               Obstacle{"IDS_HINT_PASSWORD_TOO_LONG"});
@@ -109,7 +109,7 @@ TEST(PasswordObstacle, IsTheFirstThingThatIsMissingOrWrong) {
     const QString long33(33, u'a');
     const PasswordCase cases[] = {
         {__LINE__, false, "", "", "", "", "", {"IDS_HINT_FIRST_MISSING"}},
-        {__LINE__, false, u"\u00E9"_qs, "", "", "", "", {"IDS_HINT_PASSWORD_ACCENTS"}},
+        {__LINE__, false, u"\u00E9"_qs, "", "", "", "", {"IDS_HINT_PASSWORD_SIGNS"}},
         {__LINE__, false, long33, long33, "", "", "", {"IDS_HINT_PASSWORD_TOO_LONG"}},
         {__LINE__, false, "one", "", "", "", "", {"IDS_HINT_FIRST_AGAIN"}},
         {__LINE__, false, "one", "ono", "", "", "", {"IDS_HINT_FIRST_DIFFERS"}},

@@ -279,9 +279,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source>Next: enter the current second password.</source>
         <translation>التالي: أدخل كلمة السر الثانية الحالية.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>لا تُستخدم في كلمة السر إلا الحروف اللاتينية غير المشكّلة والأرقام والرموز.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>لا تُستخدم في كلمة السر إلا الحروف من A إلى Z والأرقام من 0 إلى 9 ورموز لوحة المفاتيح الأمريكية.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

@@ -279,9 +279,9 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <source>Next: enter the current second password.</source>
         <translation>Další krok: zadat současné druhé heslo.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>V hesle nelze použít písmena s diakritikou.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>V hesle lze použít jen písmena A až Z bez diakritiky, číslice a symboly americké klávesnice.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

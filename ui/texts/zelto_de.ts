@@ -279,9 +279,9 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <source>Next: enter the current second password.</source>
         <translation>Als Nächstes: das aktuelle zweite Passwort eingeben.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>Umlaute, ß und Buchstaben mit Akzenten sind in Passwörtern nicht möglich.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>In Passwörtern sind nur die Buchstaben A bis Z, Ziffern und die Zeichen einer US-Tastatur möglich.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

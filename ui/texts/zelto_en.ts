@@ -264,8 +264,8 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source>Next: enter the current second password.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">

@@ -279,9 +279,9 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <source>Next: enter the current second password.</source>
         <translation>Siguiente paso: introducir la segunda contraseña actual.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>En una contraseña no se pueden usar letras con tilde ni la eñe.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>En una contraseña solo se pueden usar las letras de la A a la Z sin tildes ni eñe, dígitos y los signos de un teclado estadounidense.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

@@ -279,9 +279,9 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <source>Next: enter the current second password.</source>
         <translation>Étape suivante&#xa0;: saisir le second mot de passe actuel.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>Les lettres accentuées ne peuvent pas être utilisées dans un mot de passe.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>Un mot de passe n’admet que les lettres de A à Z sans accent, les chiffres et les signes d’un clavier américain.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

@@ -279,9 +279,9 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <source>Next: enter the current second password.</source>
         <translation>Ora: inserire la seconda password attuale.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>In una password non si possono usare lettere accentate.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>In una password si possono usare solo le lettere dalla A alla Z senza accenti, le cifre e i segni di una tastiera americana.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

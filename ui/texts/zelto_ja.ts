@@ -279,9 +279,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source>Next: enter the current second password.</source>
         <translation>次に、現在の第 2 パスワードを入力してください。</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>パスワードには半角の英字、数字、記号だけを使えます。</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>パスワードに使えるのは、半角の英字と数字、英語キーボードにある記号だけです。</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

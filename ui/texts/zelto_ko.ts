@@ -279,9 +279,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source>Next: enter the current second password.</source>
         <translation>다음: 현재 두 번째 암호를 입력하세요.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>암호에는 영문자, 숫자, 기호만 쓸 수 있습니다.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>암호에는 영문자, 숫자, 영문 키보드에 있는 기호만 쓸 수 있습니다.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

@@ -279,9 +279,9 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <source>Next: enter the current second password.</source>
         <translation>Volgende stap: het huidige tweede wachtwoord invoeren.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>Letters met accenten kunnen niet in een wachtwoord worden gebruikt.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>In een wachtwoord kunnen alleen de letters A t/m Z, cijfers en de symbolen van een Amerikaans toetsenbord worden gebruikt.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

@@ -279,9 +279,9 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <source>Next: enter the current second password.</source>
         <translation>Następny krok: podaj bieżące drugie hasło.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>W haśle nie można używać polskich liter ani innych znaków diakrytycznych.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>W haśle można używać tylko liter od A do Z bez znaków diakrytycznych, cyfr i symboli z klawiatury amerykańskiej.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

@@ -279,9 +279,9 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <source>Next: enter the current second password.</source>
         <translation>Próximo passo: digitar a segunda senha atual.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>Letras com acento ou cedilha não podem ser usadas em uma senha.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>Em uma senha só podem ser usados letras de A a Z sem acento nem cedilha, dígitos e os símbolos de um teclado americano.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

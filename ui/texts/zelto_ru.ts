@@ -279,9 +279,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <source>Next: enter the current second password.</source>
         <translation>Далее: введите текущий второй пароль.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>Буквы в пароле могут быть только латинскими без диакритики.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>В пароле могут быть только латинские буквы от A до Z, цифры и знаки английской раскладки.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>

@@ -279,9 +279,9 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <source>Next: enter the current second password.</source>
         <translation>Sırada: geçerli ikinci parolayı girin.</translation>
     </message>
-    <message id="IDS_HINT_PASSWORD_ACCENTS">
-        <source>Letters with accents cannot be used in a password.</source>
-        <translation>Parolada Türkçeye özgü ya da aksanlı harfler kullanılamaz.</translation>
+    <message id="IDS_HINT_PASSWORD_SIGNS">
+        <source>Only the letters A to Z, digits and the signs of a US keyboard can be used in a password.</source>
+        <translation>Parolada yalnızca İngiliz alfabesinin harfleri (A–Z), rakamlar ve ABD klavyesindeki imler kullanılabilir.</translation>
     </message>
     <message id="IDS_HINT_PASSWORD_TOO_LONG">
         <source>A password has 32 characters at most.</source>
