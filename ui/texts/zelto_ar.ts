@@ -640,8 +640,8 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>محو المفتاح (&amp;ح)…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>يزيل كل المناطق وكلمات السر والإعدادات.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>يزيل كل المناطق بكل ملفاتها، وكل كلمات السر، وكل الإعدادات.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

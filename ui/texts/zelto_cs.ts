@@ -640,8 +640,8 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <translation>S&amp;mazat klíč…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Odstraní všechny oblasti, hesla a nastavení.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Odstraní všechny oblasti se všemi soubory, všechna hesla a všechna nastavení.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

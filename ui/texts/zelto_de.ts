@@ -640,8 +640,8 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <translation>S&amp;chlüssel löschen …</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Entfernt alle Bereiche, Passwörter und Einstellungen.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Entfernt alle Bereiche mit allen Dateien, alle Passwörter und alle Einstellungen.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

@@ -625,7 +625,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">

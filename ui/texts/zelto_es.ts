@@ -640,8 +640,8 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <translation>&amp;Borrar clave…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Elimina todas las áreas, las contraseñas y los ajustes.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Elimina todas las áreas con todos sus archivos, todas las contraseñas y todos los ajustes.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

@@ -640,8 +640,8 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <translation>&amp;Effacer la clé…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Supprime toutes les zones, tous les mots de passe et tous les paramètres.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Supprime toutes les zones avec tous leurs fichiers, tous les mots de passe et tous les paramètres.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

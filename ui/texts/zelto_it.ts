@@ -640,8 +640,8 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <translation>&amp;Cancella chiave…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Rimuove tutte le aree, le password e le impostazioni.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Rimuove tutte le aree con tutti i loro file, tutte le password e tutte le impostazioni.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

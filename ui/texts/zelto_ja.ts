@@ -640,8 +640,8 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>鍵を消去(&amp;Y)…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>すべての領域、パスワード、設定を消去します。</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>すべての領域とそのファイル、すべてのパスワード、すべての設定を消去します。</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

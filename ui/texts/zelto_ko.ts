@@ -640,8 +640,8 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>키 지우기(&amp;Y)…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>모든 영역, 암호, 설정을 지웁니다.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>모든 영역과 그 안의 파일, 모든 암호와 모든 설정을 지웁니다.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

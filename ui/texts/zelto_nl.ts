@@ -640,8 +640,8 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <translation>S&amp;leutel wissen…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Verwijdert alle gebieden, wachtwoorden en instellingen.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Verwijdert alle gebieden met al hun bestanden, alle wachtwoorden en alle instellingen.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

@@ -640,8 +640,8 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <translation>U&amp;suń klucz…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Usuwa wszystkie obszary, hasła i ustawienia.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Usuwa wszystkie obszary ze wszystkimi plikami, wszystkie hasła i wszystkie ustawienia.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

@@ -640,8 +640,8 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <translation>A&amp;pagar chave…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Remove todas as áreas, senhas e configurações.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Remove todas as áreas com todos os arquivos, todas as senhas e todas as configurações.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

@@ -640,8 +640,8 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>У&amp;далить ключ…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Удаляет все области, пароли и параметры.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Удаляет все области со всеми файлами, все пароли и все параметры.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

@@ -640,8 +640,8 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <translation>&amp;Anahtarı Sil…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>Tüm alanları, parolaları ve ayarları kaldırır.</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>Tüm dosyalarıyla birlikte tüm alanları, tüm parolaları ve tüm ayarları kaldırır.</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>

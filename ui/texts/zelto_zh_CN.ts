@@ -640,8 +640,8 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>擦除密钥(&amp;Y)…</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL_EXPLANATION">
-        <source>Clearing removes every area, password and setting.</source>
-        <translation>清除所有区域、密码和设置。</translation>
+        <source>Clearing removes every area with all its files, every password and every setting.</source>
+        <translation>清除所有区域及其文件、所有密码和所有设置。</translation>
     </message>
     <message id="IDS_SETTINGS_CLEAR_ALL">
         <source>Clear A&amp;ll…</source>
