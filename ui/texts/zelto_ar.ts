@@ -1084,9 +1084,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>القرص مقفل. أخرج وحدات التخزين الأخرى التي عليه قبل نزعه.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>ما زال القرص مفتوح القفل. شغّل هذا البرنامج مجددًا لتسجيل الخروج.</translation>
+        <translation>ما زال القرص مفتوح القفل. لإقفاله شغّل هذا البرنامج مجددًا.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

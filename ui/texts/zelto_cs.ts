@@ -1084,9 +1084,9 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
         <translation>Jednotka je zamčená. Než ji odpojíte, vysuňte její ostatní svazky.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>Jednotka je stále odemčená. Spusťte tento program znovu a odhlaste se.</translation>
+        <translation>Jednotka je stále odemčená. Chcete-li ji zamknout, spusťte tento program znovu.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

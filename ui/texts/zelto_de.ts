@@ -1084,9 +1084,9 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
         <translation>Das Laufwerk ist gesperrt. Werfen Sie seine anderen Datenträger aus, bevor Sie es abziehen.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>Das Laufwerk ist weiterhin entsperrt. Starten Sie dieses Programm noch einmal, um sich abzumelden.</translation>
+        <translation>Das Laufwerk ist weiterhin entsperrt. Um es zu sperren, starten Sie dieses Programm noch einmal.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

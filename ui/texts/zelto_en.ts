@@ -1069,7 +1069,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation type="unfinished"></translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
         <translation type="unfinished"></translation>
     </message>

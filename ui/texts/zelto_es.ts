@@ -1084,9 +1084,9 @@ Todo lo que hay en el área segura quedará ilegible para siempre, incluso con l
         <translation>La unidad está bloqueada. Expulse sus otros volúmenes antes de desconectarla.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>La unidad sigue desbloqueada. Vuelva a iniciar este programa para cerrar la sesión.</translation>
+        <translation>La unidad sigue desbloqueada. Para bloquearla, vuelva a iniciar este programa.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

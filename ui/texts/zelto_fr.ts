@@ -615,7 +615,7 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
         <source>Minutes without use until the drive logs off</source>
-        <translation>Minutes d’inactivité avant la déconnexion du disque</translation>
+        <translation>Minutes d’inactivité avant que le disque se verrouille</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_UNIT">
         <source>minutes without use</source>
@@ -1084,9 +1084,9 @@ Tout le contenu de la zone sécurisée deviendra définitivement illisible, mêm
         <translation>Le disque est verrouillé. Éjectez ses autres volumes avant de le débrancher.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>Le disque est toujours déverrouillé. Relancez ce programme pour vous déconnecter.</translation>
+        <translation>Le disque est toujours déverrouillé. Pour le verrouiller, relancez ce programme.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

@@ -615,7 +615,7 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
         <source>Minutes without use until the drive logs off</source>
-        <translation>Minuti di inattività prima che l’unità si disconnetta</translation>
+        <translation>Minuti di inattività prima che l’unità si blocchi</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_UNIT">
         <source>minutes without use</source>
@@ -1084,9 +1084,9 @@ Tutto ciò che si trova nell’area protetta diventerà illeggibile per sempre, 
         <translation>L’unità è bloccata. Espellere gli altri suoi volumi prima di scollegarla.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>L’unità è ancora sbloccata. Avviare di nuovo questo programma per disconnettersi.</translation>
+        <translation>L’unità è ancora sbloccata. Per bloccarla, avviare di nuovo questo programma.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

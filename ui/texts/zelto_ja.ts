@@ -1084,9 +1084,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>ドライブはロックされています。取り外す前に、ほかのボリュームを取り出してください。</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>ドライブはまだロック解除されたままです。ログアウトするには、このプログラムをもう一度起動してください。</translation>
+        <translation>ドライブはまだロック解除されたままです。ロックするには、このプログラムをもう一度起動してください。</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

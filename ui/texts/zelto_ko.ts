@@ -1084,9 +1084,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>드라이브가 잠겼습니다. 빼기 전에 드라이브의 다른 볼륨을 꺼내세요.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>드라이브가 아직 잠금 해제되어 있습니다. 로그아웃하려면 이 프로그램을 다시 시작하세요.</translation>
+        <translation>드라이브가 아직 잠금 해제되어 있습니다. 잠그려면 이 프로그램을 다시 시작하세요.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

@@ -1084,9 +1084,9 @@ Alles in het beveiligde gebied wordt voorgoed onleesbaar, ook met het juiste wac
         <translation>Het station is vergrendeld. Werp de andere volumes ervan uit voordat u het loskoppelt.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>Het station is nog steeds ontgrendeld. Start dit programma opnieuw om u af te melden.</translation>
+        <translation>Het station is nog steeds ontgrendeld. Start dit programma opnieuw om het station te vergrendelen.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

@@ -1084,9 +1084,9 @@ Wszystko w obszarze bezpiecznym stanie się na zawsze nieczytelne, nawet z prawi
         <translation>Napęd jest zablokowany. Przed odłączeniem wysuń jego pozostałe woluminy.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>Napęd jest nadal odblokowany. Uruchom ten program ponownie, aby się wylogować.</translation>
+        <translation>Napęd jest nadal odblokowany. Aby go zablokować, uruchom ten program ponownie.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

@@ -237,7 +237,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     </message>
     <message id="IDS_HINT_AUTO_LOG_OFF_MINUTES">
         <source>Log off after: enter 1 to 999 minutes.</source>
-        <translation>Sair após: digite de 1 a 999 minutos.</translation>
+        <translation>Sair da unidade após: digite de 1 a 999 minutos.</translation>
     </message>
     <message id="IDS_HINT_AREA_DIGITS">
         <source>Sizes are whole numbers of MB.</source>
@@ -611,7 +611,7 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
     <message id="IDS_SETTINGS_AUTO_LOG_OFF">
         <source>Lo&amp;g off after</source>
         <extracomment>Reads on: [12] minutes without use</extracomment>
-        <translation>&amp;Sair após</translation>
+        <translation>&amp;Sair da unidade após</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
         <source>Minutes without use until the drive logs off</source>
@@ -1084,9 +1084,9 @@ Tudo na área segura ficará ilegível para sempre, mesmo com a senha correta. I
         <translation>A unidade está bloqueada. Ejete os outros volumes dela antes de desconectá-la.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>A unidade continua desbloqueada. Inicie este programa de novo para sair.</translation>
+        <translation>A unidade continua desbloqueada. Para bloqueá-la, inicie este programa de novo.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

@@ -237,7 +237,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HINT_AUTO_LOG_OFF_MINUTES">
         <source>Log off after: enter 1 to 999 minutes.</source>
-        <translation>Выйти через: введите от 1 до 999 минут.</translation>
+        <translation>Выйти из накопителя через: введите от 1 до 999 минут.</translation>
     </message>
     <message id="IDS_HINT_AREA_DIGITS">
         <source>Sizes are whole numbers of MB.</source>
@@ -611,7 +611,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_SETTINGS_AUTO_LOG_OFF">
         <source>Lo&amp;g off after</source>
         <extracomment>Reads on: [12] minutes without use</extracomment>
-        <translation>В&amp;ыйти через</translation>
+        <translation>В&amp;ыйти из накопителя через</translation>
     </message>
     <message id="IDS_SETTINGS_AUTO_LOG_OFF_PERIOD_NAME">
         <source>Minutes without use until the drive logs off</source>
@@ -839,7 +839,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_UNLOCKED_EXPLANATION">
         <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off before you unplug the drive or leave the computer.</source>
-        <translation>Защищённая область открыта и показана рядом с другими дисками. Новая пуста: отформатируйте её один раз. Выйдите, прежде чем отключить накопитель или оставить компьютер.</translation>
+        <translation>Защищённая область открыта и показана рядом с другими дисками. Новая пуста: отформатируйте её один раз. Выйдите из накопителя, прежде чем отключить его или оставить компьютер.</translation>
     </message>
     <message id="IDS_UNLOCKED_SETTINGS">
         <source>&amp;Settings…</source>
@@ -849,7 +849,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_UNLOCKED_LOG_OFF">
         <source>&amp;Log Off</source>
         <extracomment>Of the drive, not of the computer’s session</extracomment>
-        <translation>&amp;Выйти</translation>
+        <translation>&amp;Выйти из накопителя</translation>
     </message>
     <message id="IDS_UNLOCKED_LOG_OFF_DESCRIPTION">
         <source>Locks the drive and closes the program</source>
@@ -873,7 +873,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_UNLOCKING_EXPLANATION">
         <source>The secure area is open and appears beside your other disks. A new one is blank: format it once. Log off to lock it again, or keep it unlocked and go on working with it.</source>
-        <translation>Защищённая область открыта и показана рядом с другими дисками. Новая пуста: отформатируйте её один раз. Выйдите, чтобы снова заблокировать её, или не блокируйте и продолжайте работу.</translation>
+        <translation>Защищённая область открыта и показана рядом с другими дисками. Новая пуста: отформатируйте её один раз. Выйдите из накопителя, чтобы снова заблокировать его, или не блокируйте и продолжайте работу.</translation>
     </message>
     <message id="IDS_UNLOCKING_SETTINGS">
         <source>&amp;Settings…</source>
@@ -889,7 +889,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_UNLOCKING_LOG_OFF">
         <source>&amp;Log Off</source>
-        <translation>&amp;Выйти</translation>
+        <translation>&amp;Выйти из накопителя</translation>
     </message>
     <message id="IDS_UNLOCKING_LOG_OFF_DESCRIPTION">
         <source>Locks the drive and closes the program</source>
@@ -1084,9 +1084,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>Накопитель заблокирован. Прежде чем отключить его, извлеките остальные его тома.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>Накопитель всё ещё разблокирован. Запустите эту программу снова, чтобы выйти.</translation>
+        <translation>Накопитель всё ещё разблокирован. Чтобы заблокировать его, запустите эту программу снова.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

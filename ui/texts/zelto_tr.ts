@@ -1084,9 +1084,9 @@ Güvenli alandaki her şey, doğru parolayla bile, kalıcı olarak okunamaz olur
         <translation>Sürücü kilitli. Çıkarmadan önce diğer birimlerini de ayırın.</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>Sürücünün kilidi hâlâ açık. Oturumu kapatmak için bu programı yeniden başlatın.</translation>
+        <translation>Sürücünün kilidi hâlâ açık. Kilitlemek için bu programı yeniden başlatın.</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

@@ -1084,9 +1084,9 @@ Everything in the secure area becomes unreadable for good, even with the right p
         <translation>驱动器已锁定。拔出之前，请先弹出其他卷。</translation>
     </message>
     <message id="IDS_NOTICE_STILL_UNLOCKED">
-        <source>The drive is still unlocked. Start this program again to log off.</source>
+        <source>The drive is still unlocked. To lock it, start this program again.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>驱动器仍处于解锁状态。请重新启动此程序以注销。</translation>
+        <translation>驱动器仍处于解锁状态。要锁定它，请重新启动此程序。</translation>
     </message>
     <message id="IDS_NOTICE_SETTINGS_CHANGED">
         <source>The drive’s settings have been changed.</source>

@@ -97,7 +97,7 @@ def a_terminal_in_the_volume_keeps_the_drive_unlocked_and_a_file_manager_does_no
     expect("the file manager still shows the volume", ring.desktop.shows_folder(folder))
     flows.log_off(program, drive)
     expect_equal("what the desktop was given to show", notices.shown(), [
-        notice(CRITICAL, 0, "The drive is still unlocked. Start this program again to log off."),
+        notice(CRITICAL, 0, "The drive is still unlocked. To lock it, start this program again."),
         notice(NORMAL, -1, LOCKED_IN_USE)])
 
 

@@ -172,7 +172,7 @@ def the_desktop_says_that_the_drive_is_locked_once_it_is(ring):
     flows.expect_locked(drive)
     expect_equal("what the desktop has shown", notices.shown(), [
         {"program": "ZELTO DISK", "title": "ZELTO DISK", "urgency": CRITICAL, "limit": 0,
-         "text": "The drive is still unlocked. Start this program again to log off."},
+         "text": "The drive is still unlocked. To lock it, start this program again."},
         {"program": "ZELTO DISK", "title": "ZELTO DISK", "urgency": NORMAL, "limit": -1,
          "text": "The drive is locked. It can be unplugged."}])
 
