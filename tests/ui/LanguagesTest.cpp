@@ -3,6 +3,7 @@
 #include "ui/Strings.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -63,6 +64,39 @@ TEST_F(EveryLanguage, KeepsArgumentsAndNames) {
                 << id.toStdString() << ": " << message.translation.toStdString();
             EXPECT_EQ(message.translation.contains(u'&'), message.source.contains(u'&'))
                 << id.toStdString() << ": " << message.translation.toStdString();
+        }
+    }
+}
+
+// Numbers, words of the language itself, and "Disk1": these may stand bare between words that
+// are read from right to left. Any other one would be drawn in pieces: the USB port 1-3 as 3-1.
+const QStringList ArgumentsOfNoForeignName{
+    "IDS_COMMAND_FAIL_WITH_SENSE_INFO",
+    "IDS_TOTAL_CAPACITY",
+    "IDS_FREE_CAPACITY",
+    "IDS_HINT_KEY_TOO_LONG",
+    "IDS_SIZE_MB",
+    "IDS_SIZE_GB",
+    "IDS_SIZE_TB",
+    "IDS_BAR_NAMED",
+    "IDS_BAR_UNNAMED",
+    "IDS_STEP_CURRENT",
+    "IDS_STEP_FAILED",
+    "IDS_FIELD_DIGITS",
+    "IDS_FIELD_DIGITS_ODD",
+};
+
+TEST_F(EveryLanguage, KeepsAForeignNameWholeBetweenWordsFromRightToLeft) {
+    static const QRegularExpression bare(QStringLiteral("(?<!\u2066)%[1-9]|%[1-9](?!\u2069)"));
+    for (const QString& language : textLanguages()) {
+        if (QLocale(language).textDirection() != Qt::RightToLeft) {
+            continue;
+        }
+        for (const auto& [id, message] : textsOf(language)) {
+            EXPECT_TRUE(ArgumentsOfNoForeignName.contains(id) ||
+                        !message.translation.contains(bare))
+                << language.toStdString() << " " << id.toStdString() << ": "
+                << message.translation.toStdString();
         }
     }
 }

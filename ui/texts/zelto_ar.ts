@@ -213,7 +213,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
         <extracomment>%1 is a list of programs</extracomment>
-        <translation>ما زال يستخدم القرص: %1</translation>
+        <translation>ما زال يستخدم القرص: &#x2066;%1&#x2069;</translation>
     </message>
     <message id="IDS_HINT_NEXT_AREAS">
         <source>Next: lay out the areas.</source>
@@ -1138,15 +1138,15 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_DRIVE_SERIAL">
         <source>Serial number: %1</source>
-        <translation>الرقم التسلسلي: %1</translation>
+        <translation>الرقم التسلسلي: &#x2066;%1&#x2069;</translation>
     </message>
     <message id="IDS_DRIVE_SERIAL_AND_PORT">
         <source>Serial number: %1, in USB port %2</source>
-        <translation>الرقم التسلسلي: %1، في منفذ USB رقم %2</translation>
+        <translation>الرقم التسلسلي: &#x2066;%1&#x2069;، في منفذ USB رقم &#x2066;%2&#x2069;</translation>
     </message>
     <message id="IDS_DRIVE_PORT">
         <source>No serial number, in USB port %1</source>
-        <translation>دون رقم تسلسلي، في منفذ USB رقم %1</translation>
+        <translation>دون رقم تسلسلي، في منفذ USB رقم &#x2066;%1&#x2069;</translation>
     </message>
     <message id="IDS_STRENGTH_WEAK">
         <source>Strength: weak</source>
@@ -1172,7 +1172,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_HELP_DESCRIPTION">
         <source>Opens the manual’s page about this window (F1). This is version %1 of the program.</source>
-        <translation>يفتح صفحة الدليل عن هذه النافذة (F1). هذا هو الإصدار %1 من البرنامج.</translation>
+        <translation>يفتح صفحة الدليل عن هذه النافذة (F1). هذا هو الإصدار &#x2066;%1&#x2069; من البرنامج.</translation>
     </message>
     <message id="IDS_HINT_NO_MANUAL">
         <source>The manual could not be opened: it was not found beside the program, or this computer has nothing to show it with.</source>
@@ -1181,7 +1181,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_HINT_VERSION">
         <source>Version %1 of the program.</source>
         <extracomment>Below messages that support is asked about</extracomment>
-        <translation>الإصدار %1 من البرنامج.</translation>
+        <translation>الإصدار &#x2066;%1&#x2069; من البرنامج.</translation>
     </message>
     <message id="IDS_ALERT_INFORMATION">
         <source>Information</source>
