@@ -48,7 +48,7 @@ Nastavit hodiny jednotky podle tohoto počítače, %1? Nejprve ověřte, že je 
 To use the drive again, start this program if it has closed, choose “Clear All” in the settings, then plug the drive out and in and start the program once more to set it up.</source>
         <translation>Jednotka se natrvalo zamkla a její klíč je ztracen: po příliš mnoha chybných heslech, protože vypršel čas, nebo protože byl klíč smazán. Co bylo v zabezpečené oblasti, už nikdo nepřečte.
 
-Chcete-li jednotku znovu používat, spusťte tento program, pokud se zavřel, zvolte v nastavení „Vymazat vše“, potom jednotku odpojte a připojte a spusťte program ještě jednou, abyste ji nastavili.</translation>
+Chcete-li jednotku znovu používat, spusťte tento program, pokud se zavřel, zvolte v nastavení „Vymazat vše“, potom jednotku odpojte a připojte a spusťte program ještě jednou, abyste ji zprovoznili.</translation>
     </message>
     <message id="IDS_ERR_AUTHENTICATE_FAILED">
         <source>This password is not right. Check Caps Lock and try again; the drive may allow only a few tries.</source>
@@ -107,15 +107,15 @@ Pro podporu: stavový klíč (sense) %1, kód %2, kvalifikátor %3.</translation
     <message id="IDS_NOW_SETTING">
         <source>Setting up the drive. Please do not unplug it.</source>
         <extracomment>Blinks while the drive is set up</extracomment>
-        <translation>Jednotka se nastavuje. Neodpojujte ji.</translation>
+        <translation>Jednotka se zprovozňuje. Neodpojujte ji.</translation>
     </message>
     <message id="IDS_SETTING_COMPLETE">
         <source>The drive is set up. Its areas are still blank: format each once before you use it, a secure one after you have logged in.</source>
-        <translation>Jednotka je nastavena. Její oblasti jsou zatím prázdné: každou před použitím jednou naformátujte, zabezpečenou po přihlášení.</translation>
+        <translation>Jednotka je zprovozněna. Její oblasti jsou zatím prázdné: každou před použitím jednou naformátujte, zabezpečenou po přihlášení.</translation>
     </message>
     <message id="IDS_ERR_FORMAT">
         <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
-        <translation>Jednotka je nastavena a lze ji používat. Pouze její oblast nástrojů se nepodařilo naformátovat, takže na ní tento program není: používejte jednotku s programem v tomto počítači.</translation>
+        <translation>Jednotka je zprovozněna a lze ji používat. Pouze její oblast nástrojů se nepodařilo naformátovat, takže na ní tento program není: používejte jednotku s programem v tomto počítači.</translation>
     </message>
     <message id="IDS_ERR_FILE_COPY">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
@@ -123,7 +123,7 @@ Pro podporu: stavový klíč (sense) %1, kód %2, kvalifikátor %3.</translation
 From: %1
 To: %2</source>
         <extracomment>%1 and %2 are names of files</extracomment>
-        <translation>Jednotka je nastavena a lze ji používat. Pouze tento program se nepodařilo zkopírovat do její oblasti nástrojů: používejte jednotku s programem v tomto počítači.
+        <translation>Jednotka je zprovozněna a lze ji používat. Pouze tento program se nepodařilo zkopírovat do její oblasti nástrojů: používejte jednotku s programem v tomto počítači.
 
 Odkud: %1
 Kam: %2</translation>
@@ -897,11 +897,11 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     </message>
     <message id="IDS_SETUP_TITLE">
         <source>ZELTO DISK: Setting Up</source>
-        <translation>ZELTO DISK: nastavování</translation>
+        <translation>ZELTO DISK: zprovoznění</translation>
     </message>
     <message id="IDS_SETUP_HEADING">
         <source>Your drive is being set up.</source>
-        <translation>Vaše jednotka se nastavuje.</translation>
+        <translation>Vaše jednotka se zprovozňuje.</translation>
     </message>
     <message id="IDS_SETUP_EXPLANATION">
         <source>This takes about a minute. Leave the drive plugged in until it is finished.</source>
@@ -909,11 +909,11 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     </message>
     <message id="IDS_SETUP_STEPS_NAME">
         <source>Steps of the set-up</source>
-        <translation>Kroky nastavení</translation>
+        <translation>Kroky zprovoznění</translation>
     </message>
     <message id="IDS_SETUP_PROGRESS_NAME">
         <source>Progress of the set-up</source>
-        <translation>Průběh nastavení</translation>
+        <translation>Průběh zprovoznění</translation>
     </message>
     <message id="IDS_SETUP_FINISH">
         <source>&amp;Finish</source>
@@ -1061,7 +1061,7 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     <message id="IDS_AWAKE_SETUP">
         <source>The drive is being set up</source>
         <extracomment>Why the computer does not go to sleep now, shown by the desktop</extracomment>
-        <translation>Jednotka se nastavuje</translation>
+        <translation>Jednotka se zprovozňuje</translation>
     </message>
     <message id="IDS_AWAKE_PASSWORDS">
         <source>The passwords are being changed</source>
@@ -1096,17 +1096,17 @@ Vše v zabezpečené oblasti bude navždy nečitelné, i se správným heslem. T
     <message id="IDS_NOTICE_CLEARED">
         <source>Everything on the drive has been cleared. Unplug it, plug it in again, then start this program to set it up again.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
-        <translation>Vše na jednotce bylo vymazáno. Odpojte ji a připojte, potom spusťte tento program, abyste ji znovu nastavili.</translation>
+        <translation>Vše na jednotce bylo vymazáno. Odpojte ji a připojte, potom spusťte tento program, abyste ji znovu zprovoznili.</translation>
     </message>
     <message id="IDS_NOTICE_SET_UP">
         <source>The drive is set up. Format each area once before you use it.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
-        <translation>Jednotka je nastavena. Každou oblast před použitím jednou naformátujte.</translation>
+        <translation>Jednotka je zprovozněna. Každou oblast před použitím jednou naformátujte.</translation>
     </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>Jednotka je nastavena a lze ji používat. Pouze tento program se nepodařilo zkopírovat do její oblasti nástrojů: používejte jednotku s programem v tomto počítači.</translation>
+        <translation>Jednotka je zprovozněna a lze ji používat. Pouze tento program se nepodařilo zkopírovat do její oblasti nástrojů: používejte jednotku s programem v tomto počítači.</translation>
     </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>

@@ -107,15 +107,15 @@ For support: sense key %1, code %2, qualifier %3.</source>
     <message id="IDS_NOW_SETTING">
         <source>Setting up the drive. Please do not unplug it.</source>
         <extracomment>Blinks while the drive is set up</extracomment>
-        <translation>正在设置驱动器。请勿拔出。</translation>
+        <translation>正在对驱动器进行初始设置。请勿拔出。</translation>
     </message>
     <message id="IDS_SETTING_COMPLETE">
         <source>The drive is set up. Its areas are still blank: format each once before you use it, a secure one after you have logged in.</source>
-        <translation>驱动器已设置完成。各区域仍为空白：使用前请分别格式化一次，安全区域请在登录后格式化。</translation>
+        <translation>驱动器的初始设置已完成。各区域仍为空白：使用前请分别格式化一次，安全区域请在登录后格式化。</translation>
     </message>
     <message id="IDS_ERR_FORMAT">
         <source>The drive is set up and can be used. Only its tool area could not be formatted, so the drive does not carry this program: use the drive with the program on this computer.</source>
-        <translation>驱动器已设置完成，可以使用。只是无法格式化其工具区域，因此驱动器上没有此程序：请使用此计算机上的程序。</translation>
+        <translation>驱动器的初始设置已完成，可以使用。只是无法格式化其工具区域，因此驱动器上没有此程序：请使用此计算机上的程序。</translation>
     </message>
     <message id="IDS_ERR_FILE_COPY">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.
@@ -123,7 +123,7 @@ For support: sense key %1, code %2, qualifier %3.</source>
 From: %1
 To: %2</source>
         <extracomment>%1 and %2 are names of files</extracomment>
-        <translation>驱动器已设置完成，可以使用。只是无法将此程序复制到其工具区域：请使用此计算机上的程序。
+        <translation>驱动器的初始设置已完成，可以使用。只是无法将此程序复制到其工具区域：请使用此计算机上的程序。
 
 源：%1
 目标：%2</translation>
@@ -901,7 +901,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     </message>
     <message id="IDS_SETUP_HEADING">
         <source>Your drive is being set up.</source>
-        <translation>正在设置驱动器。</translation>
+        <translation>正在对驱动器进行初始设置。</translation>
     </message>
     <message id="IDS_SETUP_EXPLANATION">
         <source>This takes about a minute. Leave the drive plugged in until it is finished.</source>
@@ -1061,7 +1061,7 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_AWAKE_SETUP">
         <source>The drive is being set up</source>
         <extracomment>Why the computer does not go to sleep now, shown by the desktop</extracomment>
-        <translation>正在设置驱动器</translation>
+        <translation>正在对驱动器进行初始设置</translation>
     </message>
     <message id="IDS_AWAKE_PASSWORDS">
         <source>The passwords are being changed</source>
@@ -1101,12 +1101,12 @@ Everything in the secure area becomes unreadable for good, even with the right p
     <message id="IDS_NOTICE_SET_UP">
         <source>The drive is set up. Format each area once before you use it.</source>
         <extracomment>A notification on the desktop after the program has closed</extracomment>
-        <translation>驱动器已设置完成。使用各区域前，请分别格式化一次。</translation>
+        <translation>驱动器的初始设置已完成。使用各区域前，请分别格式化一次。</translation>
     </message>
     <message id="IDS_NOTICE_SET_UP_WITHOUT_TOOL">
         <source>The drive is set up and can be used. Only this program could not be copied to its tool area: use the drive with the program on this computer.</source>
         <extracomment>A notification that stays, after the program has closed</extracomment>
-        <translation>驱动器已设置完成，可以使用。只是无法将此程序复制到其工具区域：请使用此计算机上的程序。</translation>
+        <translation>驱动器的初始设置已完成，可以使用。只是无法将此程序复制到其工具区域：请使用此计算机上的程序。</translation>
     </message>
     <message id="IDS_RULE_TITLE">
         <source>ZELTO DISK: Device Rule</source>
