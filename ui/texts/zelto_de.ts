@@ -208,7 +208,7 @@ Alles im sicheren Bereich wird endgültig unlesbar, auch mit dem richtigen Passw
     </message>
     <message id="IDS_HINT_DRIVE_IN_USE">
         <source>One ZELTO DISK that is plugged in is not in this list, because another copy of this program uses it. Close that copy, then start this program again.</source>
-        <translation>Eine angeschlossene ZELTO DISK steht nicht in dieser Liste, weil dieses Programm noch einmal läuft und sie verwendet. Schließen Sie das andere Fenster und starten Sie dieses Programm dann erneut.</translation>
+        <translation>Eine angeschlossene ZELTO DISK steht nicht in dieser Liste, weil dieses Programm noch einmal läuft und sie verwendet. Beenden Sie es dort und starten Sie es dann hier erneut.</translation>
     </message>
     <message id="IDS_HINT_BUSY_PROGRAMS">
         <source>Still using the drive: %1</source>
