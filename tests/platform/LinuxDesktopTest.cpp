@@ -201,7 +201,7 @@ TEST_F(LinuxDesktopLogOutTest, IsHeldOffByTheSessionManagerUntilTheHoldIsGone) {
     ASSERT_EQ(calls.size(), 2);
     EXPECT_EQ(calls[1].member(), "Uninhibit");
     EXPECT_EQ(calls[1].signature(), "u");
-    EXPECT_EQ(calls[1].arguments(), QVariantList({FakeSessionManager::Cookie}));
+    EXPECT_EQ(calls[1].arguments(), QVariantList() << FakeSessionManager::Cookie);
 }
 
 TEST_F(LinuxDesktopLogOutTest, IsHeldOffTogetherWithShutdownAndSleep) {
